@@ -1,0 +1,73 @@
+#ifndef OMBREL_PHOTO_UTIL_I_SERIALIZABLE_BASE_H
+#define OMBREL_PHOTO_UTIL_I_SERIALIZABLE_BASE_H
+
+#include "Export.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Ombrel
+{
+class PropertyTree;
+}
+
+namespace Ombrel::PhotoUtil
+{
+
+/// What turns into a tree and back. The order of the virtual operations is fixed.
+class OMBREL_API ISerializableBase
+{
+public:
+    class IPropertyAccess;
+
+    virtual const std::string& GetClassId() const = 0;
+
+    /// Replaces `tree` by the stored form of this object: a map, whatever the tree was.
+    virtual void Serialize(PropertyTree& tree) const = 0;
+
+    /// Reads the stored form. A key that is missing resets its field to the default, an unknown key is ignored. A failure
+    /// stops the read where it stands: what was read stays, the rest keeps its old value.
+    /// @throws what the tree throws for a value of the wrong state or kind (`std::invalid_argument`, `std::out_of_range`)
+    virtual void Deserialize(const PropertyTree& tree) = 0;
+
+    /// A view on the single properties, or an empty pointer where there is none. It does not own the object and must not
+    /// outlive it.
+    virtual std::unique_ptr<const IPropertyAccess> GetPropertyAccess() const;
+    virtual std::unique_ptr<IPropertyAccess> GetPropertyAccess();
+
+    virtual ~ISerializableBase();
+
+protected:
+    ISerializableBase() = default;
+    ISerializableBase(const ISerializableBase&) = default;
+    ISerializableBase(ISerializableBase&&) noexcept = default;
+    ISerializableBase& operator=(const ISerializableBase&) = default;
+    ISerializableBase& operator=(ISerializableBase&&) noexcept = default;
+};
+
+/// Key-by-key access to the properties of one object. The order of the virtual operations is fixed.
+class OMBREL_API ISerializableBase::IPropertyAccess
+{
+public:
+    virtual ~IPropertyAccess();
+
+    /// The property in its stored form, also where it has its default; a null tree for an unknown key.
+    virtual PropertyTree GetProperty(const std::string& key) const = 0;
+
+    /// Reads one property from its stored form and leaves all others; an unknown key does nothing.
+    /// @throws what `Deserialize` throws for the same value
+    virtual void SetProperty(const std::string& key, const PropertyTree& value) = 0;
+
+    /// The keys of all properties, in byte order.
+    virtual std::vector<std::string> ListProperties() const = 0;
+
+protected:
+    IPropertyAccess() = default;
+    IPropertyAccess(const IPropertyAccess&) = default;
+    IPropertyAccess& operator=(const IPropertyAccess&) = default;
+};
+
+} // namespace Ombrel::PhotoUtil
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_ADJUSTER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_ADJUSTER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectAdjuster.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API AdjusterSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectAdjuster, AdjusterSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~AdjusterSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectAdjuster, AdjusterSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,17 @@
+#include "Proc/EffectSettings/ColorBalanceAutoSettings.h"
+
+#include "Proc/EffectSettings/EffectSettingsBody.h"
+
+namespace Ombrel::PhotoCore
+{
+
+template class EffectSettingsImpl<Proc::SettingsEffectColorBalanceAuto, ColorBalanceAutoSettings>;
+
+ColorBalanceAutoSettings::~ColorBalanceAutoSettings() = default;
+
+bool ColorBalanceAutoSettings::IsEmpty() const
+{
+    return settings.IsEmpty();
+}
+
+} // namespace Ombrel::PhotoCore

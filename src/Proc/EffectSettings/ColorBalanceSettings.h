@@ -1,0 +1,25 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_COLOR_BALANCE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_COLOR_BALANCE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectColorBalance.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API ColorBalanceSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectColorBalance, ColorBalanceSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~ColorBalanceSettings() override;
+
+    /// What the record says.
+    bool IsEmpty() const override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectColorBalance, ColorBalanceSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,17 @@
+#include "Proc/EffectSettings/DetailsEnhanceSettings.h"
+
+#include "Proc/EffectSettings/EffectSettingsBody.h"
+
+namespace Ombrel::PhotoCore
+{
+
+template class EffectSettingsImpl<Proc::SettingsEffectDetailsEnhance, DetailsEnhanceSettings>;
+
+DetailsEnhanceSettings::~DetailsEnhanceSettings() = default;
+
+bool DetailsEnhanceSettings::IsEmpty() const
+{
+    return settings.IsEmpty();
+}
+
+} // namespace Ombrel::PhotoCore

@@ -1,0 +1,127 @@
+#include "Proc/EffectSettings/EffectSettings.h"
+
+#include "Proc/ImplNames.h"
+#include "Proc/Reflection/Reflected.h"
+#include "Proc/Settings/StoredKeys.h"
+
+#include <stdexcept>
+
+namespace Ombrel::PhotoCore
+{
+namespace
+{
+
+namespace StoredKeys = Proc::StoredKeys;
+
+// Counts the effects in whose reads this thread stands. Every level costs stack, which a stored tree must not exhaust.
+class NestingGuard
+{
+public:
+    NestingGuard()
+    {
+        if (s_depth == LIMIT)
+        {
+            throw std::length_error("effects stand in effects more than 512 levels deep");
+        }
+        ++s_depth;
+    }
+
+    NestingGuard(const NestingGuard&) = delete;
+    NestingGuard& operator=(const NestingGuard&) = delete;
+
+    ~NestingGuard() { --s_depth; }
+
+private:
+    static constexpr int LIMIT = 512;
+    static thread_local int s_depth;
+};
+
+thread_local int NestingGuard::s_depth = 0;
+
+} // namespace
+
+EffectSettings::EffectSettings() : m_implName(Proc::ImplNames::DEFAULT_NAME) {}
+EffectSettings::EffectSettings(const EffectSettings&) = default;
+EffectSettings::EffectSettings(EffectSettings&&) noexcept = default;
+EffectSettings& EffectSettings::operator=(const EffectSettings&) = default;
+EffectSettings& EffectSettings::operator=(EffectSettings&&) noexcept = default;
+EffectSettings::~EffectSettings() = default;
+
+void EffectSettings::Serialize(PropertyTree& tree) const
+{
+    constexpr Proc::WriteFlags flags{.resetTargets = true, .omitDefaults = true};
+    tree = PropertyTree();
+    tree.convertToMap();
+    if (!(m_helperSettings == Proc::Reflected<HelperSettings>::Default()))
+    {
+        Proc::Codec<HelperSettings>::Write(tree[StoredKeys::HELPER_SETTINGS], m_helperSettings, &flags);
+    }
+    if (m_implName != Proc::ImplNames::DEFAULT_NAME)
+    {
+        Proc::WriteString(tree[StoredKeys::IMPL_NAME], m_implName);
+    }
+}
+
+void EffectSettings::Deserialize(const PropertyTree& tree)
+{
+    constexpr Proc::ReadFlags flags{.resetMissing = true};
+    const PropertyTree::Map& map = tree.getMap();
+    if (const auto found = map.find(StoredKeys::IMPL_NAME); found != map.end())
+    {
+        Proc::ReadString(found->second, m_implName);
+    }
+    if (const auto found = map.find(StoredKeys::HELPER_SETTINGS); found != map.end())
+    {
+        Proc::Codec<HelperSettings>::Read(found->second, m_helperSettings, &flags);
+    }
+}
+
+const std::string& EffectSettings::GetImplName() const
+{
+    return m_implName;
+}
+
+const HelperSettings& EffectSettings::GetHelperSettings() const
+{
+    return m_helperSettings;
+}
+
+HelperSettings& EffectSettings::HelperSetting()
+{
+    return m_helperSettings;
+}
+
+bool EffectSettings::IsAdditive() const
+{
+    return false;
+}
+
+bool EffectSettings::IsEmpty() const
+{
+    return false;
+}
+
+void EffectSettings::SerializePtr(PropertyTree& tree, const std::shared_ptr<const IEffectSettings>& effect)
+{
+    if (!effect)
+    {
+        tree = PropertyTree();
+        return;
+    }
+    effect->Serialize(tree);
+    tree[StoredKeys::CLASS_ID] = PropertyTreeScalar(effect->GetClassId());
+}
+
+void EffectSettings::DeserializePtr(const PropertyTree& tree, std::shared_ptr<IEffectSettings>& effect)
+{
+    const NestingGuard guard;
+    if (tree.isNull())
+    {
+        effect.reset();
+        return;
+    }
+    effect = CreateEffectSettings(tree.getMap().at(StoredKeys::CLASS_ID).getScalar().toString());
+    effect->Deserialize(tree);
+}
+
+} // namespace Ombrel::PhotoCore

@@ -1,0 +1,57 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_H
+
+#include "Export.h"
+#include "Proc/EffectSettings/HelperSettings.h"
+#include "Proc/EffectSettings/IEffectSettings.h"
+
+#include <memory>
+#include <string>
+
+namespace Ombrel::PhotoCore
+{
+
+/// What every effect has beside its record. Both members stand in the same map as the record's keys, as "implName" and
+/// "helperSettings", each left out where it has its default.
+class OMBREL_API EffectSettings : public IEffectSettings
+{
+public:
+    EffectSettings(const EffectSettings&);
+    EffectSettings(EffectSettings&&) noexcept;
+    EffectSettings& operator=(const EffectSettings&);
+    EffectSettings& operator=(EffectSettings&&) noexcept;
+    ~EffectSettings() override;
+
+    void Serialize(PropertyTree& tree) const override;
+
+    /// Unlike the fields of a record, the two members keep what they hold where their key is missing.
+    void Deserialize(const PropertyTree& tree) override;
+
+    const std::string& GetImplName() const override;
+    const HelperSettings& GetHelperSettings() const override;
+    HelperSettings& HelperSetting() override;
+    bool IsAdditive() const override;
+    bool IsEmpty() const override;
+
+    /// Stores an effect together with its class id, under the key "name"; a null pointer is a null tree.
+    static void SerializePtr(PropertyTree& tree, const std::shared_ptr<const IEffectSettings>& effect);
+
+    /// Makes the effect that the tree names, assigns it to `effect` and reads it; a null tree is a null pointer. A failure
+    /// before the new object stands leaves `effect` alone; a failure in its read leaves it the new object, partly read.
+    /// @throws std::out_of_range "invalid map<K, T> key" if there is no "name"
+    /// @throws std::invalid_argument if the tree is no map or "name" no string
+    /// @throws Exception "Unknown Effect Setting type (...)!" for an unknown class id
+    /// @throws std::length_error if effects stand in effects more than 512 levels deep
+    /// @throws what `Deserialize` throws
+    static void DeserializePtr(const PropertyTree& tree, std::shared_ptr<IEffectSettings>& effect);
+
+protected:
+    EffectSettings();
+
+    std::string m_implName;
+    HelperSettings m_helperSettings;
+};
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,128 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_BODY_H
+#define OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_BODY_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Reflection/FieldList.h"
+#include "Proc/Reflection/PropertyAccessImpl.h"
+#include "Proc/Settings/Settings.h"
+
+#include <memory>
+#include <type_traits>
+
+namespace Ombrel::PhotoCore
+{
+
+/// A settings class with a field list of its own stores its own members in place of the record's.
+template <class Derived>
+concept StoresItself = requires
+{
+    typename Proc::Fields<Derived>::List;
+};
+
+template <class Record, class Derived> const std::string& EffectSettingsImpl<Record, Derived>::GetClassId() const
+{
+    return Record::CLASS_ID;
+}
+
+template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>::Serialize(PropertyTree& tree) const
+{
+    EffectSettings::Serialize(tree);
+    if constexpr (Derived::USES_FIELD_LIST)
+    {
+        constexpr Proc::WriteFlags flags{.resetTargets = false, .omitDefaults = true};
+        if constexpr (StoresItself<Derived>)
+        {
+            Proc::Reflected<Derived>::Write({static_cast<const Derived&>(*this), tree.getMap(), &flags});
+        }
+        else
+        {
+            Proc::Reflected<Record>::Write({settings, tree.getMap(), &flags});
+        }
+    }
+}
+
+template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>::Deserialize(const PropertyTree& tree)
+{
+    EffectSettings::Deserialize(tree);
+    if constexpr (Derived::USES_FIELD_LIST)
+    {
+        constexpr Proc::ReadFlags flags{.resetMissing = true};
+        if constexpr (StoresItself<Derived>)
+        {
+            Proc::Reflected<Derived>::Read({static_cast<Derived&>(*this), tree.getMap(), &flags});
+        }
+        else
+        {
+            Proc::Reflected<Record>::Read({settings, tree.getMap(), &flags});
+        }
+    }
+}
+
+template <class Record, class Derived>
+std::unique_ptr<const PhotoUtil::ISerializableBase::IPropertyAccess>
+EffectSettingsImpl<Record, Derived>::GetPropertyAccess() const
+{
+    // The access object promises nothing about const: what is handed out can only be read through.
+    return const_cast<EffectSettingsImpl*>(this)->EffectSettingsImpl::GetPropertyAccess();
+}
+
+template <class Record, class Derived>
+std::unique_ptr<PhotoUtil::ISerializableBase::IPropertyAccess> EffectSettingsImpl<Record, Derived>::GetPropertyAccess()
+{
+    if constexpr (Derived::USES_FIELD_LIST && !StoresItself<Derived>)
+    {
+        return std::make_unique<Proc::PropertyAccessImpl<Record>>(&settings);
+    }
+    else
+    {
+        return nullptr;
+    }
+}
+
+template <class Record, class Derived> std::shared_ptr<IEffectSettings> EffectSettingsImpl<Record, Derived>::Clone() const
+{
+    return std::make_shared<Derived>(static_cast<const Derived&>(*this));
+}
+
+template <class Record, class Derived> const Proc::Settings& EffectSettingsImpl<Record, Derived>::GetEffectSettings() const
+{
+    return settings;
+}
+
+template <class Record, class Derived> Proc::Settings& EffectSettingsImpl<Record, Derived>::GetEffectSettingsRef()
+{
+    return settings;
+}
+
+template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>::SetEffectSettings(const Proc::Settings& other)
+{
+    settings = dynamic_cast<const Record&>(other);
+}
+
+template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>::Add(const IEffectSettings& other)
+{
+    Add(dynamic_cast<const Derived&>(other));
+}
+
+template <class Record, class Derived> bool EffectSettingsImpl<Record, Derived>::operator==(const IEffectSettings& other) const
+{
+    return other.GetEffectSettings().GetClassId() == settings.GetClassId() && operator==(dynamic_cast<const Derived&>(other));
+}
+
+template <class Record, class Derived> bool EffectSettingsImpl<Record, Derived>::operator==(const Derived& other) const
+{
+    if constexpr (requires { settings == settings; })
+    {
+        return settings == other.GetTypedSettings();
+    }
+    else
+    {
+        return Proc::Reflected<Record>::Equal(settings, other.GetTypedSettings());
+    }
+}
+
+template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>::Add(const Derived&) {}
+
+} // namespace Ombrel::PhotoCore
+
+#endif

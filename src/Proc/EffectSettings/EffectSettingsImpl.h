@@ -1,0 +1,110 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_IMPL_H
+#define OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_IMPL_H
+
+#include "Proc/EffectSettings/EffectSettings.h"
+
+#include <concepts>
+#include <memory>
+#include <string>
+
+namespace Ombrel::PhotoCore
+{
+
+/// The settings class `Derived` around a record held by value. This and the layers below are declared here; their bodies stand
+/// in `EffectSettingsBody.h`, for the one file of each settings class that compiles them.
+template <class Record, class Derived> class OMBREL_API EffectSettingsImpl : public EffectSettings
+{
+public:
+    using RecordType = Record;
+
+    EffectSettingsImpl() : settings(MakeDefaultRecord()) {}
+    explicit EffectSettingsImpl(const Record& record) : settings(record) {}
+
+    static std::shared_ptr<Derived> Create(const Record& record) { return std::make_shared<Derived>(record); }
+
+    /// A new object with a default record.
+    static std::shared_ptr<IEffectSettings> CreateBase() { return std::make_shared<Derived>(); }
+
+    Record& GetTypedSettings() noexcept { return settings; }
+    const Record& GetTypedSettings() const noexcept { return settings; }
+
+    const std::string& GetClassId() const override;
+    void Serialize(PropertyTree& tree) const override;
+    void Deserialize(const PropertyTree& tree) override;
+    std::unique_ptr<const IPropertyAccess> GetPropertyAccess() const override;
+    std::unique_ptr<IPropertyAccess> GetPropertyAccess() override;
+    std::shared_ptr<IEffectSettings> Clone() const override;
+    const Proc::Settings& GetEffectSettings() const override;
+    Proc::Settings& GetEffectSettingsRef() override;
+    void SetEffectSettings(const Proc::Settings& other) override;
+    void Add(const IEffectSettings& other) override;
+    bool operator==(const IEffectSettings& other) const override;
+
+    /// Compares the records and nothing else.
+    virtual bool operator==(const Derived& other) const;
+
+    /// Does nothing, but for the effects that are additive.
+    virtual void Add(const Derived& other);
+
+protected:
+    // Whether the stored form comes from a field list; the reflection layer says that it does.
+    static constexpr bool USES_FIELD_LIST = false;
+
+    Record settings;
+
+private:
+    // A record without a default constructor says itself what its default is.
+    static Record MakeDefaultRecord()
+    {
+        if constexpr (std::default_initializable<Record>)
+        {
+            return Record();
+        }
+        else
+        {
+            return Record::MakeDefault();
+        }
+    }
+};
+
+/// Adds how many input images the effect takes.
+template <class Record, class Derived, IEffectSettings::InputType Input>
+class OMBREL_API EffectSettingsInput : public EffectSettingsImpl<Record, Derived>
+{
+public:
+    using EffectSettingsImpl<Record, Derived>::EffectSettingsImpl;
+
+    IEffectSettings::InputType GetInputType() override { return Input; }
+};
+
+/// Marks a class whose stored form comes from a field list: the record's, or the class's own where it has one. The former also
+/// has a property access, the latter has none.
+template <class Record, class Derived, IEffectSettings::InputType Input>
+class OMBREL_API EffectSettingsReflection : public EffectSettingsInput<Record, Derived, Input>
+{
+public:
+    using EffectSettingsInput<Record, Derived, Input>::EffectSettingsInput;
+
+protected:
+    friend EffectSettingsImpl<Record, Derived>;
+
+    static constexpr bool USES_FIELD_LIST = true;
+};
+
+template <class Record, class Derived>
+using EffectSettingsOneInput = EffectSettingsInput<Record, Derived, IEffectSettings::InputType::One>;
+template <class Record, class Derived>
+using EffectSettingsTwoInput = EffectSettingsInput<Record, Derived, IEffectSettings::InputType::Two>;
+template <class Record, class Derived>
+using EffectSettingsVarInput = EffectSettingsInput<Record, Derived, IEffectSettings::InputType::Var>;
+
+template <class Record, class Derived>
+using EffectSettingsOneInputReflection = EffectSettingsReflection<Record, Derived, IEffectSettings::InputType::One>;
+template <class Record, class Derived>
+using EffectSettingsTwoInputReflection = EffectSettingsReflection<Record, Derived, IEffectSettings::InputType::Two>;
+template <class Record, class Derived>
+using EffectSettingsVarInputReflection = EffectSettingsReflection<Record, Derived, IEffectSettings::InputType::Var>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,60 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_SIMPLE_H
+#define OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_SIMPLE_H
+
+#include "Proc/EffectSettings/EffectSettings.h"
+
+#include <memory>
+#include <string>
+
+namespace Ombrel::PhotoCore
+{
+
+/// An effect around any record, for an effect that has no settings class of its own. Copies and clones share the record.
+///
+/// Record and input type are not stored: what is read back from a tree has no record and takes one image. An effect without a
+/// record answers questions with an empty record of its own class id and throws `std::logic_error` where its record would
+/// change.
+class OMBREL_API EffectSettingsSimple : public EffectSettings
+{
+public:
+    static constexpr const char* CLASS_NAME = "effectSettingsSimple";
+    static const std::string CLASS_ID;
+
+    explicit EffectSettingsSimple(InputType type = InputType::One, std::shared_ptr<Proc::Settings> record = nullptr);
+    ~EffectSettingsSimple() override;
+
+    static std::shared_ptr<EffectSettingsSimple> Create(const std::shared_ptr<Proc::Settings>& record);
+    static std::shared_ptr<EffectSettingsSimple> Create(InputType type, std::shared_ptr<Proc::Settings> record);
+
+    /// One input and no record.
+    static std::shared_ptr<IEffectSettings> CreateBase();
+
+    /// Its own class id, whatever the record is.
+    const std::string& GetClassId() const override;
+
+    std::shared_ptr<IEffectSettings> Clone() const override;
+    const Proc::Settings& GetEffectSettings() const override;
+    Proc::Settings& GetEffectSettingsRef() override;
+    InputType GetInputType() override;
+
+    /// Calls the assignment of `Proc::Settings` on the record, which copies nothing of the derived part.
+    void SetEffectSettings(const Proc::Settings& other) override;
+
+    /// Does nothing.
+    void Add(const IEffectSettings& other) override;
+
+    /// False, also for an object with itself: nothing is known about the record's comparison.
+    bool operator==(const IEffectSettings& other) const override;
+    virtual bool operator==(const EffectSettingsSimple& other) const;
+
+    void SetInputType(InputType type);
+    void SetImplName(const std::string& name);
+
+private:
+    InputType inputType;
+    std::shared_ptr<Proc::Settings> settings;
+};
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,26 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_EMPTY_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_EMPTY_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectEmpty.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API EmptySettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectEmpty, EmptySettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~EmptySettings() override;
+
+    using EffectSettingsImpl::operator==;
+
+    /// True: an effect that does nothing is like any other, whatever its value.
+    bool operator==(const EmptySettings& other) const override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectEmpty, EmptySettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,78 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_HELPER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_HELPER_SETTINGS_H
+
+#include "Export.h"
+#include "PhotoUtil/ISerializable.h"
+
+#include <cstdint>
+#include <limits>
+#include <set>
+#include <string>
+
+namespace Ombrel::Proc
+{
+template <class> struct Fields;
+}
+
+namespace Ombrel::PhotoCore
+{
+
+/// What the editor's apply step needs of any effect: undo, how the result meets the mask, and the largest size in pixels.
+class OMBREL_API HelperSettings : public PhotoUtil::ISerializable
+{
+public:
+    enum class ApplySetting : std::int32_t
+    {
+        Invalid = 0,
+        ApplyToMaskOnly = 1,
+        ApplyWithMask = 2,
+        ApplyAndSetMask = 3,
+        ApplyStop = 4,
+        ApplyToAlpha = 5,
+        ApplyAndAddToUndo = 6,
+    };
+
+    HelperSettings();
+    HelperSettings(const HelperSettings&);
+    HelperSettings(HelperSettings&&) noexcept;
+    HelperSettings& operator=(const HelperSettings&);
+    HelperSettings& operator=(HelperSettings&&) noexcept;
+    ~HelperSettings() override;
+
+    /// "HelperSettings".
+    const std::string& GetClassId() const override;
+
+    void Serialize(PropertyTree& tree) const override;
+    void Deserialize(const PropertyTree& tree) override;
+
+    /// All four values, of another `HelperSettings`.
+    /// @throws std::bad_cast if the class ids agree and `other` is none
+    bool operator==(const PhotoUtil::ISerializable& other) const override;
+    bool operator==(const HelperSettings& other) const;
+
+    bool GetUndoSet() const { return m_undoSet; }
+    void SetUndoSet(bool value) { m_undoSet = value; }
+
+    std::set<ApplySetting> GetApplyMode() const { return m_applyMode; }
+    void SetApplyMode(std::set<ApplySetting> value);
+    bool HasApplyModeFlag(ApplySetting flag) const { return m_applyMode.contains(flag); }
+    void SetApplyModeFlag(ApplySetting flag, bool isSet);
+
+    std::uint32_t GetMaxWidth() const { return m_maxWidth; }
+    void SetMaxWidth(std::uint32_t value) { m_maxWidth = value; }
+
+    std::uint32_t GetMaxHeight() const { return m_maxHeight; }
+    void SetMaxHeight(std::uint32_t value) { m_maxHeight = value; }
+
+private:
+    template <class> friend struct Proc::Fields;
+
+    bool m_undoSet = false;
+    std::set<ApplySetting> m_applyMode;
+    std::uint32_t m_maxWidth = std::numeric_limits<std::uint32_t>::max();
+    std::uint32_t m_maxHeight = std::numeric_limits<std::uint32_t>::max();
+};
+
+} // namespace Ombrel::PhotoCore
+
+#endif

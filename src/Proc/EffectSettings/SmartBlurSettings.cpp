@@ -1,0 +1,17 @@
+#include "Proc/EffectSettings/SmartBlurSettings.h"
+
+#include "Proc/EffectSettings/EffectSettingsBody.h"
+
+namespace Ombrel::PhotoCore
+{
+
+template class EffectSettingsImpl<Proc::SettingsEffectSmartBlur, SmartBlurSettings>;
+
+SmartBlurSettings::~SmartBlurSettings() = default;
+
+bool SmartBlurSettings::IsEmpty() const
+{
+    return settings.IsEmpty();
+}
+
+} // namespace Ombrel::PhotoCore

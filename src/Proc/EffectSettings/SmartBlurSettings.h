@@ -1,0 +1,24 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_SMART_BLUR_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_SMART_BLUR_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectSmartBlur.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API SmartBlurSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectSmartBlur, SmartBlurSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~SmartBlurSettings() override;
+
+    /// What the record says.
+    bool IsEmpty() const override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectSmartBlur, SmartBlurSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

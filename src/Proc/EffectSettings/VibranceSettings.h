@@ -1,0 +1,24 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_VIBRANCE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_VIBRANCE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectVibrance.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API VibranceSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectVibrance, VibranceSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~VibranceSettings() override;
+
+    /// What the record says.
+    bool IsEmpty() const override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectVibrance, VibranceSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

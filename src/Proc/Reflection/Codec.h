@@ -1,0 +1,161 @@
+#ifndef OMBREL_PROC_REFLECTION_CODEC_H
+#define OMBREL_PROC_REFLECTION_CODEC_H
+
+#include "Export.h"
+#include "Proc/Reflection/Context.h"
+#include "Proc/Reflection/EnumNameTable.h"
+#include "PropertyTree/PropertyTree.h"
+
+#include <concepts>
+#include <cstdint>
+#include <set>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace Ombrel::Proc
+{
+
+/// How a value of one kind stands in a tree:
+///
+///     static void Write(PropertyTree& child, const Value& value, const WriteFlags* flags);
+///     static void Read(const PropertyTree& child, Value& value, const ReadFlags* flags);
+///
+/// `Read` decodes `child` into `value`, which holds what the field held before. Whatever the tree throws passes through.
+/// A new kind is a new specialisation, which may stand beside its type. What has none is a record with a field list.
+template <class Value> struct Codec;
+
+// The routines of the plain kinds, one per kind whatever the type, so that a record's own code stays small.
+OMBREL_API void WriteInteger(PropertyTree& child, std::int64_t value);
+OMBREL_API void WriteFloat(PropertyTree& child, double value);
+OMBREL_API void WriteBool(PropertyTree& child, bool value);
+OMBREL_API void WriteString(PropertyTree& child, const std::string& value);
+OMBREL_API void WriteEnum(PropertyTree& child, std::int32_t value, const EnumNameTable& table);
+
+OMBREL_API std::int64_t ReadInteger(const PropertyTree& child);
+OMBREL_API double ReadFloat(const PropertyTree& child);
+OMBREL_API void ReadBool(const PropertyTree& child, bool& value);
+OMBREL_API void ReadString(const PropertyTree& child, std::string& value);
+OMBREL_API std::int32_t ReadEnum(const PropertyTree& child, const EnumNameTable& table);
+
+/// Makes `child` a list of `size` null trees, whatever it was, and hands the list out.
+OMBREL_API PropertyTree::List& WriteList(PropertyTree& child, std::size_t size);
+
+/// The integer kinds: widened to 64 bits on the way out, cut to the low bits on the way in, without a range test.
+template <class Value>
+concept StoredInteger = std::same_as<Value, std::int32_t> || std::same_as<Value, std::uint32_t> ||
+    std::same_as<Value, std::uint8_t> || std::same_as<Value, std::int64_t> || std::same_as<Value, std::uint64_t>;
+
+template <StoredInteger Value> struct Codec<Value>
+{
+    static void Write(PropertyTree& child, Value value, const WriteFlags*)
+    {
+        WriteInteger(child, static_cast<std::int64_t>(value));
+    }
+
+    static void Read(const PropertyTree& child, Value& value, const ReadFlags*)
+    {
+        value = static_cast<Value>(ReadInteger(child));
+    }
+};
+
+/// float64, and float32 widened and narrowed: a value beyond the range of float32 becomes an infinity.
+template <std::floating_point Value> struct Codec<Value>
+{
+    static void Write(PropertyTree& child, Value value, const WriteFlags*) { WriteFloat(child, value); }
+
+    static void Read(const PropertyTree& child, Value& value, const ReadFlags*)
+    {
+        value = static_cast<Value>(ReadFloat(child));
+    }
+};
+
+template <> struct Codec<bool>
+{
+    static void Write(PropertyTree& child, bool value, const WriteFlags*) { WriteBool(child, value); }
+    static void Read(const PropertyTree& child, bool& value, const ReadFlags*) { ReadBool(child, value); }
+};
+
+template <> struct Codec<std::string>
+{
+    static void Write(PropertyTree& child, const std::string& value, const WriteFlags*) { WriteString(child, value); }
+    static void Read(const PropertyTree& child, std::string& value, const ReadFlags*) { ReadString(child, value); }
+};
+
+/// By name. A value without a name is written as "", and an unknown name or a child that is no scalar is the fallback.
+template <class Value>
+requires std::is_enum_v<Value>
+struct Codec<Value>
+{
+    static void Write(PropertyTree& child, Value value, const WriteFlags*)
+    {
+        WriteEnum(child, static_cast<std::int32_t>(value), EnumNames<Value>::TABLE);
+    }
+
+    static void Read(const PropertyTree& child, Value& value, const ReadFlags*)
+    {
+        value = static_cast<Value>(ReadEnum(child, EnumNames<Value>::TABLE));
+    }
+};
+
+/// A child that is no list leaves the field as it is; otherwise the elements replace it one by one, in order.
+template <class Element> struct Codec<std::vector<Element>>
+{
+    static void Write(PropertyTree& child, const std::vector<Element>& value, const WriteFlags* flags)
+    {
+        auto target = WriteList(child, value.size()).begin();
+        for (const Element& element : value)
+        {
+            Codec<Element>::Write(*target++, element, flags);
+        }
+    }
+
+    static void Read(const PropertyTree& child, std::vector<Element>& value, const ReadFlags* flags)
+    {
+        if (!child.isList())
+        {
+            return;
+        }
+        value.clear();
+        value.reserve(child.getList().size());
+        for (const PropertyTree& source : child.getList())
+        {
+            Element element{};
+            Codec<Element>::Read(source, element, flags);
+            value.push_back(std::move(element));
+        }
+    }
+};
+
+/// As a list, in ascending order; on reading, repeated elements fall together.
+template <class Element> struct Codec<std::set<Element>>
+{
+    static void Write(PropertyTree& child, const std::set<Element>& value, const WriteFlags* flags)
+    {
+        auto target = WriteList(child, value.size()).begin();
+        for (const Element& element : value)
+        {
+            Codec<Element>::Write(*target++, element, flags);
+        }
+    }
+
+    static void Read(const PropertyTree& child, std::set<Element>& value, const ReadFlags* flags)
+    {
+        if (!child.isList())
+        {
+            return;
+        }
+        value.clear();
+        for (const PropertyTree& source : child.getList())
+        {
+            Element element{};
+            Codec<Element>::Read(source, element, flags);
+            value.insert(std::move(element));
+        }
+    }
+};
+
+} // namespace Ombrel::Proc
+
+#endif

@@ -1,0 +1,47 @@
+#ifndef OMBREL_PROC_REFLECTION_REFLECTED_H
+#define OMBREL_PROC_REFLECTION_REFLECTED_H
+
+#include "Proc/Reflection/Codec.h"
+
+namespace Ombrel::Proc
+{
+
+/// The folds over a record's field list: everything that serialisation, comparison and property access do with a record is
+/// one of these, and a further algorithm is a further fold.
+///
+/// Their bodies stand in `Folds.h`, for the one file that holds the list and compiles them: `template struct
+/// Reflected<Record>;`. Another file with a list that nests the record writes `extern template struct Reflected<Record>;`.
+template <class Record> struct Reflected
+{
+    /// The record that missing keys are reset to and written values are compared with. Made on first use.
+    static const Record& Default();
+
+    static void Read(const ReadContext<Record>& context);
+    static void Write(const WriteContext<Record>& context);
+
+    /// Field by field in declaration order, each by its own `==`.
+    static bool Equal(const Record& a, const Record& b);
+};
+
+/// What has no codec of its own is a record, stored as a nested map.
+template <class Record> struct Codec
+{
+    static void Write(PropertyTree& child, const Record& record, const WriteFlags* flags)
+    {
+        if (flags->resetTargets)
+        {
+            child = PropertyTree();
+        }
+        child.convertToMap();
+        Reflected<Record>::Write({record, child.getMap(), flags});
+    }
+
+    static void Read(const PropertyTree& child, Record& record, const ReadFlags* flags)
+    {
+        Reflected<Record>::Read({record, child.getMap(), flags});
+    }
+};
+
+} // namespace Ombrel::Proc
+
+#endif

@@ -1,0 +1,35 @@
+#ifndef OMBREL_PROC_SETTINGS_RGBA_COLOR_CODEC_H
+#define OMBREL_PROC_SETTINGS_RGBA_COLOR_CODEC_H
+
+#include "Export.h"
+#include "Proc/Reflection/Codec.h"
+#include "Proc/Settings/RgbaColor.h"
+
+#include <cstdint>
+#include <map>
+
+namespace Ombrel::Proc
+{
+
+OMBREL_API void WriteColor(PropertyTree& child, const RgbaColor& color);
+OMBREL_API RgbaColor ReadColor(const PropertyTree& child);
+
+template <> struct Codec<RgbaColor>
+{
+    static void Write(PropertyTree& child, const RgbaColor& value, const WriteFlags*) { WriteColor(child, value); }
+    static void Read(const PropertyTree& child, RgbaColor& value, const ReadFlags*) { value = ReadColor(child); }
+};
+
+/// As a list of maps with "key" and "value", in ascending order of the keys. On reading, entries that the list does not name
+/// stay, and a key that stands twice takes the later colour.
+template <> struct OMBREL_API Codec<std::map<std::uint8_t, RgbaColor>>
+{
+    using Value = std::map<std::uint8_t, RgbaColor>;
+
+    static void Write(PropertyTree& child, const Value& value, const WriteFlags* flags);
+    static void Read(const PropertyTree& child, Value& value, const ReadFlags* flags);
+};
+
+} // namespace Ombrel::Proc
+
+#endif

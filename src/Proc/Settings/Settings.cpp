@@ -1,0 +1,15 @@
+#include "Proc/Settings/Settings.h"
+
+namespace Ombrel::Proc
+{
+
+Settings::~Settings() = default;
+
+bool Settings::IsEmpty() const
+{
+    return false;
+}
+
+void Settings::Deserialize(const std::string&) {}
+
+} // namespace Ombrel::Proc

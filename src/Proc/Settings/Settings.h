@@ -1,0 +1,44 @@
+#ifndef OMBREL_PROC_SETTINGS_SETTINGS_H
+#define OMBREL_PROC_SETTINGS_SETTINGS_H
+
+#include "Export.h"
+#include "Proc/Settings/StoredKeys.h"
+
+#include <string>
+
+namespace Ombrel::Proc
+{
+
+/// The base of every record: the plain parameters of one effect. The order of the virtual operations is fixed.
+class OMBREL_API Settings
+{
+public:
+    /// No field of a record may have one of these keys.
+    static constexpr const auto& RESERVED_KEYS = StoredKeys::RESERVED;
+
+    /// The class id of the effect that the record belongs to.
+    virtual const std::string& GetClassId() const = 0;
+
+    Settings(const Settings&) = default;
+    Settings& operator=(const Settings&) = default;
+    virtual ~Settings();
+
+    /// A new copy, which the caller owns.
+    virtual Settings* Clone() const = 0;
+
+    /// @throws std::bad_cast if `other` is a record of another type
+    virtual bool IsEqualTo(const Settings& other) const = 0;
+
+    /// True if the effect would do nothing. False here: a record overrides it where it has a neutral state.
+    virtual bool IsEmpty() const;
+
+    /// Does nothing; no record overrides it.
+    virtual void Deserialize(const std::string& text);
+
+protected:
+    Settings() = default;
+};
+
+} // namespace Ombrel::Proc
+
+#endif

@@ -1,0 +1,28 @@
+#ifndef OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_ACID_H
+#define OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_ACID_H
+
+#include "Proc/Settings/SettingsRecord.h"
+
+#include <cstdint>
+
+namespace Ombrel::Proc
+{
+
+class OMBREL_API SettingsEffectAcid : public SettingsRecord<SettingsEffectAcid>
+{
+public:
+    static constexpr const char* CLASS_NAME = "EFFECT_ACID";
+    static const std::string CLASS_ID;
+
+    /// True if `radius` is 0.
+    bool IsEmpty() const override;
+
+    bool operator==(const SettingsEffectAcid& other) const;
+
+    std::int32_t radius = 0;
+    double sigma = 0.5;
+};
+
+} // namespace Ombrel::Proc
+
+#endif
