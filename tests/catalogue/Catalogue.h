@@ -1,0 +1,119 @@
+#ifndef OMBREL_TESTS_CATALOGUE_CATALOGUE_H
+#define OMBREL_TESTS_CATALOGUE_CATALOGUE_H
+
+#include "Proc/EffectSettings/IEffectSettings.h"
+#include "PropertyTree/PropertyTree.h"
+
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+// What every settings class must be, written by hand and never taken from the library. A row says it all; the rules that hold
+// for all classes are loops over the rows.
+namespace Catalogue
+{
+
+enum class Kind : std::uint8_t
+{
+    Int32,
+    UInt32,
+    UInt8,
+    UInt64,
+    Int64,
+    Float64,
+    Float32,
+    Bool,
+    String,
+    Enum,
+    Color,
+    Record,
+    List,
+    Set,
+    ColorMap,
+    EffectList,
+};
+
+struct EnumName
+{
+    std::string_view name;
+    std::int32_t value;
+};
+
+/// Reads an enumeration's number out of an effect's record.
+using NumberOf = std::function<std::int32_t(const Ombrel::PhotoCore::IEffectSettings&)>;
+
+struct Field
+{
+    std::string key;
+    Kind kind;
+    Ombrel::PropertyTree defaultValue; // the full stored form, no nested key left out
+    Ombrel::PropertyTree sample;       // another value, stored as given
+    std::vector<Field> nested;         // of a record: its fields, each with the nested record's own default
+    std::vector<EnumName> names;       // of an enumeration
+    std::int32_t fallback = 0;
+    NumberOf number;
+
+    bool isCompared = true; // whether the effect's comparison looks at it
+};
+
+Field Int32(std::string key, std::int32_t defaultValue);
+Field UInt32(std::string key, std::uint32_t defaultValue);
+Field UInt8(std::string key, std::uint8_t defaultValue);
+Field Int64(std::string key, std::int64_t defaultValue);
+Field Float64(std::string key, double defaultValue);
+Field Float32(std::string key, float defaultValue);
+Field Bool(std::string key, bool defaultValue);
+Field String(std::string key, std::string defaultValue);
+Field Color(std::string key, std::string defaultValue);
+Field Enum(std::string key, std::string defaultValue, std::vector<EnumName> names, std::int32_t fallback, NumberOf number);
+
+/// A nested record whose default in the enclosing record is its own, but for the keys in `overrides`.
+Field Record(std::string key, std::vector<Field> nested,
+             std::initializer_list<std::pair<std::string_view, Ombrel::PropertyTree>> overrides = {});
+
+/// Any other field, such as a list, with its two values in full stored form.
+Field Other(std::string key, Kind kind, Ombrel::PropertyTree defaultValue, Ombrel::PropertyTree sample);
+
+/// The same field, left out of the effect's comparison.
+Field NotCompared(Field field);
+
+enum class Place : std::int32_t
+{
+    Factory = 0, // registered after the start-up list
+    None = -1,   // not registered
+};
+
+struct Effect
+{
+    std::string className;
+    std::string classId;
+    Ombrel::PhotoCore::IEffectSettings::InputType inputType;
+    Place place; // in the complete start-up list, from 1; the classes there are stand in this order
+    std::vector<Field> fields;
+
+    // Of a default object.
+    bool isEmpty = false;
+    bool isRecordEmpty = false;
+
+    bool isAdditive = false;
+    bool hasPropertyAccess = true;
+    bool equalsItsCopy = true;
+};
+
+/// All rows, in no particular order.
+const std::vector<Effect>& All();
+
+/// The rows of the parts of the catalogue.
+std::vector<Effect> FrameworkRows();
+std::vector<Effect> AdjusterRows();
+
+/// A map of all keys with their defaults, as property access shows them.
+Ombrel::PropertyTree DefaultForm(const std::vector<Field>& fields);
+
+} // namespace Catalogue
+
+#endif
