@@ -1,0 +1,221 @@
+#include "PropertyTree/PropertyTree.h"
+#include "support/TreeText.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <type_traits>
+
+namespace
+{
+
+using Ombrel::PropertyTree;
+using Ombrel::PropertyTreeScalar;
+using Support::List;
+using Support::Map;
+
+template <class Call> std::string RefusalOf(Call call)
+{
+    try
+    {
+        call();
+    }
+    catch (const std::invalid_argument& failure)
+    {
+        return failure.what();
+    }
+    return "nothing was refused";
+}
+
+TEST(PropertyTree, IsInOneOfFourStates)
+{
+    const PropertyTree null;
+    const PropertyTree scalar(5);
+    const PropertyTree map = Map({});
+    const PropertyTree list = List({});
+    EXPECT_TRUE(null.isNull() && !null.isScalar() && !null.isList());
+    EXPECT_TRUE(!scalar.isNull() && scalar.isScalar() && !scalar.isList());
+    EXPECT_TRUE(!map.isNull() && !map.isScalar() && !map.isList());
+    EXPECT_TRUE(!list.isNull() && !list.isScalar() && list.isList());
+}
+
+TEST(PropertyTree, TakesAnythingThatMakesAScalar)
+{
+    PropertyTree tree;
+    tree["a"] = 5;
+    tree["b"] = 0.5;
+    tree["c"] = "text";
+    tree["d"] = true;
+    tree["e"] = PropertyTreeScalar(7);
+    EXPECT_EQ(tree["a"].getScalar().toInt(), 5);
+    EXPECT_EQ(tree["b"].getScalar().toDouble(), 0.5);
+    EXPECT_EQ(tree["c"].getScalar().toString(), "text");
+    EXPECT_EQ(tree["d"].getScalar().kind(), PropertyTreeScalar::Kind::Bool);
+    EXPECT_EQ(tree["e"].getScalar().toInt(), 7);
+}
+
+TEST(PropertyTree, IndexingAFreshTreeMakesAMapWithANullChild)
+{
+    PropertyTree tree;
+    tree["x"];
+    EXPECT_EQ(tree.getMap().size(), 1u);
+    EXPECT_TRUE(tree.getMap().at("x").isNull());
+}
+
+TEST(PropertyTree, ConvertToMapKeepsEntries)
+{
+    PropertyTree tree = Map({{"radius", 3}});
+    tree.convertToMap();
+    EXPECT_EQ(tree, Map({{"radius", 3}}));
+}
+
+TEST(PropertyTree, ConvertingAnotherStateStartsEmpty)
+{
+    for (PropertyTree tree : {PropertyTree(), PropertyTree(5), List({1, 2})})
+    {
+        tree.convertToMap();
+        EXPECT_EQ(tree, Map({}));
+    }
+    for (PropertyTree tree : {PropertyTree(), PropertyTree(5), Map({{"a", 1}})})
+    {
+        tree.convertToList();
+        EXPECT_EQ(tree, List({}));
+    }
+    PropertyTree list = List({1});
+    list.convertToList();
+    EXPECT_EQ(list, List({1}));
+}
+
+TEST(PropertyTree, CopiesAreDeep)
+{
+    const PropertyTree first = Map({{"x", 1}});
+    PropertyTree copy = first;
+    copy["x"] = 2;
+    EXPECT_EQ(first, Map({{"x", 1}}));
+    EXPECT_EQ(copy, Map({{"x", 2}}));
+}
+
+TEST(PropertyTree, AMovedFromTreeIsNull)
+{
+    PropertyTree tree = Map({{"x", 1}});
+    const PropertyTree moved = std::move(tree);
+    EXPECT_TRUE(tree.isNull());
+    EXPECT_EQ(moved, Map({{"x", 1}}));
+    static_assert(std::is_nothrow_move_constructible_v<PropertyTree> && std::is_nothrow_move_assignable_v<PropertyTree>);
+}
+
+TEST(PropertyTree, ContainsLooksIntoMapsOnly)
+{
+    EXPECT_TRUE(Map({{"a", 1}}).contains("a"));
+    EXPECT_FALSE(Map({{"a", 1}}).contains("b"));
+    for (const PropertyTree& tree : {PropertyTree(), PropertyTree(5), List({1})})
+    {
+        EXPECT_FALSE(tree.contains("a"));
+    }
+}
+
+TEST(PropertyTree, ConstIndexNeedsTheKey)
+{
+    const PropertyTree tree = Map({{"a", 1}});
+    EXPECT_EQ(tree["a"], PropertyTree(1));
+    try
+    {
+        tree["b"];
+        FAIL();
+    }
+    catch (const std::out_of_range& failure)
+    {
+        EXPECT_STREQ(failure.what(), "invalid map<K, T> key");
+    }
+}
+
+TEST(PropertyTree, WrongStatesNameBoth)
+{
+    PropertyTree null;
+    PropertyTree scalar(5);
+    PropertyTree list = List({});
+    PropertyTree map = Map({});
+    const PropertyTree constant;
+    EXPECT_EQ(RefusalOf([&] { null.getMap(); }), "tree: expected a map, found null");
+    EXPECT_EQ(RefusalOf([&] { constant.getMap(); }), "tree: expected a map, found null");
+    EXPECT_EQ(RefusalOf([&] { scalar.getMap(); }), "tree: expected a map, found a scalar");
+    EXPECT_EQ(RefusalOf([&] { list["a"]; }), "tree: expected a map, found a list");
+    EXPECT_EQ(RefusalOf([&] { std::as_const(scalar)["a"]; }), "tree: expected a map, found a scalar");
+    EXPECT_EQ(RefusalOf([&] { map.getList(); }), "tree: expected a list, found a map");
+    EXPECT_EQ(RefusalOf([&] { constant.getList(); }), "tree: expected a list, found null");
+    EXPECT_EQ(RefusalOf([&] { scalar.append(1); }), "tree: expected a list, found a scalar");
+    EXPECT_EQ(RefusalOf([&] { map.append(1); }), "tree: expected a list, found a map");
+    EXPECT_EQ(RefusalOf([&] { constant.getScalar(); }), "tree: expected a scalar, found null");
+    EXPECT_EQ(RefusalOf([&] { list.getScalar(); }), "tree: expected a scalar, found a list");
+    EXPECT_EQ(scalar, PropertyTree(5));
+}
+
+TEST(PropertyTree, AppendAddsAtTheEnd)
+{
+    PropertyTree tree;
+    tree.append(1);
+    tree.append("two");
+    EXPECT_EQ(tree, List({1, "two"}));
+    tree.append(tree);
+    EXPECT_EQ(tree, List({1, "two", List({1, "two"})}));
+}
+
+TEST(PropertyTree, EqualityLooksAtEveryLevel)
+{
+    const PropertyTree tree = Map({{"a", List({1, Map({{"b", "c"}})})}});
+    EXPECT_EQ(tree, Map({{"a", List({1, Map({{"b", "c"}})})}}));
+    EXPECT_FALSE(tree == Map({{"a", List({1, Map({{"b", "d"}})})}}));
+    EXPECT_FALSE(tree == Map({{"a", List({1, Map({{"x", "c"}})})}}));
+    EXPECT_FALSE(tree == Map({{"a", List({1})}}));
+    EXPECT_FALSE(tree == Map({{"a", List({1, Map({{"b", "c"}})})}, {"z", 1}}));
+    EXPECT_FALSE(Map({}) == List({}));
+    EXPECT_FALSE(Map({}) == PropertyTree());
+    EXPECT_TRUE(PropertyTree() == PropertyTree());
+}
+
+// An assignment from a part of the tree itself equals copying first and then assigning.
+TEST(PropertyTree, AssignsFromItsOwnParts)
+{
+    const PropertyTree original = Map({{"a", Map({{"b", List({1, 2, "text"})}})}, {"c", 3}});
+
+    PropertyTree tree = original;
+    tree = tree["a"];
+    EXPECT_EQ(tree, Map({{"b", List({1, 2, "text"})}}));
+
+    tree = original;
+    tree = std::move(tree["a"]);
+    EXPECT_EQ(tree, Map({{"b", List({1, 2, "text"})}}));
+
+    tree = original;
+    tree = tree["a"]["b"].getList()[2].getScalar();
+    EXPECT_EQ(tree, PropertyTree("text"));
+
+    tree = original;
+    tree["a"] = tree;
+    EXPECT_EQ(tree["a"], original);
+
+    tree = original;
+    tree["new"] = tree["c"];
+    EXPECT_EQ(tree["new"], PropertyTree(3));
+
+    tree = original;
+    PropertyTree::List& list = tree["a"]["b"].getList();
+    list[0] = list[2];
+    tree["a"]["b"].append(list[1]);
+    EXPECT_EQ(tree["a"]["b"], List({"text", 2, "text", 2}));
+
+    tree = original;
+    tree.getMap() = tree["a"].getMap();
+    EXPECT_EQ(tree, Map({{"b", List({1, 2, "text"})}}));
+
+    tree = original;
+    PropertyTree& self = tree;
+    tree = self;
+    EXPECT_EQ(tree, original);
+    tree = std::move(self);
+    EXPECT_EQ(tree, original);
+    tree.swap(self);
+    EXPECT_EQ(tree, original);
+}
+
+} // namespace

@@ -1,0 +1,148 @@
+#include "Proc/EffectSettings/HelperSettings.h"
+
+#include "support/TreeText.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <typeinfo>
+
+namespace
+{
+
+using Ombrel::PropertyTree;
+using Ombrel::PhotoCore::HelperSettings;
+using Flag = HelperSettings::ApplySetting;
+using Support::List;
+using Support::Map;
+
+PropertyTree TreeOf(const HelperSettings& settings)
+{
+    PropertyTree tree("what stood there before");
+    settings.Serialize(tree);
+    return tree;
+}
+
+TEST(HelperSettings, DefaultsAreTold)
+{
+    const HelperSettings settings;
+    EXPECT_FALSE(settings.GetUndoSet());
+    EXPECT_TRUE(settings.GetApplyMode().empty());
+    EXPECT_EQ(settings.GetMaxWidth(), 4294967295u);
+    EXPECT_EQ(settings.GetMaxHeight(), 4294967295u);
+    EXPECT_EQ(TreeOf(settings), Map({}));
+    EXPECT_EQ(settings.GetClassId(), "HelperSettings");
+}
+
+TEST(HelperSettings, FlagsAreSetAndErased)
+{
+    HelperSettings settings;
+    settings.SetApplyModeFlag(Flag::ApplyStop, true);
+    settings.SetApplyModeFlag(Flag::ApplyToAlpha, true);
+    settings.SetApplyModeFlag(Flag::ApplyStop, true);
+    EXPECT_TRUE(settings.HasApplyModeFlag(Flag::ApplyStop));
+    settings.SetApplyModeFlag(Flag::ApplyStop, false);
+    settings.SetApplyModeFlag(Flag::Invalid, false);
+    EXPECT_FALSE(settings.HasApplyModeFlag(Flag::ApplyStop));
+    EXPECT_EQ(settings.GetApplyMode(), (std::set<Flag>{Flag::ApplyToAlpha}));
+    settings.SetApplyMode({Flag::Invalid});
+    EXPECT_EQ(settings.GetApplyMode(), (std::set<Flag>{Flag::Invalid}));
+}
+
+TEST(HelperSettings, WritesWhatDiffersAndReadsItBack)
+{
+    HelperSettings settings;
+    settings.SetUndoSet(true);
+    settings.SetApplyMode({Flag::ApplyAndAddToUndo, Flag::ApplyToMaskOnly});
+    settings.SetMaxWidth(0);
+    settings.SetMaxHeight(4000000000);
+    const PropertyTree tree = Map({{"undoSet", true},
+                                   {"applyMode", List({"ApplyToMaskOnly", "ApplyAndAddToUndo"})},
+                                   {"maxWidth", 0},
+                                   {"maxHeight", 4000000000}});
+    EXPECT_EQ(TreeOf(settings), tree);
+
+    HelperSettings restored;
+    restored.Deserialize(tree);
+    EXPECT_TRUE(restored == settings);
+    restored.Deserialize(Map({}));
+    EXPECT_TRUE(restored == HelperSettings());
+}
+
+TEST(HelperSettings, KnowsTheNamesOfItsFlags)
+{
+    constexpr std::pair<const char*, int> names[] = {
+        {"Invalid", 0},   {"ApplyToMaskOnly", 1}, {"ApplyWithMask", 2},     {"ApplyAndSetMask", 3},
+        {"ApplyStop", 4}, {"ApplyToAlpha", 5},    {"ApplyAndAddToUndo", 6},
+    };
+    for (const auto& [name, value] : names)
+    {
+        HelperSettings settings;
+        settings.Deserialize(Map({{"applyMode", List({name})}}));
+        EXPECT_EQ(settings.GetApplyMode(), (std::set<Flag>{static_cast<Flag>(value)})) << name;
+        EXPECT_EQ(TreeOf(settings), Map({{"applyMode", List({name})}}));
+    }
+    HelperSettings settings;
+    settings.Deserialize(Map({{"applyMode", List({"applystop", "ApplyStop", "ApplyStop"})}}));
+    EXPECT_EQ(settings.GetApplyMode(), (std::set<Flag>{Flag::Invalid, Flag::ApplyStop}));
+}
+
+TEST(HelperSettings, EveryValueCountsInTheComparison)
+{
+    HelperSettings settings;
+    settings.SetUndoSet(true);
+    EXPECT_FALSE(settings == HelperSettings());
+    settings = {};
+    settings.SetApplyModeFlag(Flag::ApplyStop, true);
+    EXPECT_FALSE(settings == HelperSettings());
+    settings = {};
+    settings.SetMaxWidth(1);
+    EXPECT_FALSE(settings == HelperSettings());
+    settings = {};
+    settings.SetMaxHeight(1);
+    EXPECT_FALSE(settings == HelperSettings());
+    settings = {};
+    EXPECT_TRUE(settings == HelperSettings());
+}
+
+class Other : public Ombrel::PhotoUtil::ISerializable
+{
+public:
+    explicit Other(std::string id) : m_id(std::move(id)) {}
+
+    const std::string& GetClassId() const override { return m_id; }
+    void Serialize(PropertyTree&) const override {}
+    void Deserialize(const PropertyTree&) override {}
+
+private:
+    std::string m_id;
+};
+
+TEST(HelperSettings, ComparesAsASerializable)
+{
+    const HelperSettings settings;
+    const Ombrel::PhotoUtil::ISerializable& base = settings;
+    EXPECT_TRUE(base == HelperSettings());
+    EXPECT_FALSE(base == Other("another id"));
+    EXPECT_THROW((void)(base == Other("HelperSettings")), std::bad_cast);
+}
+
+TEST(HelperSettings, HasNoPropertyAccess)
+{
+    HelperSettings settings;
+    EXPECT_FALSE(settings.GetPropertyAccess());
+    EXPECT_FALSE(std::as_const(settings).GetPropertyAccess());
+}
+
+TEST(HelperSettings, IsMoved)
+{
+    HelperSettings settings;
+    settings.SetApplyMode({Flag::ApplyStop});
+    HelperSettings moved = std::move(settings);
+    EXPECT_TRUE(moved.HasApplyModeFlag(Flag::ApplyStop));
+    HelperSettings assigned;
+    assigned = std::move(moved);
+    EXPECT_TRUE(assigned.HasApplyModeFlag(Flag::ApplyStop));
+}
+
+} // namespace

@@ -1,0 +1,97 @@
+#include "support/FailingMemory.h"
+
+#include <cstdlib>
+#include <limits>
+#include <new>
+
+namespace
+{
+
+constexpr std::size_t UNLIMITED = std::numeric_limits<std::size_t>::max();
+
+thread_local std::size_t t_successesLeft = UNLIMITED;
+thread_local bool t_onlyOnce = false;
+thread_local bool t_hasFailed = false;
+thread_local std::size_t t_count = 0;
+
+void* Allocate(std::size_t size)
+{
+    ++t_count;
+    if (t_successesLeft == 0)
+    {
+        t_hasFailed = true;
+        if (t_onlyOnce)
+        {
+            t_successesLeft = UNLIMITED;
+        }
+        throw std::bad_alloc();
+    }
+    if (t_successesLeft != UNLIMITED)
+    {
+        --t_successesLeft;
+    }
+    if (void* memory = std::malloc(size == 0 ? 1 : size))
+    {
+        return memory;
+    }
+    throw std::bad_alloc();
+}
+
+} // namespace
+
+void* operator new(std::size_t size)
+{
+    return Allocate(size);
+}
+
+void* operator new[](std::size_t size)
+{
+    return Allocate(size);
+}
+
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+namespace Support
+{
+
+FailingMemory::FailingMemory(std::size_t successes, Mode mode)
+{
+    t_successesLeft = successes;
+    t_onlyOnce = mode == Mode::Once;
+    t_hasFailed = false;
+}
+
+FailingMemory::~FailingMemory()
+{
+    t_successesLeft = UNLIMITED;
+}
+
+bool FailingMemory::HasFailed() const
+{
+    return t_hasFailed;
+}
+
+std::size_t AllocationCount()
+{
+    return t_count;
+}
+
+} // namespace Support

@@ -1,0 +1,34 @@
+#ifndef OMBREL_TESTS_SUPPORT_FAILING_MEMORY_H
+#define OMBREL_TESTS_SUPPORT_FAILING_MEMORY_H
+
+#include <cstddef>
+
+namespace Support
+{
+
+/// While it lives, allocations of its thread throw `std::bad_alloc`: all but the first `successes`, or only the one after
+/// those. A program that uses it replaces the global `operator new`.
+class FailingMemory
+{
+public:
+    enum class Mode
+    {
+        FromThenOn,
+        Once,
+    };
+
+    explicit FailingMemory(std::size_t successes = 0, Mode mode = Mode::FromThenOn);
+    FailingMemory(const FailingMemory&) = delete;
+    FailingMemory& operator=(const FailingMemory&) = delete;
+    ~FailingMemory();
+
+    /// Whether an allocation has been refused.
+    bool HasFailed() const;
+};
+
+/// How many allocations this thread has made so far.
+std::size_t AllocationCount();
+
+} // namespace Support
+
+#endif
