@@ -1,0 +1,371 @@
+#include "PropertyTreeJson/JsonText.h"
+#include "PropertyTreeJson/PropertyTreeJson.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <iterator>
+#include <limits>
+#include <system_error>
+#include <vector>
+
+// The lexer asserts that strtod has taken a whole number, which fails where the locale's decimal point has several bytes.
+// Nothing here relies on that value.
+#define JSON_ASSERT(condition) static_cast<void>(0)
+#include <nlohmann/json.hpp>
+
+namespace Ombrel
+{
+namespace
+{
+
+constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
+constexpr std::string_view WHITE_SPACE = " \t\n\r";
+
+// Walks over the text and leaves word of how far the lexer has come.
+class CountingIterator
+{
+public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = char;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const char*;
+    using reference = const char&;
+
+    CountingIterator(const char* position, std::size_t& count) noexcept : m_position(position), m_count(&count) {}
+
+    reference operator*() const noexcept { return *m_position; }
+
+    CountingIterator& operator++() noexcept
+    {
+        ++m_position;
+        ++*m_count;
+        return *this;
+    }
+
+    friend bool operator==(const CountingIterator& a, const CountingIterator& b) noexcept
+    {
+        return a.m_position == b.m_position;
+    }
+
+private:
+    const char* m_position;
+    std::size_t* m_count;
+};
+
+bool IsFloat(std::string_view lexeme)
+{
+    return lexeme.find_first_of(".eE") != std::string_view::npos;
+}
+
+// True for a number whose first significant digit stands before the point once the exponent is applied. `lexeme` must not be
+// zero.
+bool IsLarge(std::string_view lexeme)
+{
+    const std::size_t exponentAt = std::min(lexeme.find_first_of("eE"), lexeme.size());
+    const std::string_view mantissa = lexeme.substr(0, exponentAt);
+    const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto digit = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
+    if (exponentAt == lexeme.size())
+    {
+        return digit < point;
+    }
+    std::string_view exponent = lexeme.substr(exponentAt + 1);
+    const bool isNegative = exponent.front() == '-';
+    exponent.remove_prefix(std::min(exponent.find_first_of("0123456789"), exponent.size()));
+    std::int64_t size = 0;
+    if (std::from_chars(exponent.data(), exponent.data() + exponent.size(), size).ec != std::errc())
+    {
+        return !isNegative; // such an exponent outweighs any number of digits
+    }
+    return isNegative ? point - digit > size : point - digit > -size;
+}
+
+// What the exception of the parser says, without its own place and without the token, which may be long or no valid UTF-8.
+std::string_view ReasonIn(std::string_view message)
+{
+    const std::size_t dash = message.find(" - ");
+    if (dash != std::string_view::npos)
+    {
+        message.remove_prefix(dash + 3);
+    }
+    return message.substr(0, message.find("; last read: "));
+}
+
+// Takes the parser's events and builds the tree. The parser names these functions, and a false result would end it: here
+// every failure throws.
+class Reader
+{
+public:
+    using Json = nlohmann::json;
+
+    Reader(std::string_view text, const JsonReadOptions& options)
+        : m_text(text), m_options(options), m_start(text.starts_with(BYTE_ORDER_MARK) ? BYTE_ORDER_MARK.size() : 0),
+          m_tokenEnd(m_start)
+    {
+    }
+
+    PropertyTree Read()
+    {
+        const char* begin = m_text.data();
+        Json::sax_parse(CountingIterator(begin, m_count), CountingIterator(begin + m_text.size(), m_count), this);
+        // To the parser a zero byte is the end.
+        if (const std::size_t rest = SkipWhiteSpace(m_tokenEnd); rest != m_text.size())
+        {
+            Fail(rest, "unexpected zero byte");
+        }
+        return std::move(m_top);
+    }
+
+    bool null()
+    {
+        Add({}, m_count);
+        return true;
+    }
+
+    bool boolean(bool value)
+    {
+        Add(value, m_count);
+        return true;
+    }
+
+    bool number_integer(Json::number_integer_t value)
+    {
+        Add(value, IntegerEnd());
+        return true;
+    }
+
+    bool number_unsigned(Json::number_unsigned_t value)
+    {
+        if (value > static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()))
+        {
+            FailNumber("integer");
+        }
+        Add(value, IntegerEnd());
+        return true;
+    }
+
+    // The value that comes along depends on the locale, and so does `lexeme` but for its length.
+    bool number_float(Json::number_float_t, const std::string& lexeme)
+    {
+        const std::size_t start = NextToken();
+        Add(ParseFloat(m_text.substr(start, lexeme.size())), start + lexeme.size());
+        return true;
+    }
+
+    // `value` is the lexer's buffer. A copy of the right size costs less than a buffer that has to grow for each string.
+    bool string(const std::string& value)
+    {
+        if (m_options.nonFiniteAsText && JsonText::NeedsGuard(value))
+        {
+            const std::optional<double> number = JsonText::NonFiniteValue(value);
+            Add(number ? PropertyTree(*number) : PropertyTree(value.substr(1)), m_count);
+        }
+        else
+        {
+            Add(value, m_count);
+        }
+        return true;
+    }
+
+    bool binary(Json::binary_t&) { return false; } // no event of a text
+
+    bool start_object(std::size_t)
+    {
+        Open().convertToMap();
+        return true;
+    }
+
+    bool key(const std::string& key)
+    {
+        const auto [entry, isNew] = m_open.back().tree->getMap().try_emplace(key, PropertyTree());
+        if (!isNew)
+        {
+            std::string reason = "duplicate key ";
+            JsonText::AppendQuoted(reason, key);
+            Fail(NextToken(), reason);
+        }
+        m_open.back().entry = &*entry;
+        m_tokenEnd = m_count;
+        m_separator = ':';
+        return true;
+    }
+
+    bool end_object() { return Close(); }
+
+    bool start_array(std::size_t)
+    {
+        Open().convertToList();
+        return true;
+    }
+
+    bool end_array() { return Close(); }
+
+    bool parse_error(std::size_t readBytes, const std::string&, const nlohmann::detail::exception& exception)
+    {
+        constexpr int numberOverflow = 406;
+        if (exception.id == numberOverflow)
+        {
+            const std::size_t start = NextToken();
+            FailNumber(IsFloat(m_text.substr(start, readBytes - start)) ? "float" : "integer");
+        }
+        const std::string_view reason = ReasonIn(exception.what());
+        if (!reason.starts_with("unexpected"))
+        {
+            Fail(readBytes - 1, std::string(reason));
+        }
+        const std::size_t place = NextToken();
+        const bool isZeroByte = place < m_text.size() && m_text[place] == '\0';
+        Fail(place, isZeroByte ? "unexpected zero byte" : std::string(reason));
+    }
+
+private:
+    // A map or list that is not closed yet. Pointers do: entries of a map never move, and a list does not grow while one of
+    // its elements is open.
+    struct Level
+    {
+        PropertyTree* tree;
+        PropertyTree::Map::value_type* entry = nullptr; // of a map, between the key and the end of its value
+    };
+
+    PropertyTree& NewChild()
+    {
+        if (m_open.empty())
+        {
+            return m_top;
+        }
+        const Level& level = m_open.back();
+        return level.entry ? level.entry->second : level.tree->getList().emplace_back();
+    }
+
+    void Add(PropertyTree&& value, std::size_t tokenEnd)
+    {
+        NewChild() = std::move(value);
+        EndValue(tokenEnd);
+    }
+
+    void EndValue(std::size_t tokenEnd)
+    {
+        m_tokenEnd = tokenEnd;
+        m_separator = m_open.empty() ? '\0' : ',';
+        if (!m_open.empty())
+        {
+            m_open.back().entry = nullptr;
+        }
+    }
+
+    PropertyTree& Open()
+    {
+        if (m_open.size() == m_options.maxDepth)
+        {
+            Fail(NextToken(), "nested deeper than " + std::to_string(m_options.maxDepth) + " levels");
+        }
+        PropertyTree& child = NewChild();
+        m_open.push_back({&child});
+        m_tokenEnd = m_count;
+        m_separator = '\0';
+        return child;
+    }
+
+    bool Close()
+    {
+        m_open.pop_back();
+        EndValue(m_count);
+        return true;
+    }
+
+    double ParseFloat(std::string_view lexeme) const
+    {
+        if (!IsFloat(lexeme))
+        {
+            FailNumber("integer"); // the parser takes what no integer holds for a float
+        }
+        double value = 0.0;
+        const auto result = std::from_chars(lexeme.data(), lexeme.data() + lexeme.size(), value);
+        if (result.ec == std::errc::result_out_of_range)
+        {
+            if (IsLarge(lexeme))
+            {
+                FailNumber("float");
+            }
+            return lexeme.starts_with('-') ? -0.0 : 0.0;
+        }
+        return value;
+    }
+
+    std::size_t SkipWhiteSpace(std::size_t offset) const
+    {
+        return std::min(m_text.find_first_not_of(WHITE_SPACE, offset), m_text.size());
+    }
+
+    // Where the token behind the last event's token starts; a comma or colon that may stand between is no event and skipped.
+    std::size_t NextToken() const
+    {
+        const std::size_t offset = SkipWhiteSpace(m_tokenEnd);
+        return IsSeparator(offset) ? SkipWhiteSpace(offset + 1) : offset;
+    }
+
+    bool IsSeparator(std::size_t offset) const
+    {
+        return m_separator != '\0' && offset < m_text.size() && m_text[offset] == m_separator;
+    }
+
+    // The lexer has mostly read one byte beyond a number, but none at the end of the text.
+    std::size_t IntegerEnd() const
+    {
+        std::size_t offset = NextToken();
+        offset += m_text[offset] == '-' ? 1 : 0;
+        return m_text[offset] == '0' ? offset + 1 : std::min(m_text.find_first_not_of("0123456789", offset), m_text.size());
+    }
+
+    std::string PathText() const
+    {
+        JsonText::Path path;
+        const bool isBetweenValues = m_separator == ',' && !IsSeparator(SkipWhiteSpace(m_tokenEnd));
+        for (const Level& level : m_open)
+        {
+            const bool isInnermost = &level == &m_open.back();
+            if (level.entry)
+            {
+                path.Add(level.entry->first);
+            }
+            else if (level.tree->isList() && !(isInnermost && isBetweenValues))
+            {
+                const std::size_t size = level.tree->getList().size();
+                path.Add(isInnermost ? size : size - 1); // the innermost list has not got the element yet
+            }
+        }
+        return path.Text();
+    }
+
+    [[noreturn]] void FailNumber(const char* kind) const
+    {
+        Fail(NextToken(), std::string("the number does not fit a 64-bit ") + kind);
+    }
+
+    [[noreturn]] void Fail(std::size_t offset, const std::string& reason) const
+    {
+        const std::string_view before = m_text.substr(0, offset);
+        const auto lineFeeds = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
+        const std::size_t lineStart = lineFeeds == 0 ? m_start : before.rfind('\n') + 1;
+        throw JsonError(lineFeeds + 1, offset - lineStart + 1, PathText(), reason);
+    }
+
+    const std::string_view m_text;
+    const JsonReadOptions& m_options;
+    const std::size_t m_start; // of what follows the byte order mark
+    std::size_t m_count = 0;   // bytes that the lexer has read
+    std::size_t m_tokenEnd;    // of the last event
+    char m_separator = '\0';   // that belongs between the last event's token and the next one
+    PropertyTree m_top;
+    std::vector<Level> m_open;
+};
+
+} // namespace
+
+PropertyTree ReadJson(std::string_view text, const JsonReadOptions& options)
+{
+    return Reader(text, options).Read();
+}
+
+} // namespace Ombrel

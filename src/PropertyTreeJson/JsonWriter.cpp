@@ -1,0 +1,237 @@
+#include "PropertyTreeJson/JsonText.h"
+#include "PropertyTreeJson/PropertyTreeJson.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <iterator>
+#include <vector>
+
+namespace Ombrel
+{
+namespace
+{
+
+// A map or list that is being written, and the child that it has come to.
+struct Level
+{
+    const PropertyTree* tree;
+    std::size_t begun = 0; // children, the current one included
+    PropertyTree::Map::const_iterator entry{};
+
+    std::size_t Size() const { return tree->isList() ? tree->getList().size() : tree->getMap().size(); }
+
+    void Advance()
+    {
+        if (!tree->isList())
+        {
+            entry = begun == 0 ? tree->getMap().begin() : std::next(entry);
+        }
+        ++begun;
+    }
+};
+
+class Writer
+{
+public:
+    Writer(std::string& out, const JsonWriteOptions& options) : m_out(out), m_options(options) {}
+
+    void Write(const PropertyTree& top)
+    {
+        WriteValue(top);
+        while (!m_open.empty())
+        {
+            if (m_open.back().begun == m_open.back().Size())
+            {
+                Close();
+            }
+            else
+            {
+                WriteNextChild();
+            }
+        }
+    }
+
+private:
+    void WriteNextChild()
+    {
+        Level& level = m_open.back();
+        if (level.begun != 0)
+        {
+            m_out += ',';
+        }
+        level.Advance();
+        StartLine();
+        if (level.tree->isList())
+        {
+            WriteValue(level.tree->getList()[level.begun - 1]);
+            return;
+        }
+        WriteString(level.entry->first, "the key is not valid UTF-8");
+        m_out += m_options.indent == 0 ? ":" : ": ";
+        WriteValue(level.entry->second);
+    }
+
+    void WriteValue(const PropertyTree& tree)
+    {
+        if (tree.isNull())
+        {
+            m_out += "null";
+        }
+        else if (tree.isScalar())
+        {
+            WriteScalar(tree.getScalar());
+        }
+        else
+        {
+            Open(tree);
+        }
+    }
+
+    void Open(const PropertyTree& tree)
+    {
+        const Level level{&tree};
+        if (level.Size() == 0)
+        {
+            m_out += tree.isList() ? "[]" : "{}";
+            return;
+        }
+        m_out += tree.isList() ? '[' : '{';
+        m_open.push_back(level);
+    }
+
+    void Close()
+    {
+        const bool isList = m_open.back().tree->isList();
+        m_open.pop_back();
+        StartLine();
+        m_out += isList ? ']' : '}';
+    }
+
+    void StartLine()
+    {
+        if (m_options.indent != 0)
+        {
+            m_out += '\n';
+            m_out.append(m_options.indent * m_open.size(), ' ');
+        }
+    }
+
+    void WriteScalar(const PropertyTreeScalar& scalar)
+    {
+        switch (scalar.kind())
+        {
+        case PropertyTreeScalar::Kind::Bool:
+        {
+            bool value = false;
+            scalar.convertTo(value);
+            m_out += value ? "true" : "false";
+            break;
+        }
+        case PropertyTreeScalar::Kind::Integer:
+            WriteDigits(scalar.toInt());
+            break;
+        case PropertyTreeScalar::Kind::Float:
+            WriteFloat(scalar.toDouble());
+            break;
+        case PropertyTreeScalar::Kind::String:
+            WriteText(scalar.toString());
+            break;
+        }
+    }
+
+    void WriteFloat(double value)
+    {
+        if (!std::isfinite(value))
+        {
+            const std::string name(JsonText::NonFiniteText(value));
+            if (!m_options.nonFiniteAsText)
+            {
+                Fail(name + " has no JSON form");
+            }
+            m_out += '"' + name + '"';
+            return;
+        }
+        const std::size_t start = m_out.size();
+        WriteDigits(value);
+        if (m_out.find_first_of(".e", start) == std::string::npos)
+        {
+            m_out += ".0"; // without it the number would read back as an integer
+        }
+    }
+
+    // The shortest text that reads back as the same number. 32 bytes hold any of them.
+    void WriteDigits(auto value)
+    {
+        std::array<char, 32> digits;
+        const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value);
+        m_out.append(digits.data(), result.ptr);
+    }
+
+    void WriteText(const std::string& text)
+    {
+        constexpr const char* reason = "the string is not valid UTF-8";
+        if (m_options.nonFiniteAsText && JsonText::NeedsGuard(text))
+        {
+            WriteString('\\' + text, reason);
+        }
+        else
+        {
+            WriteString(text, reason);
+        }
+    }
+
+    void WriteString(std::string_view text, const char* reasonOfFailure)
+    {
+        if (!JsonText::AppendQuoted(m_out, text))
+        {
+            Fail(reasonOfFailure);
+        }
+    }
+
+    [[noreturn]] void Fail(const std::string& reason) const
+    {
+        JsonText::Path path;
+        for (const Level& level : m_open)
+        {
+            if (level.tree->isList())
+            {
+                path.Add(level.begun - 1);
+            }
+            else
+            {
+                path.Add(level.entry->first);
+            }
+        }
+        throw JsonWriteError(path.Text(), reason);
+    }
+
+    std::string& m_out;
+    const JsonWriteOptions& m_options;
+    std::vector<Level> m_open;
+};
+
+} // namespace
+
+std::string WriteJson(const PropertyTree& tree, const JsonWriteOptions& options)
+{
+    std::string text;
+    Writer(text, options).Write(tree);
+    return text;
+}
+
+void AppendJson(std::string& text, const PropertyTree& tree, const JsonWriteOptions& options)
+{
+    const std::size_t before = text.size();
+    try
+    {
+        Writer(text, options).Write(tree);
+    }
+    catch (...)
+    {
+        text.resize(before);
+        throw;
+    }
+}
+
+} // namespace Ombrel
