@@ -1,0 +1,36 @@
+#include "Canonical.h"
+
+#include "PropertyTreeJson/PropertyTreeJson.h"
+
+namespace Ombrel::Benchmarks
+{
+
+nlohmann::json Canonical(bool value)
+{
+    return value;
+}
+
+nlohmann::json Canonical(const nlohmann::json& value)
+{
+    return value;
+}
+
+nlohmann::json Canonical(const PropertyTree& tree)
+{
+    return Canonical(WriteJson(tree));
+}
+
+nlohmann::json Canonical(const std::string& text)
+{
+    return nlohmann::json::parse(text);
+}
+
+nlohmann::json Canonical(const PhotoCore::IEffectSettings& effect)
+{
+    PropertyTree tree;
+    effect.Serialize(tree);
+    tree["name"] = effect.GetClassId();
+    return Canonical(tree);
+}
+
+} // namespace Ombrel::Benchmarks
