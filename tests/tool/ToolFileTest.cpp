@@ -1,0 +1,139 @@
+#include "ToolRunner.h"
+
+#include <filesystem>
+#include <thread>
+
+#include <sys/stat.h>
+
+namespace Ombrel
+{
+namespace
+{
+
+namespace fs = std::filesystem;
+
+constexpr const char* OLD = R"({"name":"EFFECT_ACID","radius":5})";
+constexpr const char* NEW = "{\n  \"name\": \"EFFECT_ACID\",\n  \"radius\": 7\n}\n";
+
+class ToolInPlace : public ToolTest
+{
+protected:
+    ToolInPlace() { Write("f.json", OLD); }
+
+    ToolResult SetRadius(const ToolSurroundings& surroundings = {}, const std::string& file = "f.json") const
+    {
+        return Run({"set", file, "radius", "7", "--in-place"}, surroundings);
+    }
+
+    void ExpectUntouched() const
+    {
+        EXPECT_EQ(Content("f.json"), OLD);
+        EXPECT_EQ(Files(), std::vector<std::string>{"f.json"});
+    }
+};
+
+TEST_F(ToolInPlace, ReplacesAndPrintsNothing)
+{
+    EXPECT_EQ(SetRadius(), (ToolResult{0, "", ""}));
+    EXPECT_EQ(Content("f.json"), NEW);
+    EXPECT_EQ(Files(), std::vector<std::string>{"f.json"});
+}
+
+TEST_F(ToolInPlace, PutsAnotherFileInTheOldOnesPlace)
+{
+    fs::create_hard_link(At("f.json"), At("before.json"));
+    EXPECT_EQ(SetRadius().code, 0);
+    EXPECT_EQ(Content("f.json"), NEW);
+    EXPECT_EQ(Content("before.json"), OLD) << "the old content was overwritten, so that a crash could have torn it";
+}
+
+TEST_F(ToolInPlace, KeepsTheMode)
+{
+    for (const auto mode : {0640, 0604, 0777})
+    {
+        fs::permissions(At("f.json"), fs::perms{static_cast<unsigned>(mode)});
+        EXPECT_EQ(SetRadius().code, 0);
+        EXPECT_EQ(static_cast<int>(fs::status(At("f.json")).permissions()), mode);
+    }
+}
+
+TEST_F(ToolInPlace, FollowsASymbolicLinkIntoAnotherFolder)
+{
+    fs::create_directory(At("links"));
+    fs::create_symlink("../f.json", At("links/link.json"));
+    EXPECT_EQ(SetRadius({}, "links/link.json"), (ToolResult{0, "", ""}));
+    EXPECT_TRUE(fs::is_symlink(At("links/link.json")));
+    EXPECT_EQ(Content("f.json"), NEW);
+    EXPECT_EQ(Files(), (std::vector<std::string>{"f.json", "links"}));
+}
+
+TEST_F(ToolInPlace, PrintingLeavesTheFileAlone)
+{
+    EXPECT_EQ(Run({"set", "f.json", "radius", "7"}), (ToolResult{0, NEW, ""}));
+    ExpectUntouched();
+}
+
+TEST_F(ToolInPlace, AFailedWriteLeavesTheFileAlone)
+{
+    EXPECT_EQ(SetRadius({.maxFileSize = 16}), (ToolResult{2, "", "f.json: cannot be replaced: File too large\n"}));
+    ExpectUntouched();
+}
+
+TEST_F(ToolInPlace, AFolderThatTakesNoFileLeavesTheFileAlone)
+{
+    fs::permissions(At(""), fs::perms{0555});
+    EXPECT_EQ(SetRadius({.obeysFileModes = true}),
+              (ToolResult{2, "", "f.json: cannot be replaced: a file beside it cannot be made: Permission denied\n"}));
+    ExpectUntouched();
+}
+
+TEST_F(ToolInPlace, WhatIsNoRegularFileStays)
+{
+    ASSERT_EQ(::mkfifo(At("pipe.json").c_str(), 0600), 0);
+    std::thread writer([this] { Write("pipe.json", OLD); });
+    EXPECT_EQ(SetRadius({}, "pipe.json"), (ToolResult{2, "", "pipe.json: cannot be replaced: it is no regular file\n"}));
+    writer.join();
+    EXPECT_TRUE(fs::is_fifo(At("pipe.json")));
+}
+
+TEST_F(ToolInPlace, AnErrorLeavesTheFileAlone)
+{
+    EXPECT_EQ(Run({"set", "f.json", "radius", "x", "--in-place"}).code, 3);
+    EXPECT_EQ(Run({"set", "f.json", "radios", "1", "--in-place"}).code, 1);
+    EXPECT_EQ(Run({"set", "f.json", "radius", "1.5", "--in-place"}),
+              (ToolResult{1, "",
+                          "f.json: radius: given 1.5, stored 1\n"
+                          "nothing written; --force writes the result all the same\n"}));
+    ExpectUntouched();
+}
+
+TEST_F(ToolInPlace, ForceTakesWhatIsStored)
+{
+    EXPECT_EQ(Run({"set", "f.json", "radius", "7.5", "--in-place", "--force"}),
+              (ToolResult{1, "", "f.json: radius: given 7.5, stored 7\n"}));
+    EXPECT_EQ(Content("f.json"), NEW);
+}
+
+TEST_F(ToolInPlace, NormalisesWhatLosesNothing)
+{
+    Write("f.json", R"({"name":"EFFECT_ACID","radius":7,"sigma":0.5})");
+    EXPECT_EQ(Run({"normalise", "f.json", "--in-place"}), (ToolResult{0, "", ""}));
+    EXPECT_EQ(Content("f.json"), NEW);
+}
+
+TEST_F(ToolInPlace, DropsKeysOnlyByForce)
+{
+    const char* content = R"({"name":"EFFECT_ACID","radius":7,"other":1})";
+    Write("f.json", content);
+    EXPECT_EQ(Run({"normalise", "f.json", "--in-place"}),
+              (ToolResult{1, "",
+                          "f.json: other: unknown key, dropped\n"
+                          "nothing written; --force writes the result all the same\n"}));
+    EXPECT_EQ(Content("f.json"), content);
+    EXPECT_EQ(Run({"normalise", "f.json", "--in-place", "--force"}),
+              (ToolResult{1, "", "f.json: other: unknown key, dropped\n"}));
+    EXPECT_EQ(Content("f.json"), NEW);
+}
+
+} // namespace
+} // namespace Ombrel

@@ -1,0 +1,197 @@
+#include "ToolRunner.h"
+
+#include <gmock/gmock.h>
+
+namespace Ombrel
+{
+namespace
+{
+
+using testing::HasSubstr;
+
+using ToolList = ToolTest;
+using ToolNew = ToolTest;
+using ToolShow = ToolTest;
+using ToolGet = ToolTest;
+
+TEST_F(ToolList, NamesClassIdInputsAndRegistration)
+{
+    const ToolResult result = Run({"list"});
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(result.err, "");
+    EXPECT_THAT(result.out, testing::ContainsRegex("(^|\n)AcidSettings +EFFECT_ACID +1 +registered\n"));
+    EXPECT_THAT(result.out, testing::ContainsRegex("\nAdjusterSettings +EFFECT_ADJUSTER +1 +registered\n"));
+    EXPECT_THAT(result.out, testing::ContainsRegex("\nEffectSettingsSimple +effectSettingsSimple +1 +registered\n"));
+}
+
+TEST_F(ToolNew, HasEveryPropertyWithItsDefault)
+{
+    EXPECT_EQ(Run({"new", "EFFECT_ACID"}), (ToolResult{0,
+                                                       "{\n"
+                                                       "  \"name\": \"EFFECT_ACID\",\n"
+                                                       "  \"radius\": 0,\n"
+                                                       "  \"sigma\": 0.5\n"
+                                                       "}\n",
+                                                       ""}));
+}
+
+TEST_F(ToolNew, IsTheStoredFormWithoutPropertyAccess)
+{
+    EXPECT_EQ(Run({"new", "effectSettingsSimple"}), (ToolResult{0,
+                                                                "{\n"
+                                                                "  \"name\": \"effectSettingsSimple\"\n"
+                                                                "}\n",
+                                                                ""}));
+}
+
+TEST_F(ToolNew, CanBeReadAgain)
+{
+    const ToolResult created = Run({"new", "EFFECT_ADJUSTER"});
+    EXPECT_EQ(Run({"normalise", "-"}, {.input = created.out}), (ToolResult{0,
+                                                                           "{\n"
+                                                                           "  \"name\": \"EFFECT_ADJUSTER\"\n"
+                                                                           "}\n",
+                                                                           ""}));
+}
+
+TEST_F(ToolNew, RefusesAnUnknownId)
+{
+    EXPECT_EQ(Run({"new", "EFFECT_NONE"}),
+              (ToolResult{1, "", "EFFECT_NONE: no such class id, expected one that \"ombrel-effects list\" shows\n"}));
+}
+
+TEST_F(ToolShow, MarksWhatIsNotTheDefault)
+{
+    EXPECT_EQ(RunOn(R"({"name":"EFFECT_ACID","radius":5,"sigma":0.5})", {"show"}), (ToolResult{0,
+                                                                                               "EFFECT_ACID  AcidSettings\n"
+                                                                                               "  * radius = 5\n"
+                                                                                               "    sigma = 0.5\n",
+                                                                                               ""}));
+}
+
+TEST_F(ToolShow, NumbersTheEffectsOfAListAndKeepsNull)
+{
+    EXPECT_EQ(RunOn(R"([{"name":"EFFECT_VIBRANCE"},null,{"name":"EFFECT_EMPTY","value":"NaN"}])", {"show"}),
+              (ToolResult{0,
+                          "0  EFFECT_VIBRANCE  VibranceSettings\n"
+                          "    strength = 0\n"
+                          "1  null\n"
+                          "2  EFFECT_EMPTY  EmptySettings\n"
+                          "  * value = \"NaN\"\n",
+                          ""}));
+}
+
+TEST_F(ToolShow, HasImplementationAndHelperSettings)
+{
+    EXPECT_EQ(RunOn(R"({"name":"EFFECT_VIBRANCE","implName":"ffmpeg","helperSettings":{"undoSet":true}})", {"show"}),
+              (ToolResult{0,
+                          "EFFECT_VIBRANCE  VibranceSettings\n"
+                          "  * helperSettings = {\"undoSet\":true}\n"
+                          "  * implName = \"ffmpeg\"\n"
+                          "    strength = 0\n",
+                          ""}));
+}
+
+TEST_F(ToolShow, ShowsTheOthersBesideAnUnknownOne)
+{
+    EXPECT_EQ(RunOn(R"([{"name":"EFFECT_NONE"},{"name":"EFFECT_VIBRANCE"}])", {"show"}),
+              (ToolResult{3,
+                          "1  EFFECT_VIBRANCE  VibranceSettings\n"
+                          "    strength = 0\n",
+                          "f.json: 0/name: cannot read \"EFFECT_NONE\": Unknown Effect Setting type (EFFECT_NONE)! Expected a "
+                          "class id that \"ombrel-effects list\" shows as registered\n"}));
+}
+
+TEST_F(ToolShow, SaysNothingOfAnEmptyList)
+{
+    EXPECT_EQ(RunOn("[]", {"show"}), (ToolResult{0, "", ""}));
+}
+
+TEST_F(ToolShow, ReadsStandardInput)
+{
+    EXPECT_EQ(Run({"show", "-"}, {.input = R"({"name":"EFFECT_VIBRANCE","strength":2})"}),
+              (ToolResult{0, "EFFECT_VIBRANCE  VibranceSettings\n  * strength = 2\n", ""}));
+}
+
+struct Request
+{
+    const char* content;
+    const char* path;
+    ToolResult expected;
+};
+
+class ToolGetValue : public ToolTest, public testing::WithParamInterface<Request>
+{
+};
+
+void PrintTo(const Request& request, std::ostream* out)
+{
+    *out << request.path << " of " << request.content;
+}
+
+TEST_P(ToolGetValue, IsPrintedOrMissed)
+{
+    EXPECT_EQ(RunOn(GetParam().content, {"get", GetParam().path}), GetParam().expected);
+}
+
+constexpr const char* LIST = R"([{"name":"EFFECT_ACID","radius":5},null,{"name":"EFFECT_ADJUSTER","smartBlur":{"lumaBlur":4}},)"
+                             R"({"name":"effectSettingsSimple"}])";
+constexpr const char* SINGLE = R"({"name":"EFFECT_ACID","radius":5})";
+
+INSTANTIATE_TEST_SUITE_P(
+    Found, ToolGetValue,
+    testing::Values(Request{LIST, "0/radius", {0, "5\n", ""}}, Request{LIST, "0/sigma", {0, "0.5\n", ""}},
+                    Request{LIST, "2/smartBlur/lumaBlur", {0, "4\n", ""}},
+                    Request{LIST, "2/smartBlur/lumaRadius", {0, "0\n", ""}},                 // the nested record's own default
+                    Request{LIST, "2/detailsEnhance", {0, "{\n  \"strength\": 0\n}\n", ""}}, // the enclosing record's
+                    Request{SINGLE, "radius", {0, "5\n", ""}},
+                    Request{R"({"name":"EFFECT_EMPTY","value":"a \"b\""})", "value", {0, "\"a \\\"b\\\"\"\n", ""}},
+                    Request{LIST, "1", {0, "null\n", ""}},
+                    Request{LIST, "0", {0, "{\n  \"name\": \"EFFECT_ACID\",\n  \"radius\": 5,\n  \"sigma\": 0.5\n}\n", ""}}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Missed, ToolGetValue,
+    testing::Values(
+        Request{LIST, "4/radius", {1, "", "f.json: 4: no such effect, expected an index from 0 to 3\n"}},
+        Request{LIST, "00/radius", {1, "", "f.json: 00: no such effect, expected an index from 0 to 3\n"}},
+        Request{LIST, "-1/radius", {1, "", "f.json: -1: no such effect, expected an index from 0 to 3\n"}},
+        Request{LIST, "radius", {1, "", "f.json: radius: no such effect, expected an index from 0 to 3\n"}},
+        Request{"[]", "0/radius", {1, "", "f.json: 0: no such effect, the list is empty\n"}},
+        Request{LIST, "1/radius", {1, "", "f.json: 1/radius: the effect is null and has no properties\n"}},
+        Request{
+            LIST, "0/radios", {1, "", "f.json: 0/radios: EFFECT_ACID has no such property, expected one of radius, sigma\n"}},
+        Request{LIST, "0/", {1, "", "f.json: 0/: EFFECT_ACID has no such property, expected one of radius, sigma\n"}},
+        Request{
+            SINGLE,
+            "0/radius",
+            {1, "",
+             "f.json: 0: EFFECT_ACID has no such property, expected one of radius, sigma; the file is a single effect, so the "
+             "index is left out\n"}},
+        Request{LIST, "0/radius/0", {1, "", "f.json: 0/radius/0: does not exist, nothing stands below an integer\n"}},
+        Request{LIST,
+                "2/colorBalanceAuto/gamma",
+                {1, "",
+                 "f.json: 2/colorBalanceAuto/gamma: does not exist, expected one of exposure, lightBalance, whiteBalance\n"}},
+        Request{
+            LIST, "0/a~1b~0", {1, "", "f.json: 0/a~1b~0: EFFECT_ACID has no such property, expected one of radius, sigma\n"}},
+        Request{LIST, "0/name", {1, "", "f.json: 0/name: belongs to the stored effect itself and is no property\n"}},
+        Request{LIST, "0/implName", {1, "", "f.json: 0/implName: belongs to the stored effect itself and is no property\n"}},
+        Request{LIST,
+                "0/helperSettings/undoSet",
+                {1, "", "f.json: 0/helperSettings: belongs to the stored effect itself and is no property\n"}},
+        Request{LIST, "3/radius", {1, "", "f.json: 3/radius: effectSettingsSimple has no property access\n"}}));
+
+TEST_F(ToolGet, ReadsOnlyTheAddressedEffect)
+{
+    EXPECT_EQ(RunOn(R"([{"name":"EFFECT_NONE"},{"name":"EFFECT_ACID"}])", {"get", "1/sigma"}), (ToolResult{0, "0.5\n", ""}));
+}
+
+TEST_F(ToolGet, PrintsNoNumberOnlyAsText)
+{
+    constexpr const char* content = R"({"name":"EFFECT_ACID","sigma":"-Infinity"})";
+    EXPECT_EQ(RunOn(content, {"get", "sigma", "--non-finite"}), (ToolResult{0, "\"-Infinity\"\n", ""}));
+    EXPECT_THAT(RunOn(content, {"get", "sigma"}).err, HasSubstr("sigma: cannot read \"-Infinity\": scalar: expected "));
+}
+
+} // namespace
+} // namespace Ombrel

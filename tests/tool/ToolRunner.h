@@ -1,0 +1,66 @@
+#ifndef OMBREL_TESTS_TOOL_TOOL_RUNNER_H
+#define OMBREL_TESTS_TOOL_TOOL_RUNNER_H
+
+#include <filesystem>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace Ombrel
+{
+
+/// What a run of the program left.
+struct ToolResult
+{
+    int code; // the exit code, or minus the signal that ended it
+    std::string out;
+    std::string err;
+
+    bool operator==(const ToolResult&) const = default;
+};
+
+void PrintTo(const ToolResult& result, std::ostream* out);
+
+struct ToolSurroundings
+{
+    std::string input = {};                      // what stands on standard input
+    std::optional<std::size_t> maxFileSize = {}; // in bytes, for every file that the program writes
+    bool obeysFileModes = false;                 // also where the tests run as root, who may write everywhere
+    std::string outputFile = {};                 // takes standard output; then `out` stays empty
+};
+
+/// Runs the program in `folder` and waits for its end.
+ToolResult RunTool(const std::filesystem::path& folder, const std::vector<std::string>& arguments,
+                   const ToolSurroundings& surroundings = {});
+
+/// A folder of its own for each test, in which the program runs.
+class ToolTest : public testing::Test
+{
+protected:
+    ToolTest();
+    ~ToolTest() override;
+
+    ToolResult Run(const std::vector<std::string>& arguments, const ToolSurroundings& surroundings = {}) const
+    {
+        return RunTool(m_folder, arguments, surroundings);
+    }
+
+    /// The command on a file "f.json" with this content.
+    ToolResult RunOn(std::string_view content, std::vector<std::string> arguments) const;
+
+    void Write(const std::string& name, std::string_view content) const;
+    std::string Content(const std::string& name) const;
+    std::vector<std::string> Files() const;
+    std::filesystem::path At(const std::string& name) const { return m_folder / name; }
+
+private:
+    std::filesystem::path m_folder;
+};
+
+} // namespace Ombrel
+
+#endif

@@ -1,0 +1,46 @@
+#ifndef OMBREL_EFFECTS_TOOL_COMMANDS_H
+#define OMBREL_EFFECTS_TOOL_COMMANDS_H
+
+#include "Document.h"
+#include "PropertyPath.h"
+#include "ToolError.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Ombrel::EffectsTool
+{
+
+/// What a command hands over to be printed or written. No command prints anything itself.
+struct Outcome
+{
+    std::optional<std::string> text; // the data, for standard output or for the file; nothing if it is held back
+    std::vector<std::string> complaints;
+    ExitCode code = ExitCode::Fine;
+};
+
+// Each command is one function. They throw ToolError where there is nothing to hand over.
+
+/// All settings classes: name, class id, number of inputs, whether stored effects of it can be read.
+Outcome ListClasses();
+
+/// A default effect with all its properties.
+Outcome NewEffect(const std::string& classId, bool nonFinite);
+
+/// Every effect with its properties, for people. Elements that cannot be read are complaints, and the others are shown.
+Outcome ShowEffects(const Document& document);
+
+/// One property, a value within it, or a whole effect with all its properties.
+Outcome GetValue(const Document& document, const Path& path);
+
+/// The document with one value changed. If the library stores another value, or the keys that stood around it are unknown and
+/// get lost, there is a text only when `isForced`.
+Outcome SetValue(Document document, const Path& path, const std::string& text, bool isForced);
+
+/// The document as the library reads and writes it. Unknown keys, which get lost, are complaints.
+Outcome Normalise(Document document);
+
+} // namespace Ombrel::EffectsTool
+
+#endif

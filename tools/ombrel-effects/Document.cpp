@@ -1,0 +1,140 @@
+#include "Document.h"
+
+#include "PropertyTreeJson/PropertyTreeJson.h"
+#include "ToolError.h"
+#include "Values.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <utility>
+#include <variant>
+
+namespace Ombrel::EffectsTool
+{
+namespace
+{
+
+std::string ReadAll(std::FILE* stream)
+{
+    std::string text;
+    std::array<char, 65536> buffer;
+    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), stream))
+    {
+        text.append(buffer.data(), count);
+    }
+    return text;
+}
+
+std::string ReadText(const std::string& file, const std::string& name)
+{
+    using Stream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+    const bool isStandardInput = file == "-";
+    const Stream own(isStandardInput ? nullptr : std::fopen(file.c_str(), "rb"),
+                     [](std::FILE* stream) { return std::fclose(stream); });
+    std::FILE* const stream = isStandardInput ? stdin : own.get();
+    std::string text = stream ? ReadAll(stream) : std::string();
+    if (!stream || std::ferror(stream))
+    {
+        throw ToolError(ExitCode::UsageOrFile, name + ": cannot be read: " + std::strerror(errno));
+    }
+    return text;
+}
+
+} // namespace
+
+std::string TextOf(const PropertyTree& tree, const std::string& subject, bool nonFinite)
+{
+    try
+    {
+        return WriteJson(tree, {.nonFiniteAsText = nonFinite, .indent = 2}) + '\n';
+    }
+    catch (const JsonWriteError& error)
+    {
+        throw ToolError(ExitCode::BadInput, subject + " cannot be written as JSON: " + error.what());
+    }
+}
+
+Document::Document(std::string name, PropertyTree tree, bool nonFinite)
+    : m_name(std::move(name)), m_tree(std::move(tree)), m_isList(m_tree.isList()), m_nonFinite(nonFinite)
+{
+}
+
+Document Document::Load(const std::string& file, bool nonFinite)
+{
+    const std::string name = file == "-" ? "<stdin>" : file;
+    const std::string text = ReadText(file, name);
+    try
+    {
+        Document document(name, ReadJson(text, {.nonFiniteAsText = nonFinite}), nonFinite);
+        document.CheckElements();
+        return document;
+    }
+    catch (const JsonError& error)
+    {
+        throw ToolError(ExitCode::BadInput, name + ":" + error.what());
+    }
+}
+
+void Document::CheckElements() const
+{
+    if (!m_isList && !IsMap(m_tree))
+    {
+        throw ToolError(ExitCode::BadInput,
+                        m_name + ": found " + KindOf(m_tree) + ", expected an effect (a map) or a list of effects");
+    }
+    for (std::size_t index = 0; index < size(); ++index)
+    {
+        const PropertyTree& element = (*this)[index];
+        if (!IsMap(element) && !element.isNull())
+        {
+            throw ToolError(ExitCode::BadInput,
+                            Where(index) + "found " + KindOf(element) + ", expected an effect (a map) or null");
+        }
+    }
+}
+
+Path Document::PathOf(std::size_t index) const
+{
+    return m_isList ? Path{std::to_string(index)} : Path{};
+}
+
+std::string Document::Where(std::size_t index, PathView place) const
+{
+    Path path = PathOf(index);
+    path.insert(path.end(), place.begin(), place.end());
+    return m_name + ": " + (path.empty() ? "" : PathText(path) + ": ");
+}
+
+Document::Target Document::Locate(const Path& path) const
+{
+    if (!m_isList)
+    {
+        return {0, path};
+    }
+    const std::optional<std::size_t> index = IndexOf(path.front());
+    if (!index || *index >= size())
+    {
+        const std::string expected =
+            size() == 0 ? "the list is empty" : "expected an index from 0 to " + std::to_string(size() - 1);
+        throw ToolError(ExitCode::NotAsAsked, m_name + ": " + PathText(Path{path.front()}) + ": no such effect, " + expected);
+    }
+    return {*index, Path(path.begin() + 1, path.end())};
+}
+
+EffectPtr Document::Read(std::size_t index) const
+{
+    const PropertyTree& element = (*this)[index];
+    auto result = ReadEffect(element);
+    if (const Refusal* refusal = std::get_if<Refusal>(&result))
+    {
+        const PropertyTree& value = *Find(element, refusal->place);
+        throw ToolError(ExitCode::BadInput,
+                        Where(index, refusal->place) + "cannot read " + ShownInBrief(value) + ": " + refusal->reason);
+    }
+    return std::get<EffectPtr>(std::move(result));
+}
+
+} // namespace Ombrel::EffectsTool

@@ -1,0 +1,27 @@
+#ifndef OMBREL_EFFECTS_TOOL_EFFECT_FORMS_H
+#define OMBREL_EFFECTS_TOOL_EFFECT_FORMS_H
+
+#include "Proc/EffectSettings/EffectSettingsExport.h"
+#include "PropertyTree/PropertyTree.h"
+
+#include <memory>
+#include <string_view>
+
+namespace Ombrel::EffectsTool
+{
+
+/// The settings class of a class id, or null.
+const PhotoCore::EffectClass* FindClass(std::string_view classId);
+
+/// The stored form, where what has its default is left out.
+PropertyTree StoredForm(const std::shared_ptr<const PhotoCore::IEffectSettings>& effect);
+
+/// The stored form with every property, also where it has its default. Without a property access it is the stored form.
+PropertyTree FullForm(const std::shared_ptr<const PhotoCore::IEffectSettings>& effect);
+
+/// The full form of a stored effect; anything else as it is.
+PropertyTree WithDefaults(const PropertyTree& map);
+
+} // namespace Ombrel::EffectsTool
+
+#endif

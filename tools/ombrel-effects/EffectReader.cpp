@@ -1,0 +1,156 @@
+#include "EffectReader.h"
+
+#include "Exception/Exception.h"
+#include "Proc/EffectSettings/EffectSettings.h"
+#include "Proc/Settings/StoredKeys.h"
+
+#include <utility>
+
+namespace Ombrel::EffectsTool
+{
+namespace
+{
+
+const std::string NAME{Proc::StoredKeys::CLASS_ID};
+
+// Why the library refuses the element, if it does.
+std::optional<std::string> ReasonAgainst(const PropertyTree& element)
+{
+    try
+    {
+        EffectPtr effect;
+        PhotoCore::EffectSettings::DeserializePtr(element, effect);
+        return std::nullopt;
+    }
+    catch (const std::exception& error)
+    {
+        return ReasonOf(error);
+    }
+}
+
+// A map without all entries but the class id, which every effect within an effect needs to be read at all.
+PropertyTree Bare(const PropertyTree& map)
+{
+    PropertyTree bare;
+    bare.convertToMap();
+    if (map.contains(NAME))
+    {
+        bare[NAME] = map[NAME];
+    }
+    return bare;
+}
+
+// The map or list with `child` at `step` as its only child.
+PropertyTree WithOnly(const PropertyTree& container, const std::string& step, PropertyTree child)
+{
+    PropertyTree result;
+    if (container.isList())
+    {
+        result.append(std::move(child));
+    }
+    else
+    {
+        result = Bare(container);
+        result[step] = std::move(child);
+    }
+    return result;
+}
+
+// A new element that holds nothing but `value`, at `place`.
+PropertyTree ElementOf(const PropertyTree& element, PathView place, PropertyTree value)
+{
+    for (std::size_t length = place.size(); length > 0; --length)
+    {
+        value = WithOnly(*Find(element, place.first(length - 1)), place[length - 1], std::move(value));
+    }
+    return value;
+}
+
+// What is wrong with a map that is refused whatever else it holds: its class id.
+Refusal RefusedName(const PropertyTree& map, const Path& place, const std::string& reason)
+{
+    if (!map.contains(NAME))
+    {
+        return {place, "no \"" + NAME + "\", expected the class id of an effect"};
+    }
+    if (map[NAME].isScalar() && map[NAME].getScalar().kind() == PropertyTreeScalar::Kind::String)
+    {
+        return {Below(place, NAME), reason + " Expected a class id that \"ombrel-effects list\" shows as registered"};
+    }
+    return {Below(place, NAME), reason};
+}
+
+// What is refused within the value at `refusal.place`: the first child that is when it stands alone. Nothing if it is the
+// value as such.
+std::optional<Refusal> NextRefusal(const PropertyTree& element, const Refusal& refusal)
+{
+    const PropertyTree& value = *Find(element, refusal.place);
+    if (IsMap(value))
+    {
+        if (const auto reason = ReasonAgainst(ElementOf(element, refusal.place, Bare(value))))
+        {
+            return RefusedName(value, refusal.place, *reason);
+        }
+    }
+    for (const std::string& step : StepsOf(value))
+    {
+        const PropertyTree alone = WithOnly(value, step, *FindChild(value, step));
+        if (const auto reason = ReasonAgainst(ElementOf(element, refusal.place, alone)))
+        {
+            return Refusal{Below(refusal.place, step), *reason};
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<EffectPtr> TryReadEffect(const PropertyTree& element)
+{
+    try
+    {
+        EffectPtr effect;
+        PhotoCore::EffectSettings::DeserializePtr(element, effect);
+        return effect;
+    }
+    catch (const std::exception&)
+    {
+        return std::nullopt;
+    }
+}
+
+std::string ReasonOf(const std::exception& error)
+{
+    if (const auto* failure = dynamic_cast<const Exception*>(&error))
+    {
+        const std::string* description = boost::get_error_info<ErrorDescription>(*failure);
+        return description ? *description : "unknown failure";
+    }
+    return error.what();
+}
+
+std::variant<EffectPtr, Refusal> ReadEffect(const PropertyTree& element)
+{
+    try
+    {
+        EffectPtr effect;
+        PhotoCore::EffectSettings::DeserializePtr(element, effect);
+        return effect;
+    }
+    catch (const std::exception& error)
+    {
+        Refusal refusal{{}, ReasonOf(error)};
+        for (auto next = NextRefusal(element, refusal); next; next = NextRefusal(element, refusal))
+        {
+            const bool isFinal = next->place == refusal.place;
+            refusal = std::move(*next);
+            if (isFinal)
+            {
+                break;
+            }
+        }
+        return refusal;
+    }
+}
+
+} // namespace Ombrel::EffectsTool

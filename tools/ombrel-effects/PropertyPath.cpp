@@ -1,0 +1,142 @@
+#include "PropertyPath.h"
+
+#include <charconv>
+#include <cstdio>
+
+namespace Ombrel::EffectsTool
+{
+namespace
+{
+
+std::string Unescaped(std::string_view key)
+{
+    std::string result;
+    for (std::size_t i = 0; i < key.size(); ++i)
+    {
+        const bool isEscape = key[i] == '~' && i + 1 < key.size() && (key[i + 1] == '0' || key[i + 1] == '1');
+        result += !isEscape ? key[i] : key[++i] == '0' ? '~' : '/';
+    }
+    return result;
+}
+
+void AppendEscaped(std::string& text, char character)
+{
+    const auto byte = static_cast<unsigned char>(character);
+    if (character == '~' || character == '/')
+    {
+        text += character == '~' ? "~0" : "~1";
+    }
+    else if (byte < 0x20 || byte == 0x7F)
+    {
+        char escape[8];
+        std::snprintf(escape, sizeof(escape), "\\u%04x", static_cast<unsigned>(byte));
+        text += escape;
+    }
+    else
+    {
+        text += character;
+    }
+}
+
+} // namespace
+
+Path ParsePath(std::string_view text)
+{
+    Path path;
+    for (;;)
+    {
+        const std::size_t end = text.find('/');
+        path.push_back(Unescaped(text.substr(0, end)));
+        if (end == std::string_view::npos)
+        {
+            return path;
+        }
+        text.remove_prefix(end + 1);
+    }
+}
+
+std::string PathText(PathView path)
+{
+    std::string text;
+    for (std::size_t i = 0; i < path.size(); ++i)
+    {
+        if (i != 0)
+        {
+            text += '/';
+        }
+        for (const char character : path[i])
+        {
+            AppendEscaped(text, character);
+        }
+    }
+    return text;
+}
+
+std::optional<std::size_t> IndexOf(std::string_view step)
+{
+    std::size_t index = 0;
+    const auto [end, error] = std::from_chars(step.data(), step.data() + step.size(), index);
+    if (error != std::errc() || end != step.data() + step.size() || (step.size() > 1 && step.front() == '0'))
+    {
+        return std::nullopt;
+    }
+    return index;
+}
+
+const PropertyTree* FindChild(const PropertyTree& tree, const std::string& step)
+{
+    if (tree.isList())
+    {
+        const std::optional<std::size_t> index = IndexOf(step);
+        return index && *index < tree.getList().size() ? &tree.getList()[*index] : nullptr;
+    }
+    return tree.contains(step) ? &tree[step] : nullptr;
+}
+
+const PropertyTree* Find(const PropertyTree& tree, PathView path)
+{
+    const PropertyTree* found = &tree;
+    for (const std::string& step : path)
+    {
+        found = FindChild(*found, step);
+        if (!found)
+        {
+            return nullptr;
+        }
+    }
+    return found;
+}
+
+PropertyTree* Find(PropertyTree& tree, PathView path)
+{
+    return const_cast<PropertyTree*>(Find(static_cast<const PropertyTree&>(tree), path));
+}
+
+std::vector<std::string> StepsOf(const PropertyTree& tree)
+{
+    std::vector<std::string> steps;
+    if (tree.isList())
+    {
+        for (std::size_t i = 0; i < tree.getList().size(); ++i)
+        {
+            steps.push_back(std::to_string(i));
+        }
+    }
+    else if (IsMap(tree))
+    {
+        for (const auto& [key, child] : tree.getMap())
+        {
+            steps.push_back(key);
+        }
+    }
+    return steps;
+}
+
+Path Below(PathView path, const std::string& step)
+{
+    Path longer(path.begin(), path.end());
+    longer.push_back(step);
+    return longer;
+}
+
+} // namespace Ombrel::EffectsTool

@@ -1,0 +1,125 @@
+#include "Values.h"
+
+#include "EffectForms.h"
+#include "PropertyPath.h"
+#include "PropertyTreeJson/PropertyTreeJson.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+namespace Ombrel::EffectsTool
+{
+namespace
+{
+
+using Kind = PropertyTreeScalar::Kind;
+
+bool IsNumber(const PropertyTreeScalar& scalar)
+{
+    return scalar.kind() == Kind::Integer || scalar.kind() == Kind::Float;
+}
+
+bool IsSameNumber(std::int64_t integer, double real)
+{
+    constexpr double limit = 9223372036854775808.0; // the first float above 64 bits, where the conversion is undefined
+    return real >= -limit && real < limit && std::trunc(real) == real && static_cast<std::int64_t>(real) == integer;
+}
+
+bool IsSameScalar(const PropertyTreeScalar& a, const PropertyTreeScalar& b)
+{
+    if (a.kind() != b.kind() && IsNumber(a) && IsNumber(b))
+    {
+        return a.kind() == Kind::Integer ? IsSameNumber(a.toInt(), b.toDouble()) : IsSameNumber(b.toInt(), a.toDouble());
+    }
+    if (a.kind() == Kind::Float && b.kind() == Kind::Float && std::isnan(a.toDouble()))
+    {
+        return std::isnan(b.toDouble());
+    }
+    return a == b;
+}
+
+bool IsMapStoredAs(const PropertyTree& given, const PropertyTree& stored)
+{
+    const PropertyTree full = WithDefaults(stored);
+    return std::ranges::all_of(given.getMap(), [&full](const auto& entry)
+                               { return full.contains(entry.first) && IsStoredAs(entry.second, full[entry.first]); });
+}
+
+} // namespace
+
+std::string Shown(const PropertyTree& value)
+{
+    try
+    {
+        return WriteJson(value); // as it stands: the option would put a backslash before a string "NaN"
+    }
+    catch (const JsonWriteError&)
+    {
+        return WriteJson(value, {.nonFiniteAsText = true});
+    }
+}
+
+std::string ShownInBrief(const PropertyTree& value)
+{
+    constexpr std::size_t limit = 200;
+    std::string text = Shown(value);
+    if (text.size() > limit)
+    {
+        std::size_t end = limit;
+        while ((static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) // within a UTF-8 sequence
+        {
+            --end;
+        }
+        text.replace(end, std::string::npos, "...");
+    }
+    return text;
+}
+
+const char* KindOf(const PropertyTree& value)
+{
+    if (value.isNull())
+    {
+        return "null";
+    }
+    if (!value.isScalar())
+    {
+        return value.isList() ? "a list" : "a map";
+    }
+    switch (value.getScalar().kind())
+    {
+    case Kind::Bool:
+        return "a bool";
+    case Kind::Integer:
+        return "an integer";
+    case Kind::Float:
+        return "a float";
+    case Kind::String:
+        return "a string";
+    }
+    return "nothing";
+}
+
+bool IsString(const PropertyTree& value)
+{
+    return value.isScalar() && value.getScalar().kind() == Kind::String;
+}
+
+bool IsStoredAs(const PropertyTree& given, const PropertyTree& stored)
+{
+    if (given.isNull() || stored.isNull())
+    {
+        return given.isNull() && stored.isNull();
+    }
+    if (given.isScalar() || stored.isScalar())
+    {
+        return given.isScalar() && stored.isScalar() && IsSameScalar(given.getScalar(), stored.getScalar());
+    }
+    if (given.isList() || stored.isList())
+    {
+        return given.isList() && stored.isList() && std::ranges::equal(given.getList(), stored.getList(), &IsStoredAs);
+    }
+    return IsMapStoredAs(given, stored);
+}
+
+} // namespace Ombrel::EffectsTool
