@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <typeindex>
 #include <typeinfo>
 
 namespace
@@ -39,6 +40,35 @@ PropertyTree TreeOf(const IEffectSettings& effect)
     PropertyTree tree;
     effect.Serialize(tree);
     return tree;
+}
+
+std::type_index TypeOf(const std::shared_ptr<IEffectSettings>& effect)
+{
+    const IEffectSettings& object = *effect;
+    return typeid(object);
+}
+
+// A value that a field of the kind changes, and what becomes of it.
+std::pair<PropertyTree, PropertyTree> ChangedByItsKind(Kind kind)
+{
+    switch (kind)
+    {
+    case Kind::Int32:
+        return {4294967301, 5};
+    case Kind::UInt32:
+        return {-1, 4294967295};
+    case Kind::UInt8:
+        return {300, 44};
+    case Kind::Int64:
+    case Kind::UInt64:
+        return {5000000000.75, 5000000000};
+    case Kind::Float64:
+        return {3, 3.0};
+    case Kind::Float32:
+        return {0.1, 0.10000000149011612};
+    default:
+        return {};
+    }
 }
 
 class StrangeRecord : public Ombrel::Proc::SettingsRecord<StrangeRecord>
@@ -100,9 +130,7 @@ TEST_P(CatalogueTest, IsMadeByItsClassIdOrRefused)
         EXPECT_THROW(IEffectSettings::CreateEffectSettings(GetParam().classId), Ombrel::Exception);
         return;
     }
-    const auto made = IEffectSettings::CreateEffectSettings(GetParam().classId);
-    const auto own = Make();
-    EXPECT_EQ(typeid(*made), typeid(*own));
+    EXPECT_EQ(TypeOf(IEffectSettings::CreateEffectSettings(GetParam().classId)), TypeOf(Make()));
 }
 
 TEST_P(CatalogueTest, KnowsItsIdAndInput)
@@ -167,6 +195,21 @@ TEST_P(CatalogueTest, SetsOnePropertyAndLeavesTheOthers)
         }
         EXPECT_TRUE(TreeOf(*effect).contains(field.key)) << field.key;
         EXPECT_EQ(TreeOf(*effect).getMap().size(), 1u) << field.key;
+    }
+}
+
+TEST_P(CatalogueTest, StoresItsNumbersByTheirKinds)
+{
+    for (const Field& field : GetParam().fields)
+    {
+        const auto [given, stored] = ChangedByItsKind(field.kind);
+        if (given.isNull())
+        {
+            continue;
+        }
+        const auto effect = Make();
+        effect->GetPropertyAccess()->SetProperty(field.key, given);
+        EXPECT_EQ(Get(*effect, field.key), stored) << field.key;
     }
 }
 
@@ -339,7 +382,7 @@ TEST_P(CatalogueTest, CloneIsEqualAndApart)
     effect->Deserialize(tree);
 
     const auto clone = effect->Clone();
-    EXPECT_EQ(typeid(*clone), typeid(*effect));
+    EXPECT_EQ(TypeOf(clone), TypeOf(effect));
     EXPECT_EQ(*clone == *effect, GetParam().equalsItsCopy);
     EXPECT_EQ(TreeOf(*clone), TreeOf(*effect));
 

@@ -167,6 +167,10 @@ TEST(PropertyTreeMap, CopiesAreDeepAndAssignmentReplaces)
     EXPECT_EQ(target.at("a")["b"], PropertyTree(2));
     EXPECT_EQ(target.size(), 1u);
 
+    Map otherKey;
+    otherKey["b"] = map.at("a");
+    EXPECT_FALSE(otherKey == map);
+
     Map& self = target;
     target = self;
     EXPECT_EQ(target.size(), 1u);

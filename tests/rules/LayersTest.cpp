@@ -194,7 +194,7 @@ TEST(Layers, AreMadeOfARecord)
     EXPECT_EQ(ReflectedVar(record).GetTypedSettings().m_value, 6);
     EXPECT_EQ(PlainTwo::CreateBase()->GetClassId(), "EFFECT_OF_A_CALLER");
     const auto clone = ReflectedVar(record).Clone();
-    EXPECT_EQ(typeid(*clone), typeid(ReflectedVar));
+    EXPECT_TRUE(dynamic_cast<const ReflectedVar*>(clone.get()));
 }
 
 } // namespace
