@@ -1,0 +1,95 @@
+# What `cmake --install` puts where: the libraries that were built, their headers, and what CMake and pkg-config need to find
+# them. The installed tree may be moved as a whole.
+
+set(OMBREL_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/${PROJECT_NAME})
+set(OMBREL_PKGCONFIG_DIR ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+# A .pc file knows its prefix by the way back from its own folder, which is one step longer where the libraries stand in a
+# folder per architecture. With absolute folders there is nothing to move.
+cmake_path(IS_ABSOLUTE CMAKE_INSTALL_LIBDIR isLibdirAbsolute)
+if(isLibdirAbsolute)
+  set(OMBREL_PC_PREFIX "${CMAKE_INSTALL_PREFIX}")
+  set(OMBREL_PC_LIBDIR "${CMAKE_INSTALL_LIBDIR}")
+else()
+  file(RELATIVE_PATH back "/${OMBREL_PKGCONFIG_DIR}" "/")
+  string(REGEX REPLACE "/$" "" back "${back}")
+  set(OMBREL_PC_PREFIX "\${pcfiledir}/${back}")
+  set(OMBREL_PC_LIBDIR "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
+endif()
+set(OMBREL_PC_INCLUDEDIR "\${prefix}")
+cmake_path(APPEND OMBREL_PC_INCLUDEDIR "${CMAKE_INSTALL_INCLUDEDIR}" Ombrel)
+
+# Boost has no .pc file to ask for, so where the compiler does not find it by itself its folder is named.
+set(OMBREL_PC_BOOST_CFLAGS)
+get_target_property(boostIncludes Boost::headers INTERFACE_INCLUDE_DIRECTORIES)
+if(boostIncludes)
+  list(REMOVE_ITEM boostIncludes ${CMAKE_CXX_IMPLICIT_INCLUDE_DIRECTORIES})
+  list(TRANSFORM boostIncludes PREPEND " -I")
+  list(JOIN boostIncludes "" OMBREL_PC_BOOST_CFLAGS)
+endif()
+
+# What the link of a static library needs where no C++ compiler drives it.
+set(standardLibraries ${CMAKE_CXX_IMPLICIT_LINK_LIBRARIES})
+list(FILTER standardLibraries INCLUDE REGEX "^(stdc\\+\\+|c\\+\\+|m)$")
+list(REMOVE_DUPLICATES standardLibraries)
+list(TRANSFORM standardLibraries PREPEND " -l")
+list(JOIN standardLibraries "" OMBREL_PC_STANDARD_LIBRARIES)
+
+# ombrel_install_library(Name DESCRIPTION text FOLDERS folder... [REQUIRES name...] [PRIVATE_HEADERS file...]) installs the
+# library `ombrel_Name`, the headers of its folders below src/ and its .pc file, which has the name of the library's file.
+function(ombrel_install_library name)
+  cmake_parse_arguments(ARG "" "DESCRIPTION" "FOLDERS;REQUIRES;PRIVATE_HEADERS" ${ARGN})
+  set(target ombrel_${name})
+  if(ARG_REQUIRES) # it finds its siblings where it stands itself
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
+  endif()
+  install(TARGETS ${target} EXPORT OmbrelEffectSettingsTargets)
+
+  set(exclusions)
+  foreach(header IN LISTS ARG_PRIVATE_HEADERS)
+    list(APPEND exclusions PATTERN ${header} EXCLUDE)
+  endforeach()
+  foreach(folder IN LISTS ARG_FOLDERS)
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/${folder} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Ombrel
+            FILES_MATCHING ${exclusions} PATTERN *.h)
+  endforeach()
+
+  get_target_property(OMBREL_PC_NAME ${target} OUTPUT_NAME)
+  set(OMBREL_PC_DESCRIPTION "${ARG_DESCRIPTION}")
+  list(TRANSFORM ARG_REQUIRES APPEND " = ${PROJECT_VERSION}")
+  list(JOIN ARG_REQUIRES ", " requires)
+  set(OMBREL_PC_REQUIRES)
+  if(requires)
+    set(OMBREL_PC_REQUIRES "\nRequires: ${requires}")
+  endif()
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/library.pc.in ${PROJECT_BINARY_DIR}/${OMBREL_PC_NAME}.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/${OMBREL_PC_NAME}.pc DESTINATION ${OMBREL_PKGCONFIG_DIR})
+endfunction()
+
+install(FILES ${PROJECT_SOURCE_DIR}/src/Export.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Ombrel)
+ombrel_install_library(EffectSettings
+  DESCRIPTION "${PROJECT_DESCRIPTION}"
+  FOLDERS Conf Exception PhotoUtil Proc PropertyTree)
+if(TARGET ombrel_PropertyTreeJson)
+  ombrel_install_library(PropertyTreeJson
+    DESCRIPTION "The stored form of effect settings as JSON text"
+    FOLDERS PropertyTreeJson
+    PRIVATE_HEADERS JsonText.h
+    REQUIRES ombrel-effect-settings)
+endif()
+if(TARGET ombrel-effects) # its own rule installs it
+  file(RELATIVE_PATH toLibraries "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
+  set_target_properties(ombrel-effects PROPERTIES INSTALL_RPATH "$ORIGIN/${toLibraries}")
+endif()
+
+configure_package_config_file(
+  ${PROJECT_SOURCE_DIR}/cmake/OmbrelEffectSettingsConfig.cmake.in ${PROJECT_BINARY_DIR}/OmbrelEffectSettingsConfig.cmake
+  INSTALL_DESTINATION ${OMBREL_CMAKE_DIR}
+  NO_SET_AND_CHECK_MACRO)
+# Up to 1.0 a new minor version may break its callers.
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/OmbrelEffectSettingsConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES
+  ${PROJECT_BINARY_DIR}/OmbrelEffectSettingsConfig.cmake
+  ${PROJECT_BINARY_DIR}/OmbrelEffectSettingsConfigVersion.cmake
+  DESTINATION ${OMBREL_CMAKE_DIR})
+install(EXPORT OmbrelEffectSettingsTargets NAMESPACE Ombrel:: DESTINATION ${OMBREL_CMAKE_DIR})

@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# What is installed is complete, is for others to see, and knows nothing of the machine that built it.
+source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+
+prefix=$(prefix_of "$LAYOUT")
+libdir=$prefix/$(libdir_of "$LAYOUT")
+include=$prefix/include/Ombrel
+
+for path in "$SOURCE_DIR" "$WORK_DIR" /opt/ombrel; do
+    if files=$(grep -rlF -e "$path" "$prefix"); then
+        fail "$path stands in $files"
+    fi
+done
+
+# The libraries of this layout and no others.
+if [[ $LAYOUT == shared-* ]]; then
+    expected=$(printf '%s\n' libombrel-{effect-settings,property-tree-json}.so{,."${VERSION%%.*}",."$VERSION"} | sort)
+else
+    expected=$(printf '%s\n' libombrel-{effect-settings,property-tree-json}.a)
+fi
+expect "libraries" "$expected" "$(find "$libdir" -mindepth 1 -maxdepth 1 -name 'lib*' -printf '%f\n' | sort)"
+
+# Every header of the library is there but the private ones, and needs no other folder.
+expected=$(cd "$SOURCE_DIR/src" &&
+    find Export.h Conf Exception PhotoUtil Proc PropertyTree PropertyTreeJson/PropertyTreeJson.h -name '*.h' | sort)
+expect "headers" "$expected" "$(cd "$include" && find . -name '*.h' -printf '%P\n' | sort)"
+sed 's/.*/#include "&"/' <<<"$expected" | "$CXX" -std=c++20 -fsyntax-only -I "$include" -x c++ - ||
+    fail "the installed headers do not compile"
+
+# A shared library shows its interface alone: neither the parser inside nor the folds of the library's own records.
+if [[ $LAYOUT == shared-* ]]; then
+    for library in "$libdir"/*.so; do
+        if symbols=$(nm -DC --defined-only "$library" | grep -E 'nlohmann|Ombrel::Proc::Reflected<Ombrel'); then
+            fail "$library exports $(head -3 <<<"$symbols")"
+        fi
+    done
+    symbols=$(nm -DC --defined-only "$libdir/libombrel-effect-settings.so")
+    [[ $symbols == *Ombrel::PhotoCore::IEffectSettings::CreateEffectSettings* ]] || fail "the factory is not exported"
+fi

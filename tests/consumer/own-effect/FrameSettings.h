@@ -1,0 +1,26 @@
+#ifndef STUDIO_FRAME_SETTINGS_H
+#define STUDIO_FRAME_SETTINGS_H
+
+#include "SettingsEffectFrame.h"
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+
+namespace Studio
+{
+
+/// The settings class of a caller's own record.
+class FrameSettings : public Ombrel::PhotoCore::EffectSettingsOneInputReflection<SettingsEffectFrame, FrameSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~FrameSettings() override;
+
+    /// What the record says.
+    bool IsEmpty() const override;
+};
+
+} // namespace Studio
+
+extern template class Ombrel::PhotoCore::EffectSettingsImpl<Studio::SettingsEffectFrame, Studio::FrameSettings>;
+
+#endif
