@@ -26,7 +26,7 @@ TEST(Grayscale, IsEmptyForTheRecordOnly)
 
 TEST(Grayscale, TakesItsMethodOnConstruction)
 {
-    const GrayscaleSettings effect(SettingsEffectGrayscale(Method::Rec709Luma));
+    const GrayscaleSettings effect{SettingsEffectGrayscale(Method::Rec709Luma)};
     EXPECT_EQ(StoredForm(effect), Map({{"method", "Rec709Luma"}}));
     EXPECT_FALSE(effect.GetTypedSettings().IsEmpty());
 }
@@ -37,7 +37,7 @@ TEST(Grayscale, ReadsWholeNamesOnly)
     EXPECT_EQ(effect.GetTypedSettings().m_method, Method::Rec709Luma);
     EXPECT_EQ(StoredForm(effect), Map({{"method", "Rec709Luma"}}));
 
-    GrayscaleSettings other(SettingsEffectGrayscale(Method::Average));
+    GrayscaleSettings other{SettingsEffectGrayscale(Method::Average)};
     other.Deserialize(Map({{"method", "Rec709"}}));
     EXPECT_EQ(other.GetTypedSettings().m_method, Method::Empty);
 }
