@@ -57,7 +57,8 @@ struct Field
     std::int32_t fallback = 0;
     NumberOf number;
 
-    bool isCompared = true; // whether the effect's comparison looks at it
+    bool isCompared = true;  // whether the effect's comparison looks at it
+    bool isAppended = false; // whether a read adds to what is there, so that the empty default of a missing key adds nothing
 };
 
 Field Int32(std::string key, std::int32_t defaultValue);
@@ -80,6 +81,9 @@ Field Other(std::string key, Kind kind, Ombrel::PropertyTree defaultValue, Ombre
 
 /// The same field, left out of the effect's comparison.
 Field NotCompared(Field field);
+
+/// The same field, a list that a read extends.
+Field Appended(Field field);
 
 enum class Place : std::int32_t
 {
@@ -110,6 +114,9 @@ const std::vector<Effect>& All();
 /// The rows of the parts of the catalogue.
 std::vector<Effect> FrameworkRows();
 std::vector<Effect> AdjusterRows();
+std::vector<Effect> GimpRows();
+std::vector<Effect> ChannelRows();
+std::vector<Effect> ToningRows();
 
 /// A map of all keys with their defaults, as property access shows them.
 Ombrel::PropertyTree DefaultForm(const std::vector<Field>& fields);

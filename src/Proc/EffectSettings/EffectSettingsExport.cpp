@@ -2,13 +2,34 @@
 
 #include "Proc/EffectSettings/AcidSettings.h"
 #include "Proc/EffectSettings/AdjusterSettings.h"
+#include "Proc/EffectSettings/AutoEnhanceSettings.h"
+#include "Proc/EffectSettings/BalanceLumaSettings.h"
+#include "Proc/EffectSettings/BiColorToningSettings.h"
+#include "Proc/EffectSettings/BlackWhiteSettings.h"
 #include "Proc/EffectSettings/ColorBalanceAutoSettings.h"
 #include "Proc/EffectSettings/ColorBalanceSettings.h"
+#include "Proc/EffectSettings/ColorChannelMixerSettings.h"
+#include "Proc/EffectSettings/ColorFilterSettings.h"
+#include "Proc/EffectSettings/ColorMixBurnSettings.h"
+#include "Proc/EffectSettings/ColorReduceSettings.h"
+#include "Proc/EffectSettings/ColoredGlassSettings.h"
+#include "Proc/EffectSettings/ColorspaceConverterSettings.h"
 #include "Proc/EffectSettings/DetailsEnhanceSettings.h"
 #include "Proc/EffectSettings/EffectSettingsSimple.h"
 #include "Proc/EffectSettings/EmptySettings.h"
+#include "Proc/EffectSettings/GIMPColorCorrectionSettings.h"
+#include "Proc/EffectSettings/GIMPColorTemperatureSettings.h"
+#include "Proc/EffectSettings/GIMPColorizeSettings.h"
+#include "Proc/EffectSettings/GIMPHueSaturationSettings.h"
+#include "Proc/EffectSettings/GIMPShadowsHightlightsSettings.h"
+#include "Proc/EffectSettings/GrayscaleSettings.h"
+#include "Proc/EffectSettings/RetroColorsSettings.h"
+#include "Proc/EffectSettings/SepiaSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
+#include "Proc/EffectSettings/SplitToningSettings.h"
+#include "Proc/EffectSettings/TintTemperatureSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
+#include "Proc/EffectSettings/WhiteBalanceSettings.h"
 #include "Proc/Reflection/SpelledName.h"
 
 #include <algorithm>
@@ -41,9 +62,36 @@ template <class Effect> consteval EffectClass Entry(Registration registration = 
 
 // The order of the start-up list is fixed.
 constexpr std::array CLASSES{
-    Entry<AcidSettings>(),         Entry<AdjusterSettings>(),       Entry<ColorBalanceAutoSettings>(),
-    Entry<ColorBalanceSettings>(), Entry<DetailsEnhanceSettings>(), Entry<EmptySettings>(),
-    Entry<SmartBlurSettings>(),    Entry<VibranceSettings>(),       Entry<EffectSettingsSimple>(),
+    Entry<AcidSettings>(),
+    Entry<AdjusterSettings>(),
+    Entry<AutoEnhanceSettings>(),
+    Entry<BalanceLumaSettings>(),
+    Entry<BiColorToningSettings>(),
+    Entry<BlackWhiteSettings>(),
+    Entry<ColorBalanceAutoSettings>(),
+    Entry<ColorBalanceSettings>(),
+    Entry<ColorChannelMixerSettings>(),
+    Entry<ColoredGlassSettings>(),
+    Entry<ColorReduceSettings>(),
+    Entry<ColorFilterSettings>(),
+    Entry<ColorMixBurnSettings>(),
+    Entry<ColorspaceConverterSettings>(),
+    Entry<DetailsEnhanceSettings>(),
+    Entry<EmptySettings>(),
+    Entry<GIMPColorCorrectionSettings>(),
+    Entry<GIMPColorTemperatureSettings>(),
+    Entry<GIMPColorizeSettings>(),
+    Entry<GIMPHueSaturationSettings>(),
+    Entry<GIMPShadowsHightlightsSettings>(),
+    Entry<GrayscaleSettings>(),
+    Entry<RetroColorsSettings>(),
+    Entry<SepiaSettings>(),
+    Entry<SmartBlurSettings>(),
+    Entry<SplitToningSettings>(),
+    Entry<TintTemperatureSettings>(),
+    Entry<VibranceSettings>(),
+    Entry<WhiteBalanceSettings>(),
+    Entry<EffectSettingsSimple>(),
 };
 
 // The registry is built without the test of RegisterFactory, which would drop a repeated id silently.

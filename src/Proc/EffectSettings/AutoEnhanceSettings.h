@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_AUTO_ENHANCE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_AUTO_ENHANCE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectAutoEnhance.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API AutoEnhanceSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectAutoEnhance, AutoEnhanceSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~AutoEnhanceSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectAutoEnhance, AutoEnhanceSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

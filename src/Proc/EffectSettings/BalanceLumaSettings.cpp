@@ -1,0 +1,17 @@
+#include "Proc/EffectSettings/BalanceLumaSettings.h"
+
+#include "Proc/EffectSettings/EffectSettingsBody.h"
+
+namespace Ombrel::PhotoCore
+{
+
+template class EffectSettingsImpl<Proc::SettingsEffectBalanceLuma, BalanceLumaSettings>;
+
+BalanceLumaSettings::~BalanceLumaSettings() = default;
+
+bool BalanceLumaSettings::IsEmpty() const
+{
+    return settings.IsEmpty();
+}
+
+} // namespace Ombrel::PhotoCore

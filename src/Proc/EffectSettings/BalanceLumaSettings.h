@@ -1,0 +1,25 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_BALANCE_LUMA_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_BALANCE_LUMA_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectBalanceLuma.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API BalanceLumaSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectBalanceLuma, BalanceLumaSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~BalanceLumaSettings() override;
+
+    /// What the record says.
+    bool IsEmpty() const override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectBalanceLuma, BalanceLumaSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

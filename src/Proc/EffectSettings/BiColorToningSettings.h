@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_BI_COLOR_TONING_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_BI_COLOR_TONING_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectBiColorToning.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API BiColorToningSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectBiColorToning, BiColorToningSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~BiColorToningSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectBiColorToning, BiColorToningSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

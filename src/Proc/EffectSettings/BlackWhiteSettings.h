@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_BLACK_WHITE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_BLACK_WHITE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectBlackWhite.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API BlackWhiteSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectBlackWhite, BlackWhiteSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~BlackWhiteSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectBlackWhite, BlackWhiteSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

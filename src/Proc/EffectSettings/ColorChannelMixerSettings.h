@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_COLOR_CHANNEL_MIXER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_COLOR_CHANNEL_MIXER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectColorChannelMixer.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API ColorChannelMixerSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectColorChannelMixer, ColorChannelMixerSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~ColorChannelMixerSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectColorChannelMixer, ColorChannelMixerSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

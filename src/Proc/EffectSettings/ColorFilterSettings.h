@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_COLOR_FILTER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_COLOR_FILTER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectColorFilter.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API ColorFilterSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectColorFilter, ColorFilterSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~ColorFilterSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectColorFilter, ColorFilterSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_COLORED_GLASS_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_COLORED_GLASS_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectColoredGlass.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API ColoredGlassSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectColoredGlass, ColoredGlassSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~ColoredGlassSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectColoredGlass, ColoredGlassSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

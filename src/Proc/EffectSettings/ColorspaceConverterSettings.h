@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_COLORSPACE_CONVERTER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_COLORSPACE_CONVERTER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsColorspaceConverter.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API ColorspaceConverterSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsColorspaceConverter, ColorspaceConverterSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~ColorspaceConverterSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsColorspaceConverter, ColorspaceConverterSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_GIMP_COLOR_CORRECTION_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_GIMP_COLOR_CORRECTION_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectGIMPColorCorrection.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API GIMPColorCorrectionSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectGIMPColorCorrection, GIMPColorCorrectionSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~GIMPColorCorrectionSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectGIMPColorCorrection, GIMPColorCorrectionSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_GIMP_COLOR_TEMPERATURE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_GIMP_COLOR_TEMPERATURE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectGIMPColorTemperature.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API GIMPColorTemperatureSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectGIMPColorTemperature, GIMPColorTemperatureSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~GIMPColorTemperatureSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectGIMPColorTemperature, GIMPColorTemperatureSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

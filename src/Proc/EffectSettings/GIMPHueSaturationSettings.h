@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_GIMP_HUE_SATURATION_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_GIMP_HUE_SATURATION_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectGIMPHueSaturation.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API GIMPHueSaturationSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectGIMPHueSaturation, GIMPHueSaturationSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~GIMPHueSaturationSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectGIMPHueSaturation, GIMPHueSaturationSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_GRAYSCALE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_GRAYSCALE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectGrayscale.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API GrayscaleSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectGrayscale, GrayscaleSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~GrayscaleSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectGrayscale, GrayscaleSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_RETRO_COLORS_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_RETRO_COLORS_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectRetroColors.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API RetroColorsSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectRetroColors, RetroColorsSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~RetroColorsSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectRetroColors, RetroColorsSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,25 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_TINT_TEMPERATURE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_TINT_TEMPERATURE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectTintTemperature.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API TintTemperatureSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectTintTemperature, TintTemperatureSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~TintTemperatureSettings() override;
+
+    /// What the record says.
+    bool IsEmpty() const override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectTintTemperature, TintTemperatureSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_WHITE_BALANCE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_WHITE_BALANCE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectWhiteBalance.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API WhiteBalanceSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectWhiteBalance, WhiteBalanceSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~WhiteBalanceSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectWhiteBalance, WhiteBalanceSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,62 @@
+#include "Proc/Settings/SettingsColorspaceConverter.h"
+
+#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/PixFmtNames.h"
+
+namespace Ombrel::Proc
+{
+
+const std::string SettingsColorspaceConverter::CLASS_ID{CLASS_NAME};
+
+template <> struct Fields<SettingsColorspaceConverter>
+{
+    using R = SettingsColorspaceConverter;
+
+    // The record sets its pad colour as a whole, the tree holds it channel by channel.
+    static void SetPadColorR(R& record, std::uint8_t value)
+    {
+        record.SetPadColor(value, record.GetPadColorG(), record.GetPadColorB());
+    }
+
+    static void SetPadColorG(R& record, std::uint8_t value)
+    {
+        record.SetPadColor(record.GetPadColorR(), value, record.GetPadColorB());
+    }
+
+    static void SetPadColorB(R& record, std::uint8_t value)
+    {
+        record.SetPadColor(record.GetPadColorR(), record.GetPadColorG(), value);
+    }
+
+    // The record has no way to empty its list, so that a second read extends what the first one left.
+    static void AddFormats(R& record, std::vector<PixFmt> formats)
+    {
+        for (const PixFmt format : formats)
+        {
+            record.AddPixFmt(format);
+        }
+    }
+
+    using List = FieldList<AccessorDescriptor<"padColorR", &SetPadColorR, &R::GetPadColorR>,
+                           AccessorDescriptor<"padColorG", &SetPadColorG, &R::GetPadColorG>,
+                           AccessorDescriptor<"padColorB", &SetPadColorB, &R::GetPadColorB>,
+                           AccessorDescriptor<"hasAlpha", &R::SetHasAlpha, &R::GetHasAlpha>,
+                           AccessorDescriptor<"multiplyAlpha", &R::SetMultiplyAlpha, &R::GetMultiplyAlpha>,
+                           AccessorDescriptor<"forceDropAlpha", &R::SetForceDropAlpha, &R::GetForceDropAlpha>,
+                           AccessorDescriptor<"requiredFormats", &AddFormats, &R::GetRequiredFormats>>;
+};
+
+template struct Reflected<SettingsColorspaceConverter>;
+
+bool SettingsColorspaceConverter::IsEmpty() const
+{
+    return *this == Reflected<SettingsColorspaceConverter>::Default();
+}
+
+SettingsColorspaceConverter& SettingsColorspaceConverter::AddPixFmt(PixFmt format)
+{
+    SettingsPixelFormatConverter::AddPixFmt(format);
+    return *this;
+}
+
+} // namespace Ombrel::Proc

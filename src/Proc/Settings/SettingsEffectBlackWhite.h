@@ -1,0 +1,27 @@
+#ifndef OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_BLACK_WHITE_H
+#define OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_BLACK_WHITE_H
+
+#include "Proc/Settings/RgbaColor.h"
+#include "Proc/Settings/SettingsRecord.h"
+
+namespace Ombrel::Proc
+{
+
+class OMBREL_API SettingsEffectBlackWhite : public SettingsRecord<SettingsEffectBlackWhite>
+{
+public:
+    static constexpr const char* CLASS_NAME = "EFFECT_BLACK_WHITE";
+    static const std::string CLASS_ID;
+
+    ~SettingsEffectBlackWhite() override;
+
+    bool operator==(const SettingsEffectBlackWhite& other) const;
+
+    double m_threshold = 0.5;
+    RgbaColor m_black;
+    RgbaColor m_white{255, 255, 255, 255};
+};
+
+} // namespace Ombrel::Proc
+
+#endif

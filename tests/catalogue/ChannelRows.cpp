@@ -1,0 +1,144 @@
+#include "catalogue/Catalogue.h"
+
+#include "Proc/EffectSettings/ColorFilterSettings.h"
+#include "Proc/EffectSettings/ColorReduceSettings.h"
+#include "support/TreeText.h"
+
+using Ombrel::PhotoCore::ColorFilterSettings;
+using Ombrel::PhotoCore::ColorReduceSettings;
+using Ombrel::PhotoCore::IEffectSettings;
+using Support::List;
+using InputType = IEffectSettings::InputType;
+
+namespace Catalogue
+{
+namespace
+{
+
+std::int32_t PresetOf(const IEffectSettings& effect)
+{
+    return static_cast<std::int32_t>(dynamic_cast<const ColorFilterSettings&>(effect).GetTypedSettings().GetPreset());
+}
+
+std::int32_t ReducedColorOf(const IEffectSettings& effect)
+{
+    return static_cast<std::int32_t>(dynamic_cast<const ColorReduceSettings&>(effect).GetTypedSettings().m_reducedColor);
+}
+
+std::vector<EnumName> PresetNames()
+{
+    return {
+        {"enPraset01", 0},  {"enPraset02", 1},        {"enPraset03", 2},  {"enPraset04", 3},  {"enPraset05", 4},
+        {"enPraset06", 5},  {"enPraset07", 6},        {"enPraset08", 7},  {"enPraset09", 8},  {"enPraset10", 9},
+        {"enPraset11", 10}, {"enPraset12", 11},       {"enPraset13", 12}, {"enPraset14", 13}, {"enPraset15", 14},
+        {"enPraset16", 15}, {"enPraset17", 16},       {"enPraset18", 17}, {"enPraset19", 18}, {"enPraset20", 19},
+        {"enPraset21", 20}, {"enPraset22", 21},       {"enPraset23", 22}, {"enPraset24", 23}, {"enPraset25", 24},
+        {"enPraset26", 25}, {"enPraset27", 26},       {"enPraset28", 27}, {"enPraset29", 28}, {"enPraset30", 29},
+        {"enPraset31", 30}, {"enPraset32", 31},       {"enPraset33", 32}, {"enPraset34", 33}, {"enPraset35", 34},
+        {"enPraset36", 35}, {"enPrasetMultiply", 36},
+    };
+}
+
+} // namespace
+
+std::vector<Effect> ChannelRows()
+{
+    return {
+        {
+            .className = "ColorChannelMixerSettings",
+            .classId = "EFFECT_COLOR_CHANNEL_MIXER",
+            .inputType = InputType::One,
+            .place = Place{17},
+            .fields =
+                {
+                    Float64("RR", 1.0),
+                    Float64("RG", 0.0),
+                    Float64("RB", 0.0),
+                    Float64("RA", 0.0),
+                    Float64("GR", 0.0),
+                    Float64("GG", 1.0),
+                    Float64("GB", 0.0),
+                    Float64("GA", 0.0),
+                    Float64("BR", 0.0),
+                    Float64("BG", 0.0),
+                    Float64("BB", 1.0),
+                    Float64("BA", 0.0),
+                    Float64("AR", 0.0),
+                    Float64("AG", 0.0),
+                    Float64("AB", 0.0),
+                    Float64("AA", 1.0),
+                },
+            .isRecordEmpty = true,
+        },
+        {
+            .className = "ColorFilterSettings",
+            .classId = "EFFECT_COLOR_FILTER",
+            .inputType = InputType::One,
+            .place = Place{20},
+            .fields =
+                {
+                    Enum("preset", "enPraset01", PresetNames(), 0, PresetOf),
+                    Int32("filterId", 0),
+                    Float32("RFactor", 1.0f),
+                    Float32("GFactor", 1.0f),
+                    Float32("BFactor", 1.0f),
+                    Float32("colorFactor", 1.0f),
+                    Float32("intensity", 0.0f),
+                },
+            .isRecordEmpty = true,
+        },
+        {
+            .className = "ColorMixBurnSettings",
+            .classId = "EFFECT_COLOR_MIX_BURN",
+            .inputType = InputType::One,
+            .place = Place{21},
+            .fields =
+                {
+                    Float64("strength", 0.0),
+                },
+            .isRecordEmpty = true,
+        },
+        {
+            .className = "ColorReduceSettings",
+            .classId = "EFFECT_COLOR_REDUCE",
+            .inputType = InputType::One,
+            .place = Place{19},
+            .fields =
+                {
+                    Float64("threshold", 1.2),
+                    Enum("reducedColor", "Red", {{"Red", 0}, {"Green", 1}, {"Blue", 2}}, 0, ReducedColorOf),
+                },
+        },
+        {
+            .className = "ColoredGlassSettings",
+            .classId = "EFFECT_COLORED_GLASS",
+            .inputType = InputType::One,
+            .place = Place{18},
+            .fields =
+                {
+                    Color("color", "000000ff"),
+                    Int32("alpha", 0),
+                },
+            .isRecordEmpty = true,
+        },
+        {
+            .className = "ColorspaceConverterSettings",
+            .classId = "EFFECT_COLORSPACE_CONVERTER",
+            .inputType = InputType::One,
+            .place = Place{22},
+            .fields =
+                {
+                    UInt8("padColorR", 0),
+                    UInt8("padColorG", 0),
+                    UInt8("padColorB", 0),
+                    Bool("hasAlpha", false),
+                    Bool("multiplyAlpha", false),
+                    Bool("forceDropAlpha", false),
+                    Appended(Other("requiredFormats", Kind::List, List({}), List({"RGB24", "BGRA"}))),
+                },
+            .isRecordEmpty = true,
+        },
+    };
+}
+
+} // namespace Catalogue
