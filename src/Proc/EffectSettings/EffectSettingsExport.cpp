@@ -2,11 +2,32 @@
 
 #include "Proc/EffectSettings/AcidSettings.h"
 #include "Proc/EffectSettings/AdjusterSettings.h"
+#include "Proc/EffectSettings/AlphaExtractorSettings.h"
+#include "Proc/EffectSettings/BlurAdaptiveSettings.h"
+#include "Proc/EffectSettings/BlurBokehSettings.h"
+#include "Proc/EffectSettings/BlurMotionSettings.h"
+#include "Proc/EffectSettings/BlurRadialSettings.h"
+#include "Proc/EffectSettings/BlurSettings.h"
 #include "Proc/EffectSettings/ColorBalanceAutoSettings.h"
 #include "Proc/EffectSettings/ColorBalanceSettings.h"
+#include "Proc/EffectSettings/DenoiseChromaLumaSettings.h"
+#include "Proc/EffectSettings/DenoiseDCTSettings.h"
+#include "Proc/EffectSettings/DenoiseOvercompleteWaveletSettings.h"
+#include "Proc/EffectSettings/DetailsEnhanceExSettings.h"
 #include "Proc/EffectSettings/DetailsEnhanceSettings.h"
+#include "Proc/EffectSettings/EdgeDetectSettings.h"
 #include "Proc/EffectSettings/EffectSettingsSimple.h"
+#include "Proc/EffectSettings/EmbossSettings.h"
 #include "Proc/EffectSettings/EmptySettings.h"
+#include "Proc/EffectSettings/GradientPosterizeSettings.h"
+#include "Proc/EffectSettings/GradientSettings.h"
+#include "Proc/EffectSettings/GuidedFilterSettings.h"
+#include "Proc/EffectSettings/HistogramSettings.h"
+#include "Proc/EffectSettings/NegateVideoSettings.h"
+#include "Proc/EffectSettings/NoiseVideoSettings.h"
+#include "Proc/EffectSettings/PosterizeSettings.h"
+#include "Proc/EffectSettings/ReplaceChromaSettings.h"
+#include "Proc/EffectSettings/SharpenSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
 #include "Proc/Reflection/SpelledName.h"
@@ -41,9 +62,36 @@ template <class Effect> consteval EffectClass Entry(Registration registration = 
 
 // The order of the start-up list is fixed.
 constexpr std::array CLASSES{
-    Entry<AcidSettings>(),         Entry<AdjusterSettings>(),       Entry<ColorBalanceAutoSettings>(),
-    Entry<ColorBalanceSettings>(), Entry<DetailsEnhanceSettings>(), Entry<EmptySettings>(),
-    Entry<SmartBlurSettings>(),    Entry<VibranceSettings>(),       Entry<EffectSettingsSimple>(),
+    Entry<AcidSettings>(),
+    Entry<AdjusterSettings>(),
+    Entry<AlphaExtractorSettings>(),
+    Entry<BlurAdaptiveSettings>(),
+    Entry<BlurBokehSettings>(),
+    Entry<BlurMotionSettings>(),
+    Entry<BlurRadialSettings>(),
+    Entry<BlurSettings>(),
+    Entry<ColorBalanceAutoSettings>(),
+    Entry<ColorBalanceSettings>(),
+    Entry<DetailsEnhanceSettings>(),
+    Entry<DetailsEnhanceExSettings>(),
+    Entry<DenoiseChromaLumaSettings>(),
+    Entry<DenoiseDCTSettings>(),
+    Entry<DenoiseOvercompleteWaveletSettings>(),
+    Entry<EdgeDetectSettings>(),
+    Entry<EmbossSettings>(),
+    Entry<EmptySettings>(),
+    Entry<GradientPosterizeSettings>(),
+    Entry<GradientSettings>(),
+    Entry<HistogramSettings>(),
+    Entry<NegateVideoSettings>(),
+    Entry<NoiseVideoSettings>(),
+    Entry<PosterizeSettings>(),
+    Entry<ReplaceChromaSettings>(),
+    Entry<SharpenSettings>(),
+    Entry<SmartBlurSettings>(),
+    Entry<VibranceSettings>(),
+    Entry<EffectSettingsSimple>(),
+    Entry<GuidedFilterSettings>(Registration::None),
 };
 
 // The registry is built without the test of RegisterFactory, which would drop a repeated id silently.
