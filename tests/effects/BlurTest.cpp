@@ -34,7 +34,7 @@ TEST(Blur, IsMadeWithAnAlgorithm)
 
 TEST(Blur, IsResetToGaussianWhateverItWasMadeWith)
 {
-    BlurSettings effect(SettingsEffectBlur(Algorithm::Bilateral));
+    BlurSettings effect{SettingsEffectBlur(Algorithm::Bilateral)};
     effect.GetTypedSettings().SetDevX(2.0);
     effect.Deserialize(Map({}));
     EXPECT_EQ(effect.GetTypedSettings().GetAlgorithm(), Algorithm::Gaussian);
@@ -45,7 +45,7 @@ TEST(Blur, UnknownTextsHaveFallbacksOfTheirOwn)
 {
     for (const PropertyTree& unknown : {PropertyTree("nonsense"), PropertyTree("gaussian"), List({}), PropertyTree()})
     {
-        BlurSettings effect(SettingsEffectBlur(Algorithm::Median));
+        BlurSettings effect{SettingsEffectBlur(Algorithm::Median)};
         effect.Deserialize(Map({{"algorithm", unknown}, {"scaleType", unknown}, {"pixelFormat", unknown}}));
         EXPECT_EQ(effect.GetTypedSettings().GetAlgorithm(), Algorithm::Gaussian) << testing::PrintToString(unknown);
         EXPECT_EQ(effect.GetTypedSettings().GetScaleType(), BlurScaleType::Absolute) << testing::PrintToString(unknown);

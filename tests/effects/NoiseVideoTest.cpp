@@ -29,7 +29,7 @@ TEST(NoiseVideo, IsMadeWithAStrengthAndAMethod)
 
 TEST(NoiseVideo, IsResetToNoNoiseWhateverItWasMadeWith)
 {
-    NoiseVideoSettings effect(SettingsEffectNoiseVideo(100, Method::Poisson));
+    NoiseVideoSettings effect{SettingsEffectNoiseVideo(100, Method::Poisson)};
     effect.Deserialize(Map({{"seed", 7}}));
     EXPECT_EQ(effect.GetTypedSettings().GetStrength(), 0);
     EXPECT_EQ(effect.GetTypedSettings().GetMethod(), Method::Gaussian);
