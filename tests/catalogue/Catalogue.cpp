@@ -125,7 +125,8 @@ const std::vector<Effect>& All()
     static const std::vector<Effect> rows = []
     {
         std::vector<Effect> all;
-        for (auto part : {&FrameworkRows, &AdjusterRows, &GimpRows, &ChannelRows, &ToningRows})
+        for (auto part : {&AdjusterRows, &BlurRows, &ChannelRows, &DenoiseRows, &DetailRows, &FrameworkRows, &GimpRows,
+                          &LevelsRows, &ToningRows})
         {
             std::ranges::move(part(), std::back_inserter(all));
         }

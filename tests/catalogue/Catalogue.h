@@ -76,6 +76,15 @@ Field Enum(std::string key, std::string defaultValue, std::vector<EnumName> name
 Field Record(std::string key, std::vector<Field> nested,
              std::initializer_list<std::pair<std::string_view, Ombrel::PropertyTree>> overrides = {});
 
+/// Reads a number through a getter or a data member of the record of the settings class `Class`.
+template <class Class, auto Member> std::int32_t NumberIn(const Ombrel::PhotoCore::IEffectSettings& effect)
+{
+    return static_cast<std::int32_t>(std::invoke(Member, dynamic_cast<const Class&>(effect).GetTypedSettings()));
+}
+
+/// The names of the pixel formats, whose fallback is -1.
+std::vector<EnumName> PixFmtNames();
+
 /// Any other field, such as a list, with its two values in full stored form.
 Field Other(std::string key, Kind kind, Ombrel::PropertyTree defaultValue, Ombrel::PropertyTree sample);
 
@@ -112,10 +121,14 @@ struct Effect
 const std::vector<Effect>& All();
 
 /// The rows of the parts of the catalogue.
-std::vector<Effect> FrameworkRows();
 std::vector<Effect> AdjusterRows();
-std::vector<Effect> GimpRows();
+std::vector<Effect> BlurRows();
 std::vector<Effect> ChannelRows();
+std::vector<Effect> DenoiseRows();
+std::vector<Effect> DetailRows();
+std::vector<Effect> FrameworkRows();
+std::vector<Effect> GimpRows();
+std::vector<Effect> LevelsRows();
 std::vector<Effect> ToningRows();
 
 /// A map of all keys with their defaults, as property access shows them.

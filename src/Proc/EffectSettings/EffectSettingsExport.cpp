@@ -2,10 +2,16 @@
 
 #include "Proc/EffectSettings/AcidSettings.h"
 #include "Proc/EffectSettings/AdjusterSettings.h"
+#include "Proc/EffectSettings/AlphaExtractorSettings.h"
 #include "Proc/EffectSettings/AutoEnhanceSettings.h"
 #include "Proc/EffectSettings/BalanceLumaSettings.h"
 #include "Proc/EffectSettings/BiColorToningSettings.h"
 #include "Proc/EffectSettings/BlackWhiteSettings.h"
+#include "Proc/EffectSettings/BlurAdaptiveSettings.h"
+#include "Proc/EffectSettings/BlurBokehSettings.h"
+#include "Proc/EffectSettings/BlurMotionSettings.h"
+#include "Proc/EffectSettings/BlurRadialSettings.h"
+#include "Proc/EffectSettings/BlurSettings.h"
 #include "Proc/EffectSettings/ColorBalanceAutoSettings.h"
 #include "Proc/EffectSettings/ColorBalanceSettings.h"
 #include "Proc/EffectSettings/ColorChannelMixerSettings.h"
@@ -14,17 +20,32 @@
 #include "Proc/EffectSettings/ColorReduceSettings.h"
 #include "Proc/EffectSettings/ColoredGlassSettings.h"
 #include "Proc/EffectSettings/ColorspaceConverterSettings.h"
+#include "Proc/EffectSettings/DenoiseChromaLumaSettings.h"
+#include "Proc/EffectSettings/DenoiseDCTSettings.h"
+#include "Proc/EffectSettings/DenoiseOvercompleteWaveletSettings.h"
+#include "Proc/EffectSettings/DetailsEnhanceExSettings.h"
 #include "Proc/EffectSettings/DetailsEnhanceSettings.h"
+#include "Proc/EffectSettings/EdgeDetectSettings.h"
 #include "Proc/EffectSettings/EffectSettingsSimple.h"
+#include "Proc/EffectSettings/EmbossSettings.h"
 #include "Proc/EffectSettings/EmptySettings.h"
 #include "Proc/EffectSettings/GIMPColorCorrectionSettings.h"
 #include "Proc/EffectSettings/GIMPColorTemperatureSettings.h"
 #include "Proc/EffectSettings/GIMPColorizeSettings.h"
 #include "Proc/EffectSettings/GIMPHueSaturationSettings.h"
 #include "Proc/EffectSettings/GIMPShadowsHightlightsSettings.h"
+#include "Proc/EffectSettings/GradientPosterizeSettings.h"
+#include "Proc/EffectSettings/GradientSettings.h"
 #include "Proc/EffectSettings/GrayscaleSettings.h"
+#include "Proc/EffectSettings/GuidedFilterSettings.h"
+#include "Proc/EffectSettings/HistogramSettings.h"
+#include "Proc/EffectSettings/NegateVideoSettings.h"
+#include "Proc/EffectSettings/NoiseVideoSettings.h"
+#include "Proc/EffectSettings/PosterizeSettings.h"
+#include "Proc/EffectSettings/ReplaceChromaSettings.h"
 #include "Proc/EffectSettings/RetroColorsSettings.h"
 #include "Proc/EffectSettings/SepiaSettings.h"
+#include "Proc/EffectSettings/SharpenSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/SplitToningSettings.h"
 #include "Proc/EffectSettings/TintTemperatureSettings.h"
@@ -64,10 +85,16 @@ template <class Effect> consteval EffectClass Entry(Registration registration = 
 constexpr std::array CLASSES{
     Entry<AcidSettings>(),
     Entry<AdjusterSettings>(),
+    Entry<AlphaExtractorSettings>(),
     Entry<AutoEnhanceSettings>(),
     Entry<BalanceLumaSettings>(),
     Entry<BiColorToningSettings>(),
     Entry<BlackWhiteSettings>(),
+    Entry<BlurAdaptiveSettings>(),
+    Entry<BlurBokehSettings>(),
+    Entry<BlurMotionSettings>(),
+    Entry<BlurRadialSettings>(),
+    Entry<BlurSettings>(),
     Entry<ColorBalanceAutoSettings>(),
     Entry<ColorBalanceSettings>(),
     Entry<ColorChannelMixerSettings>(),
@@ -77,21 +104,37 @@ constexpr std::array CLASSES{
     Entry<ColorMixBurnSettings>(),
     Entry<ColorspaceConverterSettings>(),
     Entry<DetailsEnhanceSettings>(),
+    Entry<DetailsEnhanceExSettings>(),
+    Entry<DenoiseChromaLumaSettings>(),
+    Entry<DenoiseDCTSettings>(),
+    Entry<DenoiseOvercompleteWaveletSettings>(),
+    Entry<EdgeDetectSettings>(),
+    Entry<EmbossSettings>(),
     Entry<EmptySettings>(),
     Entry<GIMPColorCorrectionSettings>(),
     Entry<GIMPColorTemperatureSettings>(),
     Entry<GIMPColorizeSettings>(),
     Entry<GIMPHueSaturationSettings>(),
     Entry<GIMPShadowsHightlightsSettings>(),
+    Entry<GradientPosterizeSettings>(),
+    Entry<GradientSettings>(),
     Entry<GrayscaleSettings>(),
+    Entry<HistogramSettings>(),
+    Entry<NegateVideoSettings>(),
+    Entry<NoiseVideoSettings>(),
+    Entry<PosterizeSettings>(),
+    Entry<ReplaceChromaSettings>(),
     Entry<RetroColorsSettings>(),
     Entry<SepiaSettings>(),
+    Entry<SharpenSettings>(),
     Entry<SmartBlurSettings>(),
     Entry<SplitToningSettings>(),
     Entry<TintTemperatureSettings>(),
     Entry<VibranceSettings>(),
     Entry<WhiteBalanceSettings>(),
     Entry<EffectSettingsSimple>(),
+    // Not registered: they have an id, and a caller makes them by Create.
+    Entry<GuidedFilterSettings>(Registration::None),
 };
 
 // The registry is built without the test of RegisterFactory, which would drop a repeated id silently.

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_ALPHA_EXTRACTOR_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_ALPHA_EXTRACTOR_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectAlphaExtractor.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API AlphaExtractorSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectAlphaExtractor, AlphaExtractorSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~AlphaExtractorSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectAlphaExtractor, AlphaExtractorSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_BLUR_ADAPTIVE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_BLUR_ADAPTIVE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectBlurAdaptive.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API BlurAdaptiveSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectBlurAdaptive, BlurAdaptiveSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~BlurAdaptiveSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectBlurAdaptive, BlurAdaptiveSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_BLUR_BOKEH_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_BLUR_BOKEH_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectBlurBokeh.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API BlurBokehSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectBlurBokeh, BlurBokehSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~BlurBokehSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectBlurBokeh, BlurBokehSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_BLUR_RADIAL_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_BLUR_RADIAL_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectBlurRadial.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API BlurRadialSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectBlurRadial, BlurRadialSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~BlurRadialSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectBlurRadial, BlurRadialSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_DENOISE_DCT_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_DENOISE_DCT_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectDenoiseDCT.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API DenoiseDCTSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectDenoiseDCT, DenoiseDCTSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~DenoiseDCTSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectDenoiseDCT, DenoiseDCTSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,23 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_DENOISE_OVERCOMPLETE_WAVELET_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_DENOISE_OVERCOMPLETE_WAVELET_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectDenoiseOvercompleteWavelet.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API DenoiseOvercompleteWaveletSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectDenoiseOvercompleteWavelet,
+                                              DenoiseOvercompleteWaveletSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~DenoiseOvercompleteWaveletSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectDenoiseOvercompleteWavelet, DenoiseOvercompleteWaveletSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

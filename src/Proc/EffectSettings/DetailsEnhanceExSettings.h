@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_DETAILS_ENHANCE_EX_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_DETAILS_ENHANCE_EX_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectDetailsEnhanceEx.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API DetailsEnhanceExSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectDetailsEnhanceEx, DetailsEnhanceExSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~DetailsEnhanceExSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectDetailsEnhanceEx, DetailsEnhanceExSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_EDGE_DETECT_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_EDGE_DETECT_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectEdgeDetect.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API EdgeDetectSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectEdgeDetect, EdgeDetectSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~EdgeDetectSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectEdgeDetect, EdgeDetectSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

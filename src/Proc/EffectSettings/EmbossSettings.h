@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_EMBOSS_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_EMBOSS_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectEmboss.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API EmbossSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectEmboss, EmbossSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~EmbossSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectEmboss, EmbossSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

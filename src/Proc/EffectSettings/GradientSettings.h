@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_GRADIENT_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_GRADIENT_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectGradient.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API GradientSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectGradient, GradientSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~GradientSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectGradient, GradientSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

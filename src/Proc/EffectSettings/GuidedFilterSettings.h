@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_GUIDED_FILTER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_GUIDED_FILTER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectGuidedFilter.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API GuidedFilterSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectGuidedFilter, GuidedFilterSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~GuidedFilterSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectGuidedFilter, GuidedFilterSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_HISTOGRAM_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_HISTOGRAM_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectHistogram.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API HistogramSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectHistogram, HistogramSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~HistogramSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectHistogram, HistogramSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

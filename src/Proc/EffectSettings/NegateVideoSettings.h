@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_NEGATE_VIDEO_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_NEGATE_VIDEO_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectNegateVideo.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API NegateVideoSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectNegateVideo, NegateVideoSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~NegateVideoSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectNegateVideo, NegateVideoSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_NOISE_VIDEO_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_NOISE_VIDEO_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectNoiseVideo.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API NoiseVideoSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectNoiseVideo, NoiseVideoSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~NoiseVideoSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectNoiseVideo, NoiseVideoSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

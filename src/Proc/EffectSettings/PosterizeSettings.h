@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_POSTERIZE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_POSTERIZE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectPosterize.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API PosterizeSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectPosterize, PosterizeSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~PosterizeSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectPosterize, PosterizeSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_REPLACE_CHROMA_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_REPLACE_CHROMA_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectReplaceChroma.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API ReplaceChromaSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectReplaceChroma, ReplaceChromaSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~ReplaceChromaSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectReplaceChroma, ReplaceChromaSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_SHARPEN_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_SHARPEN_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectSharpen.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API SharpenSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectSharpen, SharpenSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~SharpenSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectSharpen, SharpenSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,24 @@
+#ifndef OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_ALPHA_EXTRACTOR_H
+#define OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_ALPHA_EXTRACTOR_H
+
+#include "Proc/Settings/SettingsRecord.h"
+
+namespace Ombrel::Proc
+{
+
+/// Makes a picture of the alpha channel. It has no parameters and no neutral state: it is never empty.
+class OMBREL_API SettingsEffectAlphaExtractor : public SettingsRecord<SettingsEffectAlphaExtractor>
+{
+public:
+    static constexpr const char* CLASS_NAME = "EFFECT_ALPHA_EXTRACTOR";
+    static const std::string CLASS_ID;
+
+    ~SettingsEffectAlphaExtractor() override;
+
+    /// True: there is nothing to differ in.
+    bool operator==(const SettingsEffectAlphaExtractor& other) const;
+};
+
+} // namespace Ombrel::Proc
+
+#endif

@@ -1,0 +1,33 @@
+#ifndef OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_HISTOGRAM_H
+#define OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_HISTOGRAM_H
+
+#include "Proc/Settings/PixFmt.h"
+#include "Proc/Settings/SettingsRecord.h"
+
+#include <cstdint>
+
+namespace Ombrel::Proc
+{
+
+/// A histogram drawn over the picture.
+class OMBREL_API SettingsEffectHistogram : public SettingsRecord<SettingsEffectHistogram>
+{
+public:
+    static constexpr const char* CLASS_NAME = "EFFECT_HISTOGRAM";
+    static const std::string CLASS_ID;
+
+    ~SettingsEffectHistogram() override;
+
+    bool operator==(const SettingsEffectHistogram& other) const;
+
+    std::uint32_t m_width = 256;
+    std::uint32_t m_heightLevel = 50;
+    std::uint32_t m_heightScale = 12;
+    std::int32_t m_sharpen = -1;
+    PixFmt m_pixFmt = PixFmt::RGB24;
+    std::int64_t m_flags = -1; // all bits set
+};
+
+} // namespace Ombrel::Proc
+
+#endif

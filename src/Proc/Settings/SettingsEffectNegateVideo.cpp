@@ -1,0 +1,63 @@
+#include "Proc/Settings/SettingsEffectNegateVideo.h"
+
+#include "Proc/Reflection/Folds.h"
+
+namespace Ombrel::Proc
+{
+
+const std::string SettingsEffectNegateVideo::CLASS_ID{CLASS_NAME};
+
+template <> struct EnumNames<SettingsEffectNegateVideo::Channel>
+{
+    using E = SettingsEffectNegateVideo::Channel;
+
+    static constexpr EnumNameRow ROWS[] = {
+        {"Red", E::Red},
+        {"Green", E::Green},
+        {"Blue", E::Blue},
+        {"Alpha", E::Alpha},
+    };
+    static constexpr EnumNameTable TABLE{ROWS};
+};
+
+template <> struct Fields<SettingsEffectNegateVideo>
+{
+    using R = SettingsEffectNegateVideo;
+    using List = FieldList<AccessorDescriptor<"mode", &R::SetMode, &R::GetMode>>;
+};
+
+template struct Reflected<SettingsEffectNegateVideo>;
+
+bool SettingsEffectNegateVideo::IsEmpty() const
+{
+    return *this == Reflected<SettingsEffectNegateVideo>::Default();
+}
+
+std::set<SettingsEffectNegateVideo::Channel> SettingsEffectNegateVideo::GetMode() const
+{
+    std::set<Channel> channels;
+    for (const Channel channel : {Channel::Red, Channel::Green, Channel::Blue, Channel::Alpha})
+    {
+        if ((m_mode & static_cast<std::int32_t>(channel)) != 0)
+        {
+            channels.insert(channel);
+        }
+    }
+    return channels;
+}
+
+void SettingsEffectNegateVideo::SetMode(const std::set<Channel>& channels)
+{
+    m_mode = 0;
+    for (const Channel channel : channels)
+    {
+        m_mode |= static_cast<std::int32_t>(channel);
+    }
+}
+
+bool SettingsEffectNegateVideo::operator==(const SettingsEffectNegateVideo& other) const
+{
+    return m_mode == other.m_mode; // bits of no channel too, which the field list does not see
+}
+
+} // namespace Ombrel::Proc

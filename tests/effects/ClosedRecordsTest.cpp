@@ -1,0 +1,87 @@
+#include "Proc/EffectSettings/IEffectSettings.h"
+#include "Proc/Settings/Settings.h"
+#include "effects/TreeOf.h"
+#include "support/TreeText.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace
+{
+
+using Ombrel::PropertyTree;
+using Ombrel::PhotoCore::IEffectSettings;
+using Support::List;
+using Support::Map;
+
+struct Changed
+{
+    std::string classId;
+    PropertyTree values; // of every key, none the default
+};
+
+void PrintTo(const Changed& changed, std::ostream* out)
+{
+    *out << changed.classId;
+}
+
+class ClosedRecordsTest : public testing::TestWithParam<Changed>
+{
+};
+
+// These records are neutral as by default, and any one value makes them something else.
+TEST_P(ClosedRecordsTest, AreEmptyOnlyAsByDefault)
+{
+    for (const auto& [key, value] : GetParam().values.getMap())
+    {
+        const auto effect = IEffectSettings::CreateEffectSettings(GetParam().classId);
+        EXPECT_TRUE(effect->GetEffectSettings().IsEmpty());
+        effect->Deserialize(Map({{key, value}}));
+        EXPECT_FALSE(effect->GetEffectSettings().IsEmpty()) << key;
+        EXPECT_FALSE(effect->IsEmpty());
+        effect->Deserialize(Map({}));
+        EXPECT_TRUE(effect->GetEffectSettings().IsEmpty()) << key;
+        EXPECT_FALSE(effect->IsEmpty());
+    }
+}
+
+TEST_P(ClosedRecordsTest, ListEveryKeyHere)
+{
+    const auto effect = IEffectSettings::CreateEffectSettings(GetParam().classId);
+    effect->Deserialize(GetParam().values);
+    EXPECT_EQ(TreeOf(*effect), GetParam().values);
+    EXPECT_EQ(effect->GetPropertyAccess()->ListProperties().size(), GetParam().values.getMap().size());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, ClosedRecordsTest,
+    testing::Values(
+        Changed{"EFFECT_BLUR", Map({{"algorithm", "Median"},
+                                    {"scaleType", "Relative"},
+                                    {"pixelFormat", "BGRA"},
+                                    {"kernelLength", 3},
+                                    {"iterations", 2},
+                                    {"planesMask", 1},
+                                    {"devX", 0.5},
+                                    {"devY", 0.5},
+                                    {"scaleX", 2.0},
+                                    {"scaleY", 2.0}})},
+        Changed{
+            "EFFECT_BLUR_RADIAL",
+            Map({{"mode", "Linear"}, {"x", 0.5}, {"y", 0.5}, {"strength", 0.5}, {"angle", 90.0}, {"trace", List({Map({})})}})},
+        Changed{"EFFECT_DENOISE_CHROMA_LUMA", Map({{"lumaStrength", 1.0},
+                                                   {"chromaStrength", 1.0},
+                                                   {"lumaStrengthTemporal", 1.0},
+                                                   {"chromaStrengthTemporal", 1.0}})},
+        Changed{"EFFECT_DENOISE_DCT", Map({{"sigma", 1.0}, {"overlapSize", 1}, {"blockSizeBits", 3}})},
+        Changed{"EFFECT_DENOISE_OVERCOMPLETE_WAVELET", Map({{"depth", 1}, {"lumaStrength", 1.0}, {"chromaStrength", 1.0}})},
+        Changed{"EFFECT_EDGE_DETECT", Map({{"mode", "Wires"}, {"lowThreshold", 0.1}, {"highThreshold", 0.9}})},
+        Changed{"EFFECT_EMBOSS", Map({{"x", 1}, {"y", 1}, {"colored", true}})},
+        Changed{"EFFECT_NEGATE_VIDEO", Map({{"mode", List({"Blue"})}})},
+        Changed{"EFFECT_NOISE_VIDEO", Map({{"method", "Uniform"}, {"seed", 1}, {"strength", 1}})},
+        Changed{"EFFECT_POSTERIZE", Map({{"isPal", true}, {"seed", 1}, {"colors", 4}, {"intensity", 0.5}})},
+        Changed{"EFFECT_SHARPEN", Map({{"level", 1.0}})}),
+    [](const auto& row) { return row.param.classId; });
+
+} // namespace
