@@ -4,6 +4,7 @@
 #include "Proc/EffectSettings/EffectSettings.h"
 #include "Proc/EffectSettings/EffectSettingsExport.h"
 #include "Proc/Settings/SettingsRecord.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -27,19 +28,13 @@ using Ombrel::PhotoCore::HelperSettings;
 using Ombrel::PhotoCore::IEffectSettings;
 using Ombrel::PhotoCore::Registration;
 using Support::Map;
+using Support::StoredForm;
 
 const EffectClass* FindClass(std::string_view className)
 {
     const auto classes = EffectClasses();
     const auto found = std::ranges::find(classes, className, &EffectClass::className);
     return found == classes.end() ? nullptr : &*found;
-}
-
-PropertyTree TreeOf(const IEffectSettings& effect)
-{
-    PropertyTree tree;
-    effect.Serialize(tree);
-    return tree;
 }
 
 std::type_index TypeOf(const std::shared_ptr<IEffectSettings>& effect)
@@ -144,7 +139,7 @@ TEST_P(CatalogueTest, KnowsItsIdAndInput)
 
 TEST_P(CatalogueTest, DefaultIsAnEmptyMap)
 {
-    EXPECT_EQ(TreeOf(*Make()), Map({}));
+    EXPECT_EQ(StoredForm(*Make()), Map({}));
 }
 
 TEST_P(CatalogueTest, DefaultAnswersWhetherItIsEmpty)
@@ -193,8 +188,8 @@ TEST_P(CatalogueTest, SetsOnePropertyAndLeavesTheOthers)
             const bool isSet = other.key == field.key;
             EXPECT_EQ(Get(*effect, other.key), isSet ? other.sample : other.defaultValue) << field.key << ", " << other.key;
         }
-        EXPECT_TRUE(TreeOf(*effect).contains(field.key)) << field.key;
-        EXPECT_EQ(TreeOf(*effect).getMap().size(), 1u) << field.key;
+        EXPECT_TRUE(StoredForm(*effect).contains(field.key)) << field.key;
+        EXPECT_EQ(StoredForm(*effect).getMap().size(), 1u) << field.key;
     }
 }
 
@@ -229,12 +224,12 @@ TEST_P(CatalogueTest, RoundTripKeepsEveryValue)
 {
     const auto effect = Make();
     effect->Deserialize(SampleForm());
-    const PropertyTree stored = TreeOf(*effect);
+    const PropertyTree stored = StoredForm(*effect);
 
     const auto restored = Make();
     restored->Deserialize(stored);
     EXPECT_EQ(*restored == *effect, GetParam().equalsItsCopy);
-    EXPECT_EQ(TreeOf(*restored), stored);
+    EXPECT_EQ(StoredForm(*restored), stored);
     for (const Field& field : GetParam().fields)
     {
         EXPECT_EQ(Get(*restored, field.key), field.sample) << field.key;
@@ -255,19 +250,19 @@ TEST_P(CatalogueTest, MissingKeyResets)
             stored[field.key] = field.sample;
         }
     }
-    EXPECT_EQ(TreeOf(*effect), stored);
+    EXPECT_EQ(StoredForm(*effect), stored);
 }
 
 TEST_P(CatalogueTest, UnknownKeyIsDropped)
 {
     const auto effect = Make();
     effect->Deserialize(Map({{"no key of any effect", 5}}));
-    EXPECT_EQ(TreeOf(*effect), Map({}));
+    EXPECT_EQ(StoredForm(*effect), Map({}));
 
     if (const auto access = effect->GetPropertyAccess())
     {
         access->SetProperty("no key of any effect", 5);
-        EXPECT_EQ(TreeOf(*effect), Map({}));
+        EXPECT_EQ(StoredForm(*effect), Map({}));
         EXPECT_TRUE(access->GetProperty("no key of any effect").isNull());
         EXPECT_TRUE(access->GetProperty("implName").isNull());
         EXPECT_TRUE(access->GetProperty("helperSettings").isNull());
@@ -353,7 +348,7 @@ TEST_P(CatalogueTest, NestedFieldsHaveDefaultsOfTheirOwn)
             const auto effect = Make();
             effect->Deserialize(Map({{field.key, Map({{nested.key, nested.sample}})}}));
             EXPECT_EQ(Get(*effect, field.key), expected) << field.key << '/' << nested.key;
-            EXPECT_EQ(TreeOf(*effect), Map({{field.key, Map({{nested.key, nested.sample}})}}))
+            EXPECT_EQ(StoredForm(*effect), Map({{field.key, Map({{nested.key, nested.sample}})}}))
                 << field.key << '/' << nested.key;
 
             effect->Deserialize(Map({{field.key, Map({})}}));
@@ -389,7 +384,7 @@ TEST_P(CatalogueTest, CloneIsEqualAndApart)
     const auto clone = effect->Clone();
     EXPECT_EQ(TypeOf(clone), TypeOf(effect));
     EXPECT_EQ(*clone == *effect, GetParam().equalsItsCopy);
-    EXPECT_EQ(TreeOf(*clone), TreeOf(*effect));
+    EXPECT_EQ(StoredForm(*clone), StoredForm(*effect));
 
     clone->Deserialize(Map({}));
     for (const Field& field : GetParam().fields)
@@ -411,7 +406,7 @@ TEST_P(CatalogueTest, PolymorphicFormComesBack)
     }
     std::shared_ptr<IEffectSettings> restored;
     EffectSettings::DeserializePtr(tree, restored);
-    EXPECT_EQ(TreeOf(*restored), TreeOf(*effect));
+    EXPECT_EQ(StoredForm(*restored), StoredForm(*effect));
 }
 
 TEST_P(CatalogueTest, RefusesOtherTypes)
@@ -463,7 +458,7 @@ TEST_P(CatalogueTest, AddingWithoutBeingAdditiveDoesNothing)
     const auto other = Make();
     other->Deserialize(SampleForm());
     effect->Add(*other);
-    EXPECT_EQ(TreeOf(*effect), Map({}));
+    EXPECT_EQ(StoredForm(*effect), Map({}));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, CatalogueTest, testing::ValuesIn(Catalogue::All()),

@@ -5,6 +5,7 @@
 #include "Proc/EffectSettings/DetailsEnhanceSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -19,17 +20,11 @@ using namespace Ombrel::PhotoCore;
 using Ombrel::PropertyTree;
 using Support::List;
 using Support::Map;
-
-PropertyTree TreeOf(const IEffectSettings& effect)
-{
-    PropertyTree tree;
-    effect.Serialize(tree);
-    return tree;
-}
+using Support::StoredForm;
 
 TEST(Adjuster, IsNeverEmptyHoweverNeutral)
 {
-    EXPECT_EQ(TreeOf(AdjusterSettings()), Map({}));
+    EXPECT_EQ(StoredForm(AdjusterSettings()), Map({}));
     EXPECT_FALSE(AdjusterSettings().IsEmpty());
     EXPECT_TRUE(VibranceSettings().IsEmpty());
 }
@@ -44,11 +39,11 @@ TEST(Adjuster, IntensitiesAreOneUnlessSet)
         EXPECT_EQ(*intensity, 1.0);
         *intensity = 0.0;
     }
-    EXPECT_EQ(TreeOf(effect), Map({{"colorizeIntensity", 0.0},
-                                   {"temperatureIntensity", 0.0},
-                                   {"hueIntensity", 0.0},
-                                   {"highlightsIntensity", 0.0},
-                                   {"shadowsIntensity", 0.0}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"colorizeIntensity", 0.0},
+                                       {"temperatureIntensity", 0.0},
+                                       {"hueIntensity", 0.0},
+                                       {"highlightsIntensity", 0.0},
+                                       {"shadowsIntensity", 0.0}}));
 }
 
 TEST(Adjuster, AMissingColorBalanceIsReset)
@@ -78,7 +73,7 @@ TEST(Adjuster, ASmartBlurWithOneKeyTakesTheStandAloneDefaults)
     EXPECT_EQ(blur.GetLumaBlur(), 7);
     EXPECT_EQ(blur.GetLumaRadius(), 0);
     EXPECT_EQ(blur.GetChromaRadius(), 0);
-    EXPECT_EQ(TreeOf(effect), Map({{"smartBlur", Map({{"lumaBlur", 7}})}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"smartBlur", Map({{"lumaBlur", 7}})}}));
 }
 
 TEST(Adjuster, AnEmptySmartBlurIsNotAMissingOne)
@@ -86,7 +81,7 @@ TEST(Adjuster, AnEmptySmartBlurIsNotAMissingOne)
     AdjusterSettings effect;
     effect.Deserialize(Map({{"smartBlur", Map({})}}));
     EXPECT_EQ(effect.GetTypedSettings().m_smartBlur.GetLumaRadius(), 0);
-    EXPECT_EQ(TreeOf(effect), Map({{"smartBlur", Map({})}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"smartBlur", Map({})}}));
 
     effect.Deserialize(Map({}));
     EXPECT_EQ(effect.GetTypedSettings().m_smartBlur.GetLumaRadius(), 100);
@@ -103,7 +98,7 @@ TEST(Adjuster, EverySmartBlurComesBack)
             effect.GetTypedSettings().m_smartBlur.SetLumaRadius(luma);
             effect.GetTypedSettings().m_smartBlur.SetChromaRadius(chroma);
             AdjusterSettings restored;
-            restored.Deserialize(TreeOf(effect));
+            restored.Deserialize(StoredForm(effect));
             EXPECT_TRUE(restored == effect) << luma << ", " << chroma;
         }
     }
@@ -113,7 +108,7 @@ TEST(Adjuster, ANestedMapHoldsOnlyWhatDiffers)
 {
     AdjusterSettings effect;
     effect.GetTypedSettings().m_colorBalanceAuto.m_exposure = 3;
-    EXPECT_EQ(TreeOf(effect), Map({{"colorBalanceAuto", Map({{"exposure", 3}})}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"colorBalanceAuto", Map({{"exposure", 3}})}}));
 }
 
 TEST(Adjuster, ANestedRecordMustBeAMap)
@@ -142,7 +137,7 @@ TEST(Adjuster, ComparesFloatsExactly)
     AdjusterSettings b;
     a.GetTypedSettings().m_gamma = b.GetTypedSettings().m_gamma = std::nan("");
     EXPECT_FALSE(a == b);
-    EXPECT_TRUE(TreeOf(a).contains("gamma"));
+    EXPECT_TRUE(StoredForm(a).contains("gamma"));
 }
 
 template <class Class> void ExpectForwardsIsEmpty(const char* key, const PropertyTree& value)

@@ -1,5 +1,5 @@
 #include "Proc/EffectSettings/AlphaExtractorSettings.h"
-#include "effects/TreeOf.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -9,12 +9,13 @@ namespace
 
 using Ombrel::PhotoCore::AlphaExtractorSettings;
 using Support::Map;
+using Support::StoredForm;
 
 TEST(AlphaExtractor, StoresOnlyWhatEveryEffectHas)
 {
     AlphaExtractorSettings effect;
     effect.Deserialize(Map({{"implName", "other"}, {"strength", 5}, {"alpha", Map({})}}));
-    EXPECT_EQ(TreeOf(effect), Map({{"implName", "other"}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"implName", "other"}}));
 }
 
 TEST(AlphaExtractor, HasAPropertyAccessThatListsNothing)

@@ -1,5 +1,5 @@
 #include "Proc/EffectSettings/BlurAdaptiveSettings.h"
-#include "effects/TreeOf.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +12,7 @@ namespace
 using Ombrel::PhotoCore::BlurAdaptiveSettings;
 using Ombrel::Proc::SettingsEffectBlurAdaptive;
 using Support::Map;
+using Support::StoredForm;
 
 constexpr double NOT_A_NUMBER = std::numeric_limits<double>::quiet_NaN();
 
@@ -19,7 +20,7 @@ TEST(BlurAdaptive, StoresOnlyTheRadiusThatChanged)
 {
     BlurAdaptiveSettings effect;
     effect.GetTypedSettings().m_radius = 3.5;
-    EXPECT_EQ(TreeOf(effect), Map({{"radius", 3.5}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"radius", 3.5}}));
 }
 
 TEST(BlurAdaptive, KeepsTheFractionOfItsRadius)

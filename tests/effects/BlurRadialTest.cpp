@@ -1,5 +1,5 @@
 #include "Proc/EffectSettings/BlurRadialSettings.h"
-#include "effects/TreeOf.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -27,6 +27,7 @@ using Ombrel::PhotoCore::BlurRadialSettings;
 using Ombrel::Proc::SettingsEffectBlurRadial;
 using Support::List;
 using Support::Map;
+using Support::StoredForm;
 
 using Trace = std::vector<SettingsEffectBlurRadial::TracePoint>;
 
@@ -70,7 +71,7 @@ TEST(BlurRadial, TraceIsReplacedInOrder)
 TEST(BlurRadial, TraceLeavesZeroesOutAndReadsThemBack)
 {
     const BlurRadialSettings effect = WithTrace({{0, 0}, {2, 0}, {0, 5}});
-    const PropertyTree stored = TreeOf(effect);
+    const PropertyTree stored = StoredForm(effect);
     EXPECT_EQ(stored, Map({{"trace", List({Map({}), Map({{"x", 2}}), Map({{"y", 5}})})}}));
 
     BlurRadialSettings restored = WithTrace({{7, 7}, {7, 7}});

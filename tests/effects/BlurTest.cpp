@@ -1,5 +1,5 @@
 #include "Proc/EffectSettings/BlurSettings.h"
-#include "effects/TreeOf.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +16,7 @@ using Ombrel::PhotoCore::BlurSettings;
 using Ombrel::Proc::SettingsEffectBlur;
 using Support::List;
 using Support::Map;
+using Support::StoredForm;
 
 using Algorithm = SettingsEffectBlur::Algorithm;
 using BlurScaleType = SettingsEffectBlur::BlurScaleType;
@@ -29,7 +30,7 @@ TEST(Blur, IsMadeWithAnAlgorithm)
     EXPECT_EQ(record.GetAlgorithm(), Algorithm::Median);
     EXPECT_EQ(record.GetKernelLength(), 0);
     EXPECT_FALSE(record.IsEmpty());
-    EXPECT_EQ(TreeOf(BlurSettings(record)), Map({{"algorithm", "Median"}}));
+    EXPECT_EQ(StoredForm(BlurSettings(record)), Map({{"algorithm", "Median"}}));
 }
 
 TEST(Blur, IsResetToGaussianWhateverItWasMadeWith)
@@ -58,7 +59,7 @@ TEST(Blur, ValueWithoutANameIsWrittenAsNothing)
     BlurSettings effect;
     effect.GetTypedSettings().SetAlgorithm(Algorithm{7});
     effect.GetTypedSettings().SetPixelFormat(PixFmt{1});
-    const PropertyTree stored = TreeOf(effect);
+    const PropertyTree stored = StoredForm(effect);
     EXPECT_EQ(stored, Map({{"algorithm", ""}, {"pixelFormat", ""}}));
 
     effect.Deserialize(stored);

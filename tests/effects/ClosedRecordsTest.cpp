@@ -1,6 +1,6 @@
 #include "Proc/EffectSettings/IEffectSettings.h"
 #include "Proc/Settings/Settings.h"
-#include "effects/TreeOf.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -14,6 +14,7 @@ using Ombrel::PropertyTree;
 using Ombrel::PhotoCore::IEffectSettings;
 using Support::List;
 using Support::Map;
+using Support::StoredForm;
 
 struct Changed
 {
@@ -50,7 +51,7 @@ TEST_P(ClosedRecordsTest, ListEveryKeyHere)
 {
     const auto effect = IEffectSettings::CreateEffectSettings(GetParam().classId);
     effect->Deserialize(GetParam().values);
-    EXPECT_EQ(TreeOf(*effect), GetParam().values);
+    EXPECT_EQ(StoredForm(*effect), GetParam().values);
     EXPECT_EQ(effect->GetPropertyAccess()->ListProperties().size(), GetParam().values.getMap().size());
 }
 

@@ -1,5 +1,5 @@
 #include "Proc/EffectSettings/DetailsEnhanceExSettings.h"
-#include "effects/TreeOf.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -12,13 +12,14 @@ namespace
 using Ombrel::PhotoCore::DetailsEnhanceExSettings;
 using Ombrel::Proc::SettingsEffectDetailsEnhanceEx;
 using Support::Map;
+using Support::StoredForm;
 
 TEST(DetailsEnhanceEx, StoresAFractionOfStrength)
 {
     DetailsEnhanceExSettings effect;
-    EXPECT_EQ(TreeOf(effect), Map({}));
+    EXPECT_EQ(StoredForm(effect), Map({}));
     effect.GetTypedSettings().m_strength = 0.5;
-    EXPECT_EQ(TreeOf(effect), Map({{"strength", 0.5}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"strength", 0.5}}));
 }
 
 TEST(DetailsEnhanceEx, RecordIsEmptyWithoutStrength)

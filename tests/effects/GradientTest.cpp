@@ -1,5 +1,5 @@
 #include "Proc/EffectSettings/GradientSettings.h"
-#include "effects/TreeOf.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -27,6 +27,7 @@ using Ombrel::PhotoCore::GradientSettings;
 using Ombrel::Proc::RgbaColor;
 using Support::List;
 using Support::Map;
+using Support::StoredForm;
 
 using Gradient = std::map<std::uint8_t, RgbaColor>;
 
@@ -79,7 +80,8 @@ TEST(Gradient, OnlyAMissingKeyEmptiesIt)
 TEST(Gradient, WritesItsEntriesInAscendingOrder)
 {
     const GradientSettings effect = WithGradient({{200, BLUE}, {0, RED}, {31, {0x12, 0xab, 0x56, 0xcd}}});
-    EXPECT_EQ(TreeOf(effect), Map({{"gradient", List({Entry(0, "ff0000ff"), Entry(31, "12ab56cd"), Entry(200, "0000ffff")})}}));
+    EXPECT_EQ(StoredForm(effect),
+              Map({{"gradient", List({Entry(0, "ff0000ff"), Entry(31, "12ab56cd"), Entry(200, "0000ffff")})}}));
 }
 
 TEST(Gradient, KeepsWhatStandsBeforeABadElement)

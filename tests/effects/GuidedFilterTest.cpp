@@ -1,6 +1,6 @@
 #include "Exception/Exception.h"
 #include "Proc/EffectSettings/GuidedFilterSettings.h"
-#include "effects/TreeOf.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -17,6 +17,7 @@ using Ombrel::PhotoCore::GuidedFilterSettings;
 using Ombrel::PhotoCore::IEffectSettings;
 using Ombrel::Proc::SettingsEffectGuidedFilter;
 using Support::Map;
+using Support::StoredForm;
 
 TEST(GuidedFilter, IsMadeWithItsThreeValuesOrWithout)
 {

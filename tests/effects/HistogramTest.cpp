@@ -1,5 +1,5 @@
 #include "Proc/EffectSettings/HistogramSettings.h"
-#include "effects/TreeOf.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +12,7 @@ namespace
 using Ombrel::PixFmt;
 using Ombrel::PhotoCore::HistogramSettings;
 using Support::Map;
+using Support::StoredForm;
 
 TEST(Histogram, SizesHaveNoSign)
 {
@@ -19,10 +20,10 @@ TEST(Histogram, SizesHaveNoSign)
     effect.Deserialize(Map({{"width", -1}, {"heightLevel", -1}, {"heightScale", std::int64_t{4294967298}}, {"sharpen", -3}}));
     EXPECT_EQ(effect.GetTypedSettings().m_width, 4294967295u);
     EXPECT_EQ(effect.GetTypedSettings().m_sharpen, -3);
-    EXPECT_EQ(TreeOf(effect), Map({{"width", std::int64_t{4294967295}},
-                                   {"heightLevel", std::int64_t{4294967295}},
-                                   {"heightScale", 2},
-                                   {"sharpen", -3}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"width", std::int64_t{4294967295}},
+                                       {"heightLevel", std::int64_t{4294967295}},
+                                       {"heightScale", 2},
+                                       {"sharpen", -3}}));
 }
 
 TEST(Histogram, FlagsHaveSixtyFourBits)
@@ -39,7 +40,7 @@ TEST(Histogram, UnknownPixelFormatIsNoneAndNotTheDefault)
     EXPECT_EQ(effect.GetTypedSettings().m_pixFmt, PixFmt::RGB24);
     effect.Deserialize(Map({{"pixFmt", "RGB25"}}));
     EXPECT_EQ(effect.GetTypedSettings().m_pixFmt, PixFmt::None);
-    EXPECT_EQ(TreeOf(effect), Map({{"pixFmt", "None"}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"pixFmt", "None"}}));
 }
 
 TEST(Histogram, RecordIsNeverEmpty)

@@ -1,5 +1,5 @@
 #include "Proc/EffectSettings/NegateVideoSettings.h"
-#include "effects/TreeOf.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -15,6 +15,7 @@ using Ombrel::PhotoCore::NegateVideoSettings;
 using Ombrel::Proc::SettingsEffectNegateVideo;
 using Support::List;
 using Support::Map;
+using Support::StoredForm;
 
 using Channel = SettingsEffectNegateVideo::Channel;
 using Channels = std::set<Channel>;
@@ -33,7 +34,7 @@ TEST(NegateVideo, ChannelsAreSingleBitsWithNames)
         NegateVideoSettings effect;
         effect.Deserialize(Map({{"mode", List({name})}}));
         EXPECT_EQ(effect.GetTypedSettings().GetMode(), Channels{Channel{bit}}) << name;
-        EXPECT_EQ(TreeOf(effect), Map({{"mode", List({name})}}));
+        EXPECT_EQ(StoredForm(effect), Map({{"mode", List({name})}}));
     }
 }
 
@@ -43,7 +44,7 @@ TEST(NegateVideo, RepeatedChannelsFallTogetherAndComeOutInOrder)
     effect.Deserialize(Map({{"mode", List({"Alpha", "Red", "Red"})}}));
     EXPECT_TRUE(effect == WithMode({Channel{9}})); // the mask is 9
     EXPECT_EQ(effect.GetTypedSettings().GetMode(), (Channels{Channel::Red, Channel::Alpha}));
-    EXPECT_EQ(TreeOf(effect), Map({{"mode", List({"Red", "Alpha"})}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"mode", List({"Red", "Alpha"})}}));
 }
 
 TEST(NegateVideo, ModeIsReplacedAndNotAddedTo)
@@ -78,7 +79,7 @@ TEST(NegateVideo, BitsOfNoChannelAreComparedAndNotStored)
 {
     const NegateVideoSettings effect = WithMode({Channel::Red, Channel{16}});
     EXPECT_EQ(effect.GetTypedSettings().GetMode(), Channels{Channel::Red});
-    EXPECT_EQ(TreeOf(effect), Map({{"mode", List({"Red"})}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"mode", List({"Red"})}}));
     EXPECT_FALSE(effect == WithMode({Channel::Red}));
     EXPECT_FALSE(WithMode({Channel{16}}).GetEffectSettings().IsEmpty());
 }

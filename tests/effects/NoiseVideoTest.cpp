@@ -1,5 +1,5 @@
 #include "Proc/EffectSettings/NoiseVideoSettings.h"
-#include "effects/TreeOf.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +12,7 @@ namespace
 using Ombrel::PhotoCore::NoiseVideoSettings;
 using Ombrel::Proc::SettingsEffectNoiseVideo;
 using Support::Map;
+using Support::StoredForm;
 
 using Method = SettingsEffectNoiseVideo::Method;
 
@@ -24,7 +25,7 @@ TEST(NoiseVideo, IsMadeWithAStrengthAndAMethod)
     EXPECT_EQ(record.GetStrength(), 100);
     EXPECT_EQ(record.GetMethod(), Method::Poisson);
     EXPECT_EQ(record.GetSeed(), 0);
-    EXPECT_EQ(TreeOf(NoiseVideoSettings(record)), Map({{"method", "Poisson"}, {"strength", 100}}));
+    EXPECT_EQ(StoredForm(NoiseVideoSettings(record)), Map({{"method", "Poisson"}, {"strength", 100}}));
 }
 
 TEST(NoiseVideo, IsResetToNoNoiseWhateverItWasMadeWith)

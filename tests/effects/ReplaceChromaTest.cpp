@@ -1,5 +1,5 @@
 #include "Proc/EffectSettings/ReplaceChromaSettings.h"
-#include "effects/TreeOf.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -11,11 +11,12 @@ using Ombrel::PhotoCore::ReplaceChromaSettings;
 using Ombrel::Proc::RgbaColor;
 using Ombrel::Proc::SettingsEffectReplaceChroma;
 using Support::Map;
+using Support::StoredForm;
 
 TEST(ReplaceChroma, TakesItsTwoColorsAtOnce)
 {
     const SettingsEffectReplaceChroma record({1, 2, 3, 4}, {5, 6, 7, 8});
-    EXPECT_EQ(TreeOf(ReplaceChromaSettings(record)), Map({{"replaceColor", "01020304"}, {"baseColor", "05060708"}}));
+    EXPECT_EQ(StoredForm(ReplaceChromaSettings(record)), Map({{"replaceColor", "01020304"}, {"baseColor", "05060708"}}));
 }
 
 TEST(ReplaceChroma, ReplacesBlackByWhiteByDefault)

@@ -1,6 +1,7 @@
 #include "Proc/EffectSettings/AcidSettings.h"
 #include "Proc/EffectSettings/AdjusterSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -18,13 +19,7 @@ using Ombrel::PropertyTree;
 using Ombrel::Proc::SettingsEffectAcid;
 using Support::List;
 using Support::Map;
-
-PropertyTree TreeOf(const IEffectSettings& effect)
-{
-    PropertyTree tree("what stood there before");
-    effect.Serialize(tree);
-    return tree;
-}
+using Support::StoredForm;
 
 AcidSettings Acid(int radius, double sigma = 0.5)
 {
@@ -36,21 +31,21 @@ AcidSettings Acid(int radius, double sigma = 0.5)
 
 TEST(Family, ADefaultObjectIsAnEmptyMapAndNoNullTree)
 {
-    EXPECT_EQ(TreeOf(AcidSettings()), Map({}));
-    EXPECT_FALSE(TreeOf(AcidSettings()).isNull());
+    EXPECT_EQ(StoredForm(AcidSettings()), Map({}));
+    EXPECT_FALSE(StoredForm(AcidSettings()).isNull());
 }
 
 TEST(Family, WritesWhatDiffers)
 {
-    EXPECT_EQ(TreeOf(Acid(3)), Map({{"radius", 3}}));
-    EXPECT_EQ(TreeOf(Acid(0, 2.0)), Map({{"sigma", 2.0}}));
+    EXPECT_EQ(StoredForm(Acid(3)), Map({{"radius", 3}}));
+    EXPECT_EQ(StoredForm(Acid(0, 2.0)), Map({{"sigma", 2.0}}));
 }
 
 TEST(Family, BaseMembersStandBesideTheRecord)
 {
     AcidSettings effect = Acid(3);
     effect.Deserialize(Map({{"implName", "gpu"}, {"helperSettings", Map({{"maxWidth", 640}})}, {"radius", 4}}));
-    EXPECT_EQ(TreeOf(effect), Map({{"implName", "gpu"}, {"helperSettings", Map({{"maxWidth", 640}})}, {"radius", 4}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"implName", "gpu"}, {"helperSettings", Map({{"maxWidth", 640}})}, {"radius", 4}}));
 }
 
 TEST(Family, AMissingBaseMemberStaysAsItWas)
@@ -84,9 +79,9 @@ TEST(Family, DefaultImplNameIsNotWritten)
 {
     AcidSettings effect;
     effect.Deserialize(Map({{"implName", "default"}, {"helperSettings", Map({})}}));
-    EXPECT_EQ(TreeOf(effect), Map({}));
+    EXPECT_EQ(StoredForm(effect), Map({}));
     effect.Deserialize(Map({{"implName", ""}}));
-    EXPECT_EQ(TreeOf(effect), Map({{"implName", ""}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"implName", ""}}));
 }
 
 TEST(Family, ReadsBaseMembersBeforeTheRecord)
@@ -117,7 +112,7 @@ TEST(Family, HelperSettingsPlayNoPartInTheComparison)
     b.HelperSetting().SetMaxWidth(640);
     b.Deserialize(Map({{"implName", "gpu"}, {"radius", 3}}));
     EXPECT_TRUE(a == b);
-    EXPECT_NE(TreeOf(a), TreeOf(b));
+    EXPECT_NE(StoredForm(a), StoredForm(b));
 }
 
 TEST(Family, ComparesExactly)

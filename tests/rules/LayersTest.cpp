@@ -1,6 +1,7 @@
 #include "Proc/EffectSettings/EffectSettingsBody.h"
 #include "Proc/Reflection/Folds.h"
 #include "Proc/Settings/SettingsRecord.h"
+#include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -15,6 +16,7 @@ namespace
 using namespace Ombrel;
 using namespace Ombrel::PhotoCore;
 using Support::Map;
+using Support::StoredForm;
 
 struct Record : Proc::SettingsRecord<Record>
 {
@@ -109,13 +111,6 @@ template <> struct Fields<StoresMembers>
 namespace
 {
 
-PropertyTree TreeOf(const IEffectSettings& effect)
-{
-    PropertyTree tree;
-    effect.Serialize(tree);
-    return tree;
-}
-
 TEST(Layers, TellTheInput)
 {
     EXPECT_EQ(PlainTwo().GetInputType(), IEffectSettings::InputType::Two);
@@ -127,7 +122,7 @@ TEST(Layers, WithoutReflectionOnlyTheBaseIsStored)
 {
     PlainTwo effect;
     effect.GetTypedSettings().m_value = 9;
-    EXPECT_EQ(TreeOf(effect), Map({}));
+    EXPECT_EQ(StoredForm(effect), Map({}));
     EXPECT_FALSE(effect.GetPropertyAccess());
     effect.Deserialize(Map({{"value", 3}, {"implName", "gpu"}}));
     EXPECT_EQ(effect.GetTypedSettings().m_value, 9);
@@ -138,7 +133,7 @@ TEST(Layers, WithReflectionTheRecordIsStored)
 {
     ReflectedVar effect;
     effect.GetTypedSettings().m_value = 9;
-    EXPECT_EQ(TreeOf(effect), Map({{"value", 9}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"value", 9}}));
     EXPECT_TRUE(effect.GetPropertyAccess());
     EXPECT_EQ(*std::as_const(effect).GetPropertyAccess()->ListProperties().begin(), "value");
 }
@@ -148,7 +143,7 @@ TEST(Layers, AClassWithAFieldListStoresItself)
     StoresMembers effect;
     effect.m_own = 2.0;
     effect.GetTypedSettings().m_value = 9;
-    EXPECT_EQ(TreeOf(effect), Map({{"own", 2.0}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"own", 2.0}}));
     effect.Deserialize(Map({{"value", 3}}));
     EXPECT_EQ(effect.m_own, 0.5);
     EXPECT_EQ(effect.GetTypedSettings().m_value, 9);
@@ -176,7 +171,7 @@ TEST(Layers, WithoutAComparisonTheFieldsAreCompared)
     EXPECT_TRUE(a == b);
     b.GetTypedSettings().m_value = 5;
     EXPECT_FALSE(a == b);
-    EXPECT_EQ(TreeOf(b), Map({{"value", 5}}));
+    EXPECT_EQ(StoredForm(b), Map({{"value", 5}}));
 }
 
 TEST(Layers, TheSameIdOfAnotherClassIsABadCast)
