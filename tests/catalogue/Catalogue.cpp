@@ -103,6 +103,12 @@ Field NotCompared(Field field)
     return field;
 }
 
+Field AlwaysWritten(Field field)
+{
+    field.isAlwaysWritten = true;
+    return field;
+}
+
 PropertyTree DefaultForm(const std::vector<Field>& fields)
 {
     PropertyTree tree;
@@ -119,7 +125,7 @@ const std::vector<Effect>& All()
     static const std::vector<Effect> rows = []
     {
         std::vector<Effect> all;
-        for (auto part : {&FrameworkRows, &AdjusterRows})
+        for (auto part : {&FrameworkRows, &AdjusterRows, &NeuralRows, &InpaintRows})
         {
             std::ranges::move(part(), std::back_inserter(all));
         }

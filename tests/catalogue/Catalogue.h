@@ -57,7 +57,8 @@ struct Field
     std::int32_t fallback = 0;
     NumberOf number;
 
-    bool isCompared = true; // whether the effect's comparison looks at it
+    bool isCompared = true;       // whether the effect's comparison looks at it
+    bool isAlwaysWritten = false; // whether a nested record stands in the tree even by default, as an empty map
 };
 
 Field Int32(std::string key, std::int32_t defaultValue);
@@ -80,6 +81,9 @@ Field Other(std::string key, Kind kind, Ombrel::PropertyTree defaultValue, Ombre
 
 /// The same field, left out of the effect's comparison.
 Field NotCompared(Field field);
+
+/// The same field, a nested record that is stored even by default.
+Field AlwaysWritten(Field field);
 
 enum class Place : std::int32_t
 {
@@ -110,6 +114,8 @@ const std::vector<Effect>& All();
 /// The rows of the parts of the catalogue.
 std::vector<Effect> FrameworkRows();
 std::vector<Effect> AdjusterRows();
+std::vector<Effect> NeuralRows();
+std::vector<Effect> InpaintRows();
 
 /// A map of all keys with their defaults, as property access shows them.
 Ombrel::PropertyTree DefaultForm(const std::vector<Field>& fields);

@@ -4,9 +4,26 @@
 #include "Proc/EffectSettings/AdjusterSettings.h"
 #include "Proc/EffectSettings/ColorBalanceAutoSettings.h"
 #include "Proc/EffectSettings/ColorBalanceSettings.h"
+#include "Proc/EffectSettings/DeepAdjusterSettings.h"
+#include "Proc/EffectSettings/DeepAlignerSettings.h"
+#include "Proc/EffectSettings/DeepAutoRetoucherSettings.h"
+#include "Proc/EffectSettings/DeepColorizerSettings.h"
+#include "Proc/EffectSettings/DeepDenoiserSettings.h"
+#include "Proc/EffectSettings/DeepEnhancerSettings.h"
+#include "Proc/EffectSettings/DeepImageEnhancerSettings.h"
+#include "Proc/EffectSettings/DeepLumaUpscalerSettings.h"
+#include "Proc/EffectSettings/DeepRestorerSettings.h"
+#include "Proc/EffectSettings/DeepSuperResolutorSettings.h"
 #include "Proc/EffectSettings/DetailsEnhanceSettings.h"
+#include "Proc/EffectSettings/DreamscopeSettings.h"
 #include "Proc/EffectSettings/EffectSettingsSimple.h"
 #include "Proc/EffectSettings/EmptySettings.h"
+#include "Proc/EffectSettings/ImageInpainterSettings.h"
+#include "Proc/EffectSettings/InpaintSettings.h"
+#include "Proc/EffectSettings/MattingSettings.h"
+#include "Proc/EffectSettings/ReduceLocalLumaSettings.h"
+#include "Proc/EffectSettings/RemoveBackgroundSettings.h"
+#include "Proc/EffectSettings/SegmentationSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
 #include "Proc/Reflection/SpelledName.h"
@@ -41,9 +58,32 @@ template <class Effect> consteval EffectClass Entry(Registration registration = 
 
 // The order of the start-up list is fixed.
 constexpr std::array CLASSES{
-    Entry<AcidSettings>(),         Entry<AdjusterSettings>(),       Entry<ColorBalanceAutoSettings>(),
-    Entry<ColorBalanceSettings>(), Entry<DetailsEnhanceSettings>(), Entry<EmptySettings>(),
-    Entry<SmartBlurSettings>(),    Entry<VibranceSettings>(),       Entry<EffectSettingsSimple>(),
+    Entry<AcidSettings>(),
+    Entry<AdjusterSettings>(),
+    Entry<ColorBalanceAutoSettings>(),
+    Entry<ColorBalanceSettings>(),
+    Entry<DeepAdjusterSettings>(),
+    Entry<DeepAlignerSettings>(),
+    Entry<DeepAutoRetoucherSettings>(),
+    Entry<DeepColorizerSettings>(),
+    Entry<DeepDenoiserSettings>(),
+    Entry<DeepImageEnhancerSettings>(),
+    Entry<DeepEnhancerSettings>(),
+    Entry<DeepLumaUpscalerSettings>(),
+    Entry<DeepRestorerSettings>(),
+    Entry<DeepSuperResolutorSettings>(),
+    Entry<DetailsEnhanceSettings>(),
+    Entry<DreamscopeSettings>(),
+    Entry<EmptySettings>(),
+    Entry<ImageInpainterSettings>(),
+    Entry<InpaintSettings>(),
+    Entry<ReduceLocalLumaSettings>(),
+    Entry<RemoveBackgroundSettings>(),
+    Entry<SmartBlurSettings>(),
+    Entry<VibranceSettings>(),
+    Entry<SegmentationSettings>(),
+    Entry<EffectSettingsSimple>(),
+    Entry<MattingSettings>(Registration::None),
 };
 
 // The registry is built without the test of RegisterFactory, which would drop a repeated id silently.
