@@ -109,6 +109,12 @@ Field Appended(Field field)
     return field;
 }
 
+Field AlwaysWritten(Field field)
+{
+    field.isAlwaysWritten = true;
+    return field;
+}
+
 PropertyTree DefaultForm(const std::vector<Field>& fields)
 {
     PropertyTree tree;
@@ -126,7 +132,7 @@ const std::vector<Effect>& All()
     {
         std::vector<Effect> all;
         for (auto part : {&AdjusterRows, &BlurRows, &ChannelRows, &DenoiseRows, &DetailRows, &FrameworkRows, &GimpRows,
-                          &LevelsRows, &ToningRows})
+                          &InpaintRows, &LevelsRows, &NeuralRows, &ToningRows})
         {
             std::ranges::move(part(), std::back_inserter(all));
         }

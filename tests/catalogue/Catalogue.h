@@ -57,7 +57,8 @@ struct Field
     std::int32_t fallback = 0;
     NumberOf number;
 
-    bool isCompared = true;  // whether the effect's comparison looks at it
+    bool isCompared = true;       // whether the effect's comparison looks at it
+    bool isAlwaysWritten = false; // whether a nested record stands in the tree even by default, as an empty map
     bool isAppended = false; // whether a read adds to what is there, so that the empty default of a missing key adds nothing
 };
 
@@ -94,6 +95,9 @@ Field NotCompared(Field field);
 /// The same field, a list that a read extends.
 Field Appended(Field field);
 
+/// The same field, a nested record that is stored even by default.
+Field AlwaysWritten(Field field);
+
 enum class Place : std::int32_t
 {
     Factory = 0, // registered after the start-up list
@@ -128,7 +132,9 @@ std::vector<Effect> DenoiseRows();
 std::vector<Effect> DetailRows();
 std::vector<Effect> FrameworkRows();
 std::vector<Effect> GimpRows();
+std::vector<Effect> InpaintRows();
 std::vector<Effect> LevelsRows();
+std::vector<Effect> NeuralRows();
 std::vector<Effect> ToningRows();
 
 /// A map of all keys with their defaults, as property access shows them.

@@ -20,11 +20,22 @@
 #include "Proc/EffectSettings/ColorReduceSettings.h"
 #include "Proc/EffectSettings/ColoredGlassSettings.h"
 #include "Proc/EffectSettings/ColorspaceConverterSettings.h"
+#include "Proc/EffectSettings/DeepAdjusterSettings.h"
+#include "Proc/EffectSettings/DeepAlignerSettings.h"
+#include "Proc/EffectSettings/DeepAutoRetoucherSettings.h"
+#include "Proc/EffectSettings/DeepColorizerSettings.h"
+#include "Proc/EffectSettings/DeepDenoiserSettings.h"
+#include "Proc/EffectSettings/DeepEnhancerSettings.h"
+#include "Proc/EffectSettings/DeepImageEnhancerSettings.h"
+#include "Proc/EffectSettings/DeepLumaUpscalerSettings.h"
+#include "Proc/EffectSettings/DeepRestorerSettings.h"
+#include "Proc/EffectSettings/DeepSuperResolutorSettings.h"
 #include "Proc/EffectSettings/DenoiseChromaLumaSettings.h"
 #include "Proc/EffectSettings/DenoiseDCTSettings.h"
 #include "Proc/EffectSettings/DenoiseOvercompleteWaveletSettings.h"
 #include "Proc/EffectSettings/DetailsEnhanceExSettings.h"
 #include "Proc/EffectSettings/DetailsEnhanceSettings.h"
+#include "Proc/EffectSettings/DreamscopeSettings.h"
 #include "Proc/EffectSettings/EdgeDetectSettings.h"
 #include "Proc/EffectSettings/EffectSettingsSimple.h"
 #include "Proc/EffectSettings/EmbossSettings.h"
@@ -39,11 +50,17 @@
 #include "Proc/EffectSettings/GrayscaleSettings.h"
 #include "Proc/EffectSettings/GuidedFilterSettings.h"
 #include "Proc/EffectSettings/HistogramSettings.h"
+#include "Proc/EffectSettings/ImageInpainterSettings.h"
+#include "Proc/EffectSettings/InpaintSettings.h"
+#include "Proc/EffectSettings/MattingSettings.h"
 #include "Proc/EffectSettings/NegateVideoSettings.h"
 #include "Proc/EffectSettings/NoiseVideoSettings.h"
 #include "Proc/EffectSettings/PosterizeSettings.h"
+#include "Proc/EffectSettings/ReduceLocalLumaSettings.h"
+#include "Proc/EffectSettings/RemoveBackgroundSettings.h"
 #include "Proc/EffectSettings/ReplaceChromaSettings.h"
 #include "Proc/EffectSettings/RetroColorsSettings.h"
+#include "Proc/EffectSettings/SegmentationSettings.h"
 #include "Proc/EffectSettings/SepiaSettings.h"
 #include "Proc/EffectSettings/SharpenSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
@@ -103,11 +120,16 @@ constexpr std::array CLASSES{
     Entry<ColorFilterSettings>(),
     Entry<ColorMixBurnSettings>(),
     Entry<ColorspaceConverterSettings>(),
+    Entry<DeepAdjusterSettings>(),
+    Entry<DeepAlignerSettings>(),
+    Entry<DeepAutoRetoucherSettings>(),
+    Entry<DeepColorizerSettings>(),
     Entry<DetailsEnhanceSettings>(),
     Entry<DetailsEnhanceExSettings>(),
     Entry<DenoiseChromaLumaSettings>(),
     Entry<DenoiseDCTSettings>(),
     Entry<DenoiseOvercompleteWaveletSettings>(),
+    Entry<DreamscopeSettings>(),
     Entry<EdgeDetectSettings>(),
     Entry<EmbossSettings>(),
     Entry<EmptySettings>(),
@@ -120,9 +142,13 @@ constexpr std::array CLASSES{
     Entry<GradientSettings>(),
     Entry<GrayscaleSettings>(),
     Entry<HistogramSettings>(),
+    Entry<ImageInpainterSettings>(),
+    Entry<InpaintSettings>(),
     Entry<NegateVideoSettings>(),
     Entry<NoiseVideoSettings>(),
     Entry<PosterizeSettings>(),
+    Entry<ReduceLocalLumaSettings>(),
+    Entry<RemoveBackgroundSettings>(),
     Entry<ReplaceChromaSettings>(),
     Entry<RetroColorsSettings>(),
     Entry<SepiaSettings>(),
@@ -132,9 +158,11 @@ constexpr std::array CLASSES{
     Entry<TintTemperatureSettings>(),
     Entry<VibranceSettings>(),
     Entry<WhiteBalanceSettings>(),
+    Entry<SegmentationSettings>(),
     Entry<EffectSettingsSimple>(),
     // Not registered: they have an id, and a caller makes them by Create.
     Entry<GuidedFilterSettings>(Registration::None),
+    Entry<MattingSettings>(Registration::None),
 };
 
 // The registry is built without the test of RegisterFactory, which would drop a repeated id silently.

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_DEEP_ADJUSTER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_DEEP_ADJUSTER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectDeepAdjuster.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API DeepAdjusterSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectDeepAdjuster, DeepAdjusterSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~DeepAdjusterSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectDeepAdjuster, DeepAdjusterSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_DEEP_ALIGNER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_DEEP_ALIGNER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectDeepAligner.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API DeepAlignerSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectDeepAligner, DeepAlignerSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~DeepAlignerSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectDeepAligner, DeepAlignerSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

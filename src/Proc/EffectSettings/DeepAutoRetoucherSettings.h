@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_DEEP_AUTO_RETOUCHER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_DEEP_AUTO_RETOUCHER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectDeepAutoRetoucher.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API DeepAutoRetoucherSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectDeepAutoRetoucher, DeepAutoRetoucherSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~DeepAutoRetoucherSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectDeepAutoRetoucher, DeepAutoRetoucherSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_DEEP_COLORIZER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_DEEP_COLORIZER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectDeepColorizer.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API DeepColorizerSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectDeepColorizer, DeepColorizerSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~DeepColorizerSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectDeepColorizer, DeepColorizerSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

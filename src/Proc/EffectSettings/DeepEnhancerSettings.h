@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_DEEP_ENHANCER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_DEEP_ENHANCER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectDeepEnhancer.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API DeepEnhancerSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectDeepEnhancer, DeepEnhancerSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~DeepEnhancerSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectDeepEnhancer, DeepEnhancerSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

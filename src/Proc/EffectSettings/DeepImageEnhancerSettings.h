@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_DEEP_IMAGE_ENHANCER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_DEEP_IMAGE_ENHANCER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectDeepImageEnhancer.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API DeepImageEnhancerSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectDeepImageEnhancer, DeepImageEnhancerSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~DeepImageEnhancerSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectDeepImageEnhancer, DeepImageEnhancerSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_DEEP_LUMA_UPSCALER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_DEEP_LUMA_UPSCALER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectDeepLumaUpscaler.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API DeepLumaUpscalerSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectDeepLumaUpscaler, DeepLumaUpscalerSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~DeepLumaUpscalerSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectDeepLumaUpscaler, DeepLumaUpscalerSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

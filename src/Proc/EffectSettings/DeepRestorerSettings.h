@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_DEEP_RESTORER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_DEEP_RESTORER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectDeepRestorer.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API DeepRestorerSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectDeepRestorer, DeepRestorerSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~DeepRestorerSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectDeepRestorer, DeepRestorerSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

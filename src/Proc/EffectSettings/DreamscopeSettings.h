@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_DREAMSCOPE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_DREAMSCOPE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectDreamscope.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API DreamscopeSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectDreamscope, DreamscopeSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~DreamscopeSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectDreamscope, DreamscopeSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

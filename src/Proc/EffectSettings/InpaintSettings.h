@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_INPAINT_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_INPAINT_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectInpaint.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API InpaintSettings : public EffectSettingsTwoInputReflection<Proc::SettingsEffectInpaint, InpaintSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~InpaintSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectInpaint, InpaintSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

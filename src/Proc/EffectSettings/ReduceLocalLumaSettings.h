@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_REDUCE_LOCAL_LUMA_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_REDUCE_LOCAL_LUMA_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectReduceLocalLuma.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API ReduceLocalLumaSettings
+    : public EffectSettingsTwoInputReflection<Proc::SettingsEffectReduceLocalLuma, ReduceLocalLumaSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~ReduceLocalLumaSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectReduceLocalLuma, ReduceLocalLumaSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

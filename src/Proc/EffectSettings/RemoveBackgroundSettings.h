@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_REMOVE_BACKGROUND_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_REMOVE_BACKGROUND_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectRemoveBackground.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API RemoveBackgroundSettings
+    : public EffectSettingsVarInputReflection<Proc::SettingsEffectRemoveBackground, RemoveBackgroundSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~RemoveBackgroundSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectRemoveBackground, RemoveBackgroundSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_SEGMENTATION_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_SEGMENTATION_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectSegmentation.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API SegmentationSettings
+    : public EffectSettingsTwoInputReflection<Proc::SettingsEffectSegmentation, SegmentationSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~SegmentationSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectSegmentation, SegmentationSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_DEEP_ENHANCER_H
+#define OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_DEEP_ENHANCER_H
+
+#include "Proc/Settings/SettingsEffectDeepNeuralProcessor.h"
+#include "Proc/Settings/SettingsRecord.h"
+
+namespace Ombrel::Proc
+{
+
+class OMBREL_API SettingsEffectDeepEnhancer
+    : public SettingsRecord<SettingsEffectDeepEnhancer, SettingsEffectDeepNeuralProcessor>
+{
+public:
+    static constexpr const char* CLASS_NAME = "EFFECT_DEEP_ENHANCER";
+    static const std::string CLASS_ID;
+
+    ~SettingsEffectDeepEnhancer() override;
+};
+
+} // namespace Ombrel::Proc
+
+#endif

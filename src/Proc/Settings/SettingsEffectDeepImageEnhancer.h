@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_DEEP_IMAGE_ENHANCER_H
+#define OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_DEEP_IMAGE_ENHANCER_H
+
+#include "Proc/Settings/BaseSettingsNeural.h"
+#include "Proc/Settings/SettingsRecord.h"
+
+namespace Ombrel::Proc
+{
+
+class OMBREL_API SettingsEffectDeepImageEnhancer : public SettingsRecord<SettingsEffectDeepImageEnhancer, BaseSettingsNeural>
+{
+public:
+    static constexpr const char* CLASS_NAME = "EFFECT_DEEP_IMAGE_ENHANCER";
+    static const std::string CLASS_ID;
+
+    ~SettingsEffectDeepImageEnhancer() override;
+};
+
+} // namespace Ombrel::Proc
+
+#endif

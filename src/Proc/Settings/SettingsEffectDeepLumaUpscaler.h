@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_DEEP_LUMA_UPSCALER_H
+#define OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_DEEP_LUMA_UPSCALER_H
+
+#include "Proc/Settings/SettingsEffectDeepNeuralProcessor.h"
+#include "Proc/Settings/SettingsRecord.h"
+
+namespace Ombrel::Proc
+{
+
+class OMBREL_API SettingsEffectDeepLumaUpscaler
+    : public SettingsRecord<SettingsEffectDeepLumaUpscaler, SettingsEffectDeepNeuralProcessor>
+{
+public:
+    static constexpr const char* CLASS_NAME = "EFFECT_DEEP_LUMA_UPSCALER";
+    static const std::string CLASS_ID;
+
+    ~SettingsEffectDeepLumaUpscaler() override;
+};
+
+} // namespace Ombrel::Proc
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_DEEP_SUPER_RESOLUTOR_H
+#define OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_DEEP_SUPER_RESOLUTOR_H
+
+#include "Proc/Settings/BaseSettingsNeural.h"
+#include "Proc/Settings/SettingsRecord.h"
+
+namespace Ombrel::Proc
+{
+
+class OMBREL_API SettingsEffectDeepSuperResolutor : public SettingsRecord<SettingsEffectDeepSuperResolutor, BaseSettingsNeural>
+{
+public:
+    static constexpr const char* CLASS_NAME = "EFFECT_DEEP_SUPER_RESOLUTOR";
+    static const std::string CLASS_ID;
+
+    ~SettingsEffectDeepSuperResolutor() override;
+};
+
+} // namespace Ombrel::Proc
+
+#endif

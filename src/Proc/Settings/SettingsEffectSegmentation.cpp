@@ -1,0 +1,44 @@
+#include "Proc/Settings/SettingsEffectSegmentation.h"
+
+#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RgbaColorCodec.h"
+
+namespace Ombrel::Proc
+{
+
+const std::string SettingsEffectSegmentation::CLASS_ID{CLASS_NAME};
+
+template <> struct EnumNames<SettingsEffectSegmentation::SegmentationAlgorithm>
+{
+    using E = SettingsEffectSegmentation::SegmentationAlgorithm;
+
+    static constexpr EnumNameRow ROWS[] = {
+        {"Auto", E::Auto},
+        {"GrabCut", E::GrabCut},
+        {"GridGraph", E::GridGraph},
+        {"Watershed", E::Watershed},
+    };
+    static constexpr EnumNameTable TABLE{ROWS};
+};
+
+template <> struct Fields<SettingsEffectSegmentation>
+{
+    using R = SettingsEffectSegmentation;
+    using List =
+        FieldList<FieldDescriptor<&R::m_algorithm>, FieldDescriptor<&R::m_foreground>, FieldDescriptor<&R::m_background>,
+                  FieldDescriptor<&R::m_alpha>, FieldDescriptor<&R::m_smooth>, FieldDescriptor<&R::m_keepSelection>,
+                  FieldDescriptor<&R::m_showProgress>, FieldDescriptor<&R::m_demoMode>, FieldDescriptor<&R::m_demoColor>>;
+};
+
+template struct Reflected<SettingsEffectSegmentation>;
+
+SettingsEffectSegmentation::~SettingsEffectSegmentation() = default;
+
+bool SettingsEffectSegmentation::operator==(const SettingsEffectSegmentation& other) const
+{
+    return BaseSettingsModelFile::operator==(other) && m_algorithm == other.m_algorithm && m_foreground == other.m_foreground &&
+           m_background == other.m_background && m_alpha == other.m_alpha && m_smooth == other.m_smooth &&
+           m_keepSelection == other.m_keepSelection && m_showProgress == other.m_showProgress;
+}
+
+} // namespace Ombrel::Proc
