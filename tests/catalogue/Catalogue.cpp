@@ -119,7 +119,7 @@ const std::vector<Effect>& All()
     static const std::vector<Effect> rows = []
     {
         std::vector<Effect> all;
-        for (auto part : {&FrameworkRows, &AdjusterRows})
+        for (auto part : {&FrameworkRows, &AdjusterRows, &FaceRows})
         {
             std::ranges::move(part(), std::back_inserter(all));
         }

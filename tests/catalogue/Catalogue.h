@@ -110,6 +110,7 @@ const std::vector<Effect>& All();
 /// The rows of the parts of the catalogue.
 std::vector<Effect> FrameworkRows();
 std::vector<Effect> AdjusterRows();
+std::vector<Effect> FaceRows();
 
 /// A map of all keys with their defaults, as property access shows them.
 Ombrel::PropertyTree DefaultForm(const std::vector<Field>& fields);

@@ -2,11 +2,16 @@
 
 #include "Proc/EffectSettings/AcidSettings.h"
 #include "Proc/EffectSettings/AdjusterSettings.h"
+#include "Proc/EffectSettings/AutoGlareRemoveSettings.h"
 #include "Proc/EffectSettings/ColorBalanceAutoSettings.h"
 #include "Proc/EffectSettings/ColorBalanceSettings.h"
 #include "Proc/EffectSettings/DetailsEnhanceSettings.h"
 #include "Proc/EffectSettings/EffectSettingsSimple.h"
 #include "Proc/EffectSettings/EmptySettings.h"
+#include "Proc/EffectSettings/EyeExtendingSettings.h"
+#include "Proc/EffectSettings/FaceDetectionSettings.h"
+#include "Proc/EffectSettings/FacePackageSettings.h"
+#include "Proc/EffectSettings/FaceThinningSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
 #include "Proc/Reflection/SpelledName.h"
@@ -41,9 +46,20 @@ template <class Effect> consteval EffectClass Entry(Registration registration = 
 
 // The order of the start-up list is fixed.
 constexpr std::array CLASSES{
-    Entry<AcidSettings>(),         Entry<AdjusterSettings>(),       Entry<ColorBalanceAutoSettings>(),
-    Entry<ColorBalanceSettings>(), Entry<DetailsEnhanceSettings>(), Entry<EmptySettings>(),
-    Entry<SmartBlurSettings>(),    Entry<VibranceSettings>(),       Entry<EffectSettingsSimple>(),
+    Entry<AcidSettings>(),
+    Entry<AdjusterSettings>(),
+    Entry<AutoGlareRemoveSettings>(),
+    Entry<ColorBalanceAutoSettings>(),
+    Entry<ColorBalanceSettings>(),
+    Entry<DetailsEnhanceSettings>(),
+    Entry<EmptySettings>(),
+    Entry<EyeExtendingSettings>(),
+    Entry<FaceDetectionSettings>(),
+    Entry<FacePackageSettings>(),
+    Entry<FaceThinningSettings>(),
+    Entry<SmartBlurSettings>(),
+    Entry<VibranceSettings>(),
+    Entry<EffectSettingsSimple>(),
 };
 
 // The registry is built without the test of RegisterFactory, which would drop a repeated id silently.
