@@ -131,8 +131,8 @@ const std::vector<Effect>& All()
     static const std::vector<Effect> rows = []
     {
         std::vector<Effect> all;
-        for (auto part : {&AdjusterRows, &BlurRows, &ChannelRows, &DenoiseRows, &DetailRows, &FrameworkRows, &GimpRows,
-                          &InpaintRows, &LevelsRows, &NeuralRows, &ToningRows})
+        for (auto part : {&AdjusterRows, &BlurRows, &ChannelRows, &DenoiseRows, &DetailRows, &FaceRows, &FrameworkRows,
+                          &GimpRows, &InpaintRows, &LevelsRows, &NeuralRows, &ToningRows})
         {
             std::ranges::move(part(), std::back_inserter(all));
         }

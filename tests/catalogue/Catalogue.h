@@ -130,6 +130,7 @@ std::vector<Effect> BlurRows();
 std::vector<Effect> ChannelRows();
 std::vector<Effect> DenoiseRows();
 std::vector<Effect> DetailRows();
+std::vector<Effect> FaceRows();
 std::vector<Effect> FrameworkRows();
 std::vector<Effect> GimpRows();
 std::vector<Effect> InpaintRows();

@@ -186,7 +186,8 @@ TYPED_TEST(NeuralBaseTest, IsAWholeRecordWithoutASettingsClass)
     EXPECT_FALSE(record.IsEmpty());
 
     const std::unique_ptr<Settings> copy(record.Clone());
-    EXPECT_EQ(typeid(*copy), typeid(TypeParam));
+    const Settings& object = *copy;
+    EXPECT_EQ(typeid(object), typeid(TypeParam));
     EXPECT_TRUE(copy->IsEqualTo(record));
     EXPECT_FALSE(TypeParam().IsEqualTo(*copy));
 

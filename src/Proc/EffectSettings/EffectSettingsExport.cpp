@@ -4,6 +4,7 @@
 #include "Proc/EffectSettings/AdjusterSettings.h"
 #include "Proc/EffectSettings/AlphaExtractorSettings.h"
 #include "Proc/EffectSettings/AutoEnhanceSettings.h"
+#include "Proc/EffectSettings/AutoGlareRemoveSettings.h"
 #include "Proc/EffectSettings/BalanceLumaSettings.h"
 #include "Proc/EffectSettings/BiColorToningSettings.h"
 #include "Proc/EffectSettings/BlackWhiteSettings.h"
@@ -40,6 +41,10 @@
 #include "Proc/EffectSettings/EffectSettingsSimple.h"
 #include "Proc/EffectSettings/EmbossSettings.h"
 #include "Proc/EffectSettings/EmptySettings.h"
+#include "Proc/EffectSettings/EyeExtendingSettings.h"
+#include "Proc/EffectSettings/FaceDetectionSettings.h"
+#include "Proc/EffectSettings/FacePackageSettings.h"
+#include "Proc/EffectSettings/FaceThinningSettings.h"
 #include "Proc/EffectSettings/GIMPColorCorrectionSettings.h"
 #include "Proc/EffectSettings/GIMPColorTemperatureSettings.h"
 #include "Proc/EffectSettings/GIMPColorizeSettings.h"
@@ -104,6 +109,7 @@ constexpr std::array CLASSES{
     Entry<AdjusterSettings>(),
     Entry<AlphaExtractorSettings>(),
     Entry<AutoEnhanceSettings>(),
+    Entry<AutoGlareRemoveSettings>(),
     Entry<BalanceLumaSettings>(),
     Entry<BiColorToningSettings>(),
     Entry<BlackWhiteSettings>(),
@@ -133,6 +139,10 @@ constexpr std::array CLASSES{
     Entry<EdgeDetectSettings>(),
     Entry<EmbossSettings>(),
     Entry<EmptySettings>(),
+    Entry<EyeExtendingSettings>(),
+    Entry<FaceDetectionSettings>(),
+    Entry<FacePackageSettings>(),
+    Entry<FaceThinningSettings>(),
     Entry<GIMPColorCorrectionSettings>(),
     Entry<GIMPColorTemperatureSettings>(),
     Entry<GIMPColorizeSettings>(),

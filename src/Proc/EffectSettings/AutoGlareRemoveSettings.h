@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_AUTO_GLARE_REMOVE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_AUTO_GLARE_REMOVE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectAutoGlareRemove.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API AutoGlareRemoveSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectAutoGlareRemove, AutoGlareRemoveSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~AutoGlareRemoveSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectAutoGlareRemove, AutoGlareRemoveSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

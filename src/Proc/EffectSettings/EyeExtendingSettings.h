@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_EYE_EXTENDING_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_EYE_EXTENDING_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectEyeExtending.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API EyeExtendingSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectEyeExtending, EyeExtendingSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~EyeExtendingSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectEyeExtending, EyeExtendingSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

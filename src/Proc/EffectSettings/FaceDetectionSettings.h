@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_FACE_DETECTION_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_FACE_DETECTION_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectFaceDetection.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API FaceDetectionSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectFaceDetection, FaceDetectionSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~FaceDetectionSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectFaceDetection, FaceDetectionSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,17 @@
+#include "Proc/EffectSettings/FacePackageSettings.h"
+
+#include "Proc/EffectSettings/EffectSettingsBody.h"
+
+namespace Ombrel::PhotoCore
+{
+
+template class EffectSettingsImpl<SettingsEffectFacePackage, FacePackageSettings>;
+
+FacePackageSettings::FacePackageSettings() = default;
+FacePackageSettings::FacePackageSettings(const FacePackageSettings&) = default;
+FacePackageSettings::FacePackageSettings(FacePackageSettings&&) noexcept = default;
+FacePackageSettings& FacePackageSettings::operator=(const FacePackageSettings&) = default;
+FacePackageSettings& FacePackageSettings::operator=(FacePackageSettings&&) noexcept = default;
+FacePackageSettings::~FacePackageSettings() = default;
+
+} // namespace Ombrel::PhotoCore

@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_FACE_THINNING_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_FACE_THINNING_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectFaceThinning.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API FaceThinningSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectFaceThinning, FaceThinningSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~FaceThinningSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectFaceThinning, FaceThinningSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

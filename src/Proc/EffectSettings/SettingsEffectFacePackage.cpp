@@ -1,0 +1,110 @@
+#include "Proc/EffectSettings/SettingsEffectFacePackage.h"
+
+#include "Proc/EffectSettings/EffectPointerCodec.h"
+#include "Proc/Reflection/Folds.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Ombrel::Proc
+{
+
+using PhotoCore::SettingsEffectFacePackage;
+
+extern template struct Reflected<Face>;
+
+template <> struct Fields<SettingsEffectFacePackage::FaceItem>
+{
+    using R = SettingsEffectFacePackage::FaceItem;
+    using List = FieldList<FieldDescriptor<&R::face>, FieldDescriptor<&R::effect>>;
+};
+
+template struct Reflected<SettingsEffectFacePackage::FaceItem>;
+
+template <> struct Fields<SettingsEffectFacePackage>
+{
+    using R = SettingsEffectFacePackage;
+    using List = FieldList<FieldDescriptor<&R::m_currentFaceIndex>, FieldDescriptor<&R::m_facesEffects>>;
+};
+
+template struct Reflected<SettingsEffectFacePackage>;
+
+} // namespace Ombrel::Proc
+
+namespace Ombrel::PhotoCore
+{
+namespace
+{
+
+std::shared_ptr<IEffectSettings> CloneOf(const std::shared_ptr<IEffectSettings>& effect)
+{
+    return effect ? effect->Clone() : nullptr;
+}
+
+} // namespace
+
+using FaceItem = SettingsEffectFacePackage::FaceItem;
+
+FaceItem::FaceItem() = default;
+
+FaceItem::FaceItem(const FaceItem& other) : face(other.face), effect(CloneOf(other.effect)) {}
+
+FaceItem& FaceItem::operator=(const FaceItem& other)
+{
+    // The clone first and the old effect last: `other` may stand inside the old effect.
+    std::shared_ptr<IEffectSettings> clone = CloneOf(other.effect);
+    face = other.face;
+    effect = std::move(clone);
+    return *this;
+}
+
+FaceItem::~FaceItem() = default;
+
+bool FaceItem::operator==(const FaceItem& other) const
+{
+    return face == other.face && IEffectSettings::Equals(effect, other.effect);
+}
+
+const std::string SettingsEffectFacePackage::CLASS_ID{CLASS_NAME};
+
+SettingsEffectFacePackage::SettingsEffectFacePackage() = default;
+
+SettingsEffectFacePackage::SettingsEffectFacePackage(std::uint64_t currentFace, std::vector<FaceItem> faces)
+    : m_currentFaceIndex(currentFace), m_facesEffects(std::move(faces))
+{
+}
+
+SettingsEffectFacePackage::SettingsEffectFacePackage(const SettingsEffectFacePackage&) = default;
+SettingsEffectFacePackage::SettingsEffectFacePackage(SettingsEffectFacePackage&&) noexcept = default;
+
+SettingsEffectFacePackage& SettingsEffectFacePackage::operator=(const SettingsEffectFacePackage& other)
+{
+    const std::uint64_t currentFace = other.m_currentFaceIndex; // `other` may end with the old faces
+    SetFaces(other.m_facesEffects);
+    m_currentFaceIndex = currentFace;
+    return *this;
+}
+
+SettingsEffectFacePackage& SettingsEffectFacePackage::operator=(SettingsEffectFacePackage&&) noexcept = default;
+SettingsEffectFacePackage::~SettingsEffectFacePackage() = default;
+
+bool SettingsEffectFacePackage::IsEmpty() const
+{
+    return m_facesEffects.empty();
+}
+
+void SettingsEffectFacePackage::SetFaces(const std::vector<FaceItem>& faces)
+{
+    if (&faces != &m_facesEffects)
+    {
+        m_facesEffects = std::vector<FaceItem>(faces); // all copied before the first old effect goes
+    }
+}
+
+bool SettingsEffectFacePackage::operator==(const SettingsEffectFacePackage& other) const
+{
+    return m_currentFaceIndex == other.m_currentFaceIndex &&
+           std::ranges::mismatch(m_facesEffects, other.m_facesEffects).in1 == m_facesEffects.end();
+}
+
+} // namespace Ombrel::PhotoCore

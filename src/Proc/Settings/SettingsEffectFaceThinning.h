@@ -1,0 +1,27 @@
+#ifndef OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_FACE_THINNING_H
+#define OMBREL_PROC_SETTINGS_SETTINGS_EFFECT_FACE_THINNING_H
+
+#include "Proc/Settings/Face.h"
+#include "Proc/Settings/SettingsRecord.h"
+
+namespace Ombrel::Proc
+{
+
+class OMBREL_API SettingsEffectFaceThinning : public SettingsRecord<SettingsEffectFaceThinning>
+{
+public:
+    static constexpr const char* CLASS_NAME = "EFFECT_FACE_THINNING";
+    static const std::string CLASS_ID;
+
+    /// True if `m_strength` is 0, whatever the outline.
+    bool IsEmpty() const override;
+
+    bool operator==(const SettingsEffectFaceThinning& other) const;
+
+    FaceContour m_faceOutline;
+    double m_strength = 0.0;
+};
+
+} // namespace Ombrel::Proc
+
+#endif
