@@ -4,10 +4,19 @@
 #include "Proc/EffectSettings/AdjusterSettings.h"
 #include "Proc/EffectSettings/ColorBalanceAutoSettings.h"
 #include "Proc/EffectSettings/ColorBalanceSettings.h"
+#include "Proc/EffectSettings/CropSettings.h"
 #include "Proc/EffectSettings/DetailsEnhanceSettings.h"
+#include "Proc/EffectSettings/DirectionalAreaDeformationSettings.h"
 #include "Proc/EffectSettings/EffectSettingsSimple.h"
 #include "Proc/EffectSettings/EmptySettings.h"
+#include "Proc/EffectSettings/FishEyeSettings.h"
+#include "Proc/EffectSettings/FlipSettings.h"
+#include "Proc/EffectSettings/ImplodeSettings.h"
+#include "Proc/EffectSettings/PixelateSettings.h"
+#include "Proc/EffectSettings/ResizeSettings.h"
+#include "Proc/EffectSettings/RotateSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
+#include "Proc/EffectSettings/TransposeSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
 #include "Proc/Reflection/SpelledName.h"
 
@@ -41,9 +50,24 @@ template <class Effect> consteval EffectClass Entry(Registration registration = 
 
 // The order of the start-up list is fixed.
 constexpr std::array CLASSES{
-    Entry<AcidSettings>(),         Entry<AdjusterSettings>(),       Entry<ColorBalanceAutoSettings>(),
-    Entry<ColorBalanceSettings>(), Entry<DetailsEnhanceSettings>(), Entry<EmptySettings>(),
-    Entry<SmartBlurSettings>(),    Entry<VibranceSettings>(),       Entry<EffectSettingsSimple>(),
+    Entry<AcidSettings>(),
+    Entry<AdjusterSettings>(),
+    Entry<ColorBalanceAutoSettings>(),
+    Entry<ColorBalanceSettings>(),
+    Entry<CropSettings>(),
+    Entry<DetailsEnhanceSettings>(),
+    Entry<DirectionalAreaDeformationSettings>(),
+    Entry<EmptySettings>(),
+    Entry<FishEyeSettings>(),
+    Entry<FlipSettings>(),
+    Entry<ImplodeSettings>(),
+    Entry<PixelateSettings>(),
+    Entry<ResizeSettings>(),
+    Entry<RotateSettings>(),
+    Entry<SmartBlurSettings>(),
+    Entry<TransposeSettings>(),
+    Entry<VibranceSettings>(),
+    Entry<EffectSettingsSimple>(),
 };
 
 // The registry is built without the test of RegisterFactory, which would drop a repeated id silently.
