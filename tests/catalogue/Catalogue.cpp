@@ -103,6 +103,18 @@ Field NotCompared(Field field)
     return field;
 }
 
+Field Scaled(Field field)
+{
+    field.isScaled = true;
+    return field;
+}
+
+Field TakingNumbers(Field field)
+{
+    field.takesNumbers = true;
+    return field;
+}
+
 PropertyTree DefaultForm(const std::vector<Field>& fields)
 {
     PropertyTree tree;
@@ -119,7 +131,7 @@ const std::vector<Effect>& All()
     static const std::vector<Effect> rows = []
     {
         std::vector<Effect> all;
-        for (auto part : {&FrameworkRows, &AdjusterRows})
+        for (auto part : {&FrameworkRows, &AdjusterRows, &GeometryRows, &DeformationRows})
         {
             std::ranges::move(part(), std::back_inserter(all));
         }

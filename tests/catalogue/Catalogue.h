@@ -56,8 +56,10 @@ struct Field
     std::vector<EnumName> names;       // of an enumeration
     std::int32_t fallback = 0;
     NumberOf number;
+    bool takesNumbers = false; // of an enumeration: whether an integer is read as its number
 
     bool isCompared = true; // whether the effect's comparison looks at it
+    bool isScaled = false;  // whether it is shown times the effect's intensity, and comes back as set only where that is 1
 };
 
 Field Int32(std::string key, std::int32_t defaultValue);
@@ -80,6 +82,12 @@ Field Other(std::string key, Kind kind, Ombrel::PropertyTree defaultValue, Ombre
 
 /// The same field, left out of the effect's comparison.
 Field NotCompared(Field field);
+
+/// The same field, shown times the effect's intensity.
+Field Scaled(Field field);
+
+/// The same enumeration, which also reads an integer as its number.
+Field TakingNumbers(Field field);
 
 enum class Place : std::int32_t
 {
@@ -110,6 +118,8 @@ const std::vector<Effect>& All();
 /// The rows of the parts of the catalogue.
 std::vector<Effect> FrameworkRows();
 std::vector<Effect> AdjusterRows();
+std::vector<Effect> GeometryRows();
+std::vector<Effect> DeformationRows();
 
 /// A map of all keys with their defaults, as property access shows them.
 Ombrel::PropertyTree DefaultForm(const std::vector<Field>& fields);
