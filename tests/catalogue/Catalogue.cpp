@@ -115,6 +115,18 @@ Field AlwaysWritten(Field field)
     return field;
 }
 
+Field Scaled(Field field)
+{
+    field.isScaled = true;
+    return field;
+}
+
+Field TakingNumbers(Field field)
+{
+    field.takesNumbers = true;
+    return field;
+}
+
 PropertyTree DefaultForm(const std::vector<Field>& fields)
 {
     PropertyTree tree;
@@ -131,8 +143,8 @@ const std::vector<Effect>& All()
     static const std::vector<Effect> rows = []
     {
         std::vector<Effect> all;
-        for (auto part : {&AdjusterRows, &BlurRows, &ChannelRows, &DenoiseRows, &DetailRows, &FaceRows, &FrameworkRows,
-                          &GimpRows, &InpaintRows, &LevelsRows, &NeuralRows, &ToningRows})
+        for (auto part : {&AdjusterRows, &BlurRows, &ChannelRows, &DeformationRows, &DenoiseRows, &DetailRows, &FaceRows,
+                          &FrameworkRows, &GeometryRows, &GimpRows, &InpaintRows, &LevelsRows, &NeuralRows, &ToningRows})
         {
             std::ranges::move(part(), std::back_inserter(all));
         }

@@ -56,8 +56,10 @@ struct Field
     std::vector<EnumName> names;       // of an enumeration
     std::int32_t fallback = 0;
     NumberOf number;
+    bool takesNumbers = false; // of an enumeration: whether an integer is read as its number
 
-    bool isCompared = true;       // whether the effect's comparison looks at it
+    bool isCompared = true; // whether the effect's comparison looks at it
+    bool isScaled = false;  // whether it is shown times the effect's intensity, and comes back as set only where that is 1
     bool isAlwaysWritten = false; // whether a nested record stands in the tree even by default, as an empty map
     bool isAppended = false; // whether a read adds to what is there, so that the empty default of a missing key adds nothing
 };
@@ -98,6 +100,12 @@ Field Appended(Field field);
 /// The same field, a nested record that is stored even by default.
 Field AlwaysWritten(Field field);
 
+/// The same field, shown times the effect's intensity.
+Field Scaled(Field field);
+
+/// The same enumeration, which also reads an integer as its number.
+Field TakingNumbers(Field field);
+
 enum class Place : std::int32_t
 {
     Factory = 0, // registered after the start-up list
@@ -128,10 +136,12 @@ const std::vector<Effect>& All();
 std::vector<Effect> AdjusterRows();
 std::vector<Effect> BlurRows();
 std::vector<Effect> ChannelRows();
+std::vector<Effect> DeformationRows();
 std::vector<Effect> DenoiseRows();
 std::vector<Effect> DetailRows();
 std::vector<Effect> FaceRows();
 std::vector<Effect> FrameworkRows();
+std::vector<Effect> GeometryRows();
 std::vector<Effect> GimpRows();
 std::vector<Effect> InpaintRows();
 std::vector<Effect> LevelsRows();

@@ -21,6 +21,7 @@
 #include "Proc/EffectSettings/ColorReduceSettings.h"
 #include "Proc/EffectSettings/ColoredGlassSettings.h"
 #include "Proc/EffectSettings/ColorspaceConverterSettings.h"
+#include "Proc/EffectSettings/CropSettings.h"
 #include "Proc/EffectSettings/DeepAdjusterSettings.h"
 #include "Proc/EffectSettings/DeepAlignerSettings.h"
 #include "Proc/EffectSettings/DeepAutoRetoucherSettings.h"
@@ -36,6 +37,7 @@
 #include "Proc/EffectSettings/DenoiseOvercompleteWaveletSettings.h"
 #include "Proc/EffectSettings/DetailsEnhanceExSettings.h"
 #include "Proc/EffectSettings/DetailsEnhanceSettings.h"
+#include "Proc/EffectSettings/DirectionalAreaDeformationSettings.h"
 #include "Proc/EffectSettings/DreamscopeSettings.h"
 #include "Proc/EffectSettings/EdgeDetectSettings.h"
 #include "Proc/EffectSettings/EffectSettingsSimple.h"
@@ -45,6 +47,8 @@
 #include "Proc/EffectSettings/FaceDetectionSettings.h"
 #include "Proc/EffectSettings/FacePackageSettings.h"
 #include "Proc/EffectSettings/FaceThinningSettings.h"
+#include "Proc/EffectSettings/FishEyeSettings.h"
+#include "Proc/EffectSettings/FlipSettings.h"
 #include "Proc/EffectSettings/GIMPColorCorrectionSettings.h"
 #include "Proc/EffectSettings/GIMPColorTemperatureSettings.h"
 #include "Proc/EffectSettings/GIMPColorizeSettings.h"
@@ -56,21 +60,26 @@
 #include "Proc/EffectSettings/GuidedFilterSettings.h"
 #include "Proc/EffectSettings/HistogramSettings.h"
 #include "Proc/EffectSettings/ImageInpainterSettings.h"
+#include "Proc/EffectSettings/ImplodeSettings.h"
 #include "Proc/EffectSettings/InpaintSettings.h"
 #include "Proc/EffectSettings/MattingSettings.h"
 #include "Proc/EffectSettings/NegateVideoSettings.h"
 #include "Proc/EffectSettings/NoiseVideoSettings.h"
+#include "Proc/EffectSettings/PixelateSettings.h"
 #include "Proc/EffectSettings/PosterizeSettings.h"
 #include "Proc/EffectSettings/ReduceLocalLumaSettings.h"
 #include "Proc/EffectSettings/RemoveBackgroundSettings.h"
 #include "Proc/EffectSettings/ReplaceChromaSettings.h"
+#include "Proc/EffectSettings/ResizeSettings.h"
 #include "Proc/EffectSettings/RetroColorsSettings.h"
+#include "Proc/EffectSettings/RotateSettings.h"
 #include "Proc/EffectSettings/SegmentationSettings.h"
 #include "Proc/EffectSettings/SepiaSettings.h"
 #include "Proc/EffectSettings/SharpenSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/SplitToningSettings.h"
 #include "Proc/EffectSettings/TintTemperatureSettings.h"
+#include "Proc/EffectSettings/TransposeSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
 #include "Proc/EffectSettings/WhiteBalanceSettings.h"
 #include "Proc/Reflection/SpelledName.h"
@@ -126,6 +135,7 @@ constexpr std::array CLASSES{
     Entry<ColorFilterSettings>(),
     Entry<ColorMixBurnSettings>(),
     Entry<ColorspaceConverterSettings>(),
+    Entry<CropSettings>(),
     Entry<DeepAdjusterSettings>(),
     Entry<DeepAlignerSettings>(),
     Entry<DeepAutoRetoucherSettings>(),
@@ -141,6 +151,7 @@ constexpr std::array CLASSES{
     Entry<DenoiseChromaLumaSettings>(),
     Entry<DenoiseDCTSettings>(),
     Entry<DenoiseOvercompleteWaveletSettings>(),
+    Entry<DirectionalAreaDeformationSettings>(),
     Entry<DreamscopeSettings>(),
     Entry<EdgeDetectSettings>(),
     Entry<EmbossSettings>(),
@@ -149,6 +160,8 @@ constexpr std::array CLASSES{
     Entry<FaceDetectionSettings>(),
     Entry<FacePackageSettings>(),
     Entry<FaceThinningSettings>(),
+    Entry<FishEyeSettings>(),
+    Entry<FlipSettings>(),
     Entry<GIMPColorCorrectionSettings>(),
     Entry<GIMPColorTemperatureSettings>(),
     Entry<GIMPColorizeSettings>(),
@@ -158,20 +171,25 @@ constexpr std::array CLASSES{
     Entry<GradientSettings>(),
     Entry<GrayscaleSettings>(),
     Entry<HistogramSettings>(),
+    Entry<ImplodeSettings>(),
     Entry<ImageInpainterSettings>(),
     Entry<InpaintSettings>(),
     Entry<NegateVideoSettings>(),
     Entry<NoiseVideoSettings>(),
+    Entry<PixelateSettings>(),
     Entry<PosterizeSettings>(),
     Entry<ReduceLocalLumaSettings>(),
     Entry<RemoveBackgroundSettings>(),
     Entry<ReplaceChromaSettings>(),
+    Entry<ResizeSettings>(),
     Entry<RetroColorsSettings>(),
+    Entry<RotateSettings>(),
     Entry<SepiaSettings>(),
     Entry<SharpenSettings>(),
     Entry<SmartBlurSettings>(),
     Entry<SplitToningSettings>(),
     Entry<TintTemperatureSettings>(),
+    Entry<TransposeSettings>(),
     Entry<VibranceSettings>(),
     Entry<WhiteBalanceSettings>(),
     Entry<SegmentationSettings>(),

@@ -1,0 +1,23 @@
+#include "Proc/EffectSettings/FlipSettings.h"
+
+#include "Proc/EffectSettings/EffectSettingsBody.h"
+
+namespace Ombrel::PhotoCore
+{
+
+template class EffectSettingsImpl<Proc::SettingsEffectFlip, FlipSettings>;
+
+FlipSettings::~FlipSettings() = default;
+
+bool FlipSettings::IsAdditive() const
+{
+    return true;
+}
+
+void FlipSettings::Add(const FlipSettings& other)
+{
+    settings.SetHorizontal(settings.GetHorizontal() != other.settings.GetHorizontal());
+    settings.SetVertical(settings.GetVertical() != other.settings.GetVertical());
+}
+
+} // namespace Ombrel::PhotoCore

@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_IMPLODE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_IMPLODE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectImplode.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API ImplodeSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectImplode, ImplodeSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~ImplodeSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectImplode, ImplodeSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

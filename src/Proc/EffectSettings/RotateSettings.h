@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_ROTATE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_ROTATE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectRotate.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API RotateSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectRotate, RotateSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~RotateSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectRotate, RotateSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

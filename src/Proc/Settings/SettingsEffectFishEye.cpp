@@ -1,0 +1,38 @@
+#include "Proc/Settings/SettingsEffectFishEye.h"
+
+#include "Proc/Reflection/Folds.h"
+
+#include <cmath>
+
+namespace Ombrel::Proc
+{
+
+const std::string SettingsEffectFishEye::CLASS_ID{CLASS_NAME};
+
+template <> struct Fields<SettingsEffectFishEye>
+{
+    using R = SettingsEffectFishEye;
+    using List = FieldList<AccessorDescriptor<"deviation", &R::SetDeviation, &R::GetDeviation>,
+                           AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>;
+};
+
+template struct Reflected<SettingsEffectFishEye>;
+
+bool SettingsEffectFishEye::IsEmpty() const
+{
+    return *this == Reflected<SettingsEffectFishEye>::Default();
+}
+
+void SettingsEffectFishEye::SetDeviation(double value)
+{
+    const bool isReachable = m_intensity != 0.0f && std::isfinite(m_intensity);
+    m_deviationFactor = isReachable ? value / static_cast<double>(m_intensity) : value;
+}
+
+// The field list knows the product alone, which at intensity 0 says nothing of the factor.
+bool SettingsEffectFishEye::operator==(const SettingsEffectFishEye& other) const
+{
+    return m_deviationFactor == other.m_deviationFactor && m_intensity == other.m_intensity;
+}
+
+} // namespace Ombrel::Proc
