@@ -69,7 +69,8 @@ endfunction()
 install(FILES ${PROJECT_SOURCE_DIR}/src/Export.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Ombrel)
 ombrel_install_library(EffectSettings
   DESCRIPTION "${PROJECT_DESCRIPTION}"
-  FOLDERS Conf Exception PhotoUtil Proc PropertyTree)
+  FOLDERS Conf Exception PhotoUtil Proc PropertyTree
+  PRIVATE_HEADERS WrappingArithmetic.h)
 if(TARGET ombrel_PropertyTreeJson)
   ombrel_install_library(PropertyTreeJson
     DESCRIPTION "The stored form of effect settings as JSON text"

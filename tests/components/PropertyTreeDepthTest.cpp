@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace
 {
 
@@ -20,6 +22,12 @@ enum class Shape
     WithSiblings, // each level has children on both sides of the deep one
     Zigzag,       // the deep child is now the first and now the last
 };
+
+void PrintTo(Shape shape, std::ostream* out)
+{
+    constexpr const char* names[] = {"lists", "maps", "mixed", "with siblings", "zigzag"};
+    *out << names[static_cast<int>(shape)];
+}
 
 bool IsListLevel(Shape shape, int level)
 {

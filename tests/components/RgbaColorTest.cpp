@@ -24,7 +24,7 @@ struct Reading
 
 void PrintTo(const Reading& reading, std::ostream* out)
 {
-    *out << '"' << reading.text << '"';
+    *out << '"' << reading.text.substr(0, 12) << '"';
 }
 
 class ColorText : public testing::TestWithParam<Reading>

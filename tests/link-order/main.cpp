@@ -40,7 +40,11 @@ IEffectSettings::List MakeAll()
 
         PropertyTree tree;
         effect->Serialize(tree);
-        Expect(tree.getMap().size() == 0, effectClass.classId, "stores a default");
+        for (const auto& [key, child] : tree.getMap())
+        {
+            // A record that is stored even by default is an empty map.
+            Expect(!child.isScalar() && !child.isList() && child.getMap().empty(), effectClass.classId, "stores a default");
+        }
         effect->Deserialize(tree);
     }
     return effects;

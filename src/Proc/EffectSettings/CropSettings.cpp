@@ -1,20 +1,12 @@
 #include "Proc/EffectSettings/CropSettings.h"
 
 #include "Proc/EffectSettings/EffectSettingsBody.h"
+#include "Proc/EffectSettings/WrappingArithmetic.h"
 
 #include <cstdint>
 
 namespace Ombrel::PhotoCore
 {
-namespace
-{
-
-std::int32_t WrappingSum(std::int32_t a, std::int32_t b)
-{
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
-}
-
-} // namespace
 
 template class EffectSettingsImpl<Proc::SettingsEffectCrop, CropSettings>;
 

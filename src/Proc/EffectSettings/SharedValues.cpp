@@ -1,23 +1,11 @@
 #include "Proc/EffectSettings/SharedValues.h"
 
+#include "Proc/EffectSettings/WrappingArithmetic.h"
+
 #include <algorithm>
 
 namespace Ombrel::PhotoCore
 {
-namespace
-{
-
-std::int32_t WrappingSum(std::int32_t a, std::int32_t b)
-{
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
-}
-
-std::int32_t WrappingDifference(std::int32_t a, std::int32_t b)
-{
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) - static_cast<std::uint32_t>(b));
-}
-
-} // namespace
 
 ROI& ROI::Unite(const ROI& other)
 {
