@@ -14,6 +14,7 @@ namespace
 
 using Ombrel::PropertyTree;
 using namespace Ombrel::PhotoCore;
+using namespace std::string_view_literals;
 
 void Expect(bool condition, std::string_view classId, const char* what)
 {
@@ -35,7 +36,6 @@ IEffectSettings::List MakeAll()
         }
         const auto effect = effects.emplace_back(IEffectSettings::CreateEffectSettings(effectClass.classId));
         Expect(effect != nullptr, effectClass.classId, "was not made");
-        Expect(effect->GetImplName() == "default", effectClass.classId, "has another implementation name than \"default\"");
         Expect(effect->GetHelperSettings().GetMaxWidth() == 4294967295U, effectClass.classId, "has a largest width");
 
         PropertyTree tree;
@@ -61,6 +61,8 @@ int main()
     {
         if (effectClass.registration != Registration::None)
         {
+            const std::string_view implName = effectClass.classId == "EFFECT_RESIZE"sv ? "ffmpeg" : "default";
+            Expect((*effect)->GetImplName() == implName, effectClass.classId, "has another implementation name");
             Expect((*effect++)->GetClassId() == effectClass.classId, effectClass.classId, "has another class id");
         }
     }
