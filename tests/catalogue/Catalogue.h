@@ -127,6 +127,7 @@ struct Effect
     bool isAdditive = false;
     bool hasPropertyAccess = true;
     bool equalsItsCopy = true;
+    bool isClonedWhole = true; // with implementation name and helper settings
 };
 
 /// All rows, in no particular order.

@@ -143,6 +143,17 @@ TEST(FacePackageTree, AnItemIsClonedOnItsWayIn)
     EXPECT_EQ(ClonesOf(copy.GetTypedSettings().GetFaces()[2]), 2);
 }
 
+// The clone of a tile has the defaults of what every effect holds beside its own lists.
+TEST(FacePackageTree, ATileLosesItsImplementationNameOnItsWayIn)
+{
+    const PropertyTree acid = Map({{"name", "EFFECT_ACID"}});
+    const PropertyTree tile = Map({{"name", "effectSettingsTileStub"}, {"pre", List({acid})}});
+    PropertyTree named = tile;
+    named["implName"] = "other";
+    const auto package = Restored<FacePackageSettings>(Map({{"facesEffects", List({Map({{"effect", named}})})}}));
+    EXPECT_EQ(StoredForm(package)["facesEffects"].getList()[0], Map({{"effect", tile}}));
+}
+
 TEST(FacePackageTree, HoldsAPackage)
 {
     const auto inner = std::make_shared<FacePackageSettings>(SettingsEffectFacePackage(1, {Item(FaceAt(2), Vibrance(3))}));

@@ -78,6 +78,7 @@
 #include "Proc/EffectSettings/SharpenSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/SplitToningSettings.h"
+#include "Proc/EffectSettings/TileSettings.h"
 #include "Proc/EffectSettings/TintTemperatureSettings.h"
 #include "Proc/EffectSettings/TransposeSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
@@ -194,6 +195,7 @@ constexpr std::array CLASSES{
     Entry<WhiteBalanceSettings>(),
     Entry<SegmentationSettings>(),
     Entry<EffectSettingsSimple>(),
+    Entry<TileSettings>(Registration::Factory),
     // Not registered: they have an id, and a caller makes them by Create.
     Entry<GuidedFilterSettings>(Registration::None),
     Entry<MattingSettings>(Registration::None),
