@@ -15,6 +15,8 @@ template <class Effect>
 requires std::is_same_v<std::remove_const_t<Effect>, PhotoCore::IEffectSettings>
 struct Codec<std::shared_ptr<Effect>>
 {
+    static constexpr ValueSchema SCHEMA{ValueKind::Effect};
+
     static void Write(PropertyTree& child, const std::shared_ptr<Effect>& value, const WriteFlags*)
     {
         PhotoCore::EffectSettings::SerializePtr(child, value);

@@ -19,6 +19,22 @@ concept StoresItself = requires
     typename Proc::Fields<Derived>::List;
 };
 
+template <class Record, class Derived> const Proc::RecordSchema* EffectSettingsImpl<Record, Derived>::GetSchema() noexcept
+{
+    if constexpr (!Derived::USES_FIELD_LIST)
+    {
+        return nullptr;
+    }
+    else if constexpr (StoresItself<Derived>)
+    {
+        return &Proc::Reflected<Derived>::Schema();
+    }
+    else
+    {
+        return &Proc::Reflected<Record>::Schema();
+    }
+}
+
 template <class Record, class Derived> const std::string& EffectSettingsImpl<Record, Derived>::GetClassId() const
 {
     return Record::CLASS_ID;

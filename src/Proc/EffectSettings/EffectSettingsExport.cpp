@@ -108,9 +108,27 @@ template <class Effect> consteval const char* ClassIdOf()
     }
 }
 
+// The simple effect has no keys of its own.
+const Proc::RecordSchema* GetNoSchema() noexcept
+{
+    return nullptr;
+}
+
+template <class Effect> consteval auto SchemaOf()
+{
+    if constexpr (requires { &Effect::GetSchema; })
+    {
+        return &Effect::GetSchema;
+    }
+    else
+    {
+        return &GetNoSchema;
+    }
+}
+
 template <class Effect> consteval EffectClass Entry(Registration registration = Registration::StartUpList)
 {
-    return {Proc::TYPE_NAME<Effect>, ClassIdOf<Effect>(), &Effect::CreateBase, registration};
+    return {Proc::TYPE_NAME<Effect>, ClassIdOf<Effect>(), &Effect::CreateBase, SchemaOf<Effect>(), registration};
 }
 
 // The order of the start-up list is fixed.

@@ -10,6 +10,11 @@
 #include <span>
 #include <string_view>
 
+namespace Ombrel::Proc
+{
+struct RecordSchema;
+}
+
 namespace Ombrel::PhotoCore
 {
 
@@ -26,7 +31,8 @@ struct EffectClass
 {
     std::string_view className;
     const char* classId;
-    std::shared_ptr<IEffectSettings> (*create)(); // the class's `CreateBase`
+    std::shared_ptr<IEffectSettings> (*create)();      // the class's `CreateBase`
+    const Proc::RecordSchema* (*getSchema)() noexcept; // what its trees hold of its own; nothing for a class without keys
     Registration registration;
 };
 

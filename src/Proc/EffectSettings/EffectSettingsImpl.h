@@ -7,6 +7,11 @@
 #include <memory>
 #include <string>
 
+namespace Ombrel::Proc
+{
+struct RecordSchema;
+}
+
 namespace Ombrel::PhotoCore
 {
 
@@ -24,6 +29,9 @@ public:
 
     /// A new object with a default record.
     static std::shared_ptr<IEffectSettings> CreateBase() { return std::make_shared<Derived>(); }
+
+    /// What stands in the class's trees beside what every effect has there, or nothing if that does not come from a field list.
+    static const Proc::RecordSchema* GetSchema() noexcept;
 
     Record& GetTypedSettings() noexcept { return settings; }
     const Record& GetTypedSettings() const noexcept { return settings; }

@@ -4,6 +4,7 @@
 #include "Export.h"
 #include "Proc/Reflection/Context.h"
 #include "Proc/Reflection/EnumNameTable.h"
+#include "Proc/Reflection/Schema.h"
 #include "PropertyTree/PropertyTree.h"
 
 #include <concepts>
@@ -21,10 +22,25 @@ namespace Ombrel::Proc
 ///
 ///     static void Write(PropertyTree& child, const Value& value, const WriteFlags* flags);
 ///     static void Read(const PropertyTree& child, Value& value, const ReadFlags* flags);
+///     static constexpr ValueSchema SCHEMA; // optional
 ///
 /// `Read` decodes `child` into `value`, which holds what the field held before. Whatever the tree throws passes through.
 /// A new kind is a new specialisation, which may stand beside its type. What has none is a record with a field list.
 template <class Value> struct Codec;
+
+/// How a value describes itself.
+template <class Value>
+inline constexpr const ValueSchema& SCHEMA_OF = []() -> const ValueSchema&
+{
+    if constexpr (requires { Codec<Value>::SCHEMA; })
+    {
+        return Codec<Value>::SCHEMA;
+    }
+    else
+    {
+        return OTHER_VALUE;
+    }
+}();
 
 // The routines of the plain kinds, one per kind whatever the type, so that a record's own code stays small.
 OMBREL_API void WriteInteger(PropertyTree& child, std::int64_t value);
@@ -49,6 +65,12 @@ concept StoredInteger = std::same_as<Value, std::int32_t> || std::same_as<Value,
 
 template <StoredInteger Value> struct Codec<Value>
 {
+    static constexpr ValueSchema SCHEMA{std::same_as<Value, std::int32_t>    ? ValueKind::Int32
+                                        : std::same_as<Value, std::uint32_t> ? ValueKind::UInt32
+                                        : std::same_as<Value, std::uint8_t>  ? ValueKind::UInt8
+                                        : std::same_as<Value, std::int64_t>  ? ValueKind::Int64
+                                                                             : ValueKind::UInt64};
+
     static void Write(PropertyTree& child, Value value, const WriteFlags*)
     {
         WriteInteger(child, static_cast<std::int64_t>(value));
@@ -63,6 +85,8 @@ template <StoredInteger Value> struct Codec<Value>
 /// float64, and float32 widened and narrowed: a value beyond the range of float32 becomes an infinity.
 template <std::floating_point Value> struct Codec<Value>
 {
+    static constexpr ValueSchema SCHEMA{std::same_as<Value, float> ? ValueKind::Float32 : ValueKind::Float64};
+
     static void Write(PropertyTree& child, Value value, const WriteFlags*) { WriteFloat(child, value); }
 
     static void Read(const PropertyTree& child, Value& value, const ReadFlags*)
@@ -73,12 +97,16 @@ template <std::floating_point Value> struct Codec<Value>
 
 template <> struct Codec<bool>
 {
+    static constexpr ValueSchema SCHEMA{ValueKind::Bool};
+
     static void Write(PropertyTree& child, bool value, const WriteFlags*) { WriteBool(child, value); }
     static void Read(const PropertyTree& child, bool& value, const ReadFlags*) { ReadBool(child, value); }
 };
 
 template <> struct Codec<std::string>
 {
+    static constexpr ValueSchema SCHEMA{ValueKind::String};
+
     static void Write(PropertyTree& child, const std::string& value, const WriteFlags*) { WriteString(child, value); }
     static void Read(const PropertyTree& child, std::string& value, const ReadFlags*) { ReadString(child, value); }
 };
@@ -88,6 +116,8 @@ template <class Value>
 requires std::is_enum_v<Value>
 struct Codec<Value>
 {
+    static constexpr ValueSchema SCHEMA{.kind = ValueKind::Enum, .names = &EnumNames<Value>::TABLE};
+
     static void Write(PropertyTree& child, Value value, const WriteFlags*)
     {
         WriteEnum(child, static_cast<std::int32_t>(value), EnumNames<Value>::TABLE);
@@ -102,6 +132,8 @@ struct Codec<Value>
 /// A child that is no list leaves the field as it is; otherwise the elements replace it one by one, in order.
 template <class Element> struct Codec<std::vector<Element>>
 {
+    static constexpr ValueSchema SCHEMA{.kind = ValueKind::List, .element = &SCHEMA_OF<Element>};
+
     static void Write(PropertyTree& child, const std::vector<Element>& value, const WriteFlags* flags)
     {
         auto target = WriteList(child, value.size()).begin();
@@ -131,6 +163,8 @@ template <class Element> struct Codec<std::vector<Element>>
 /// As a list, in ascending order; on reading, repeated elements fall together.
 template <class Element> struct Codec<std::set<Element>>
 {
+    static constexpr ValueSchema SCHEMA{.kind = ValueKind::Set, .element = &SCHEMA_OF<Element>};
+
     static void Write(PropertyTree& child, const std::set<Element>& value, const WriteFlags* flags)
     {
         auto target = WriteList(child, value.size()).begin();

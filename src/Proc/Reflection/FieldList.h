@@ -7,7 +7,10 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <limits>
+#include <numeric>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -21,16 +24,16 @@ template <auto Member> struct FieldDescriptor
 {
     static constexpr std::string_view KEY = MEMBER_KEY<Member>;
 
+    template <class Record> using Value = std::remove_cvref_t<decltype(std::declval<Record&>().*Member)>;
+
     template <class Record> static void Read(const PropertyTree& child, Record& record, const ReadFlags* flags)
     {
-        using Value = std::remove_reference_t<decltype(record.*Member)>;
-        Codec<Value>::Read(child, record.*Member, flags);
+        Codec<Value<Record>>::Read(child, record.*Member, flags);
     }
 
     template <class Record> static void Write(PropertyTree& child, const Record& record, const WriteFlags* flags)
     {
-        using Value = std::remove_cvref_t<decltype(record.*Member)>;
-        Codec<Value>::Write(child, record.*Member, flags);
+        Codec<Value<Record>>::Write(child, record.*Member, flags);
     }
 
     template <class Record> static void Reset(Record& record, const Record& defaults) { record.*Member = defaults.*Member; }
@@ -80,17 +83,26 @@ template <KeyText Key, auto Setter, auto Getter> struct AccessorDescriptor
 /// The fields of a record in declaration order, each a descriptor.
 template <class... Descriptors> struct FieldList
 {
-    static constexpr std::array<std::string_view, sizeof...(Descriptors)> KEYS{Descriptors::KEY...};
+    static constexpr std::size_t SIZE = sizeof...(Descriptors);
+    static constexpr std::array<std::string_view, SIZE> KEYS{Descriptors::KEY...};
+
+    /// The indices of the fields in the byte order of their keys.
+    static constexpr std::array<std::uint16_t, SIZE> KEY_ORDER = []
+    {
+        std::array<std::uint16_t, SIZE> order{};
+        std::iota(order.begin(), order.end(), std::uint16_t{0});
+        std::ranges::sort(order, {}, [](std::uint16_t index) { return KEYS[index]; });
+        return order;
+    }();
 
     static consteval bool HasKey(std::string_view key) { return std::ranges::find(KEYS, key) != KEYS.end(); }
 
     static consteval bool HasUniqueKeys()
     {
-        auto sorted = KEYS;
-        std::ranges::sort(sorted);
-        return std::ranges::adjacent_find(sorted) == sorted.end();
+        return std::ranges::adjacent_find(KEY_ORDER, {}, [](std::uint16_t index) { return KEYS[index]; }) == KEY_ORDER.end();
     }
 
+    static_assert(SIZE <= std::numeric_limits<std::uint16_t>::max());
     static_assert(HasUniqueKeys(), "two fields of one list have the same key");
 };
 

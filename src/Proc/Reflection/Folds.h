@@ -5,49 +5,24 @@
 #include "Proc/Reflection/Reflected.h"
 
 #include <algorithm>
+#include <array>
 #include <concepts>
+#include <cstddef>
+#include <tuple>
+#include <utility>
 
+// How a record gets to a tree and back at the cost of code written by hand.
+//
+// A map holds its keys in byte order, and so does a constant table that the compiler sorts for each record. A write first asks
+// every field whether it has to stand in the tree, makes room for just so many entries, and appends them in that order: no
+// search, no entry moved. A read walks map and table side by side, once and out of line, which gives each field its child or
+// none; then it decodes in declaration order, so that setters run and failures stop as the list says. What depends on a value's
+// type alone is one routine per kind, also out of line: of a field only its key, its offset and the comparison with the default
+// are code of its own.
 namespace Ombrel::Proc
 {
 namespace ReflectedDetail
 {
-
-template <class Descriptor, class Record> void ReadField(const ReadContext<Record>& context)
-{
-    const auto found = context.source.find(Descriptor::KEY);
-    if (found != context.source.end())
-    {
-        Descriptor::Read(found->second, context.record, context.flags);
-    }
-    else if (context.flags->resetMissing)
-    {
-        Descriptor::Reset(context.record, Reflected<Record>::Default());
-    }
-}
-
-template <class Descriptor, class Record> void WriteField(const WriteContext<Record>& context)
-{
-    if (context.flags->omitDefaults && Descriptor::Equal(context.record, Reflected<Record>::Default()))
-    {
-        return;
-    }
-    Descriptor::Write(context.target[Descriptor::KEY], context.record, context.flags);
-}
-
-template <class Record, class... Descriptors> void ReadFields(const ReadContext<Record>& context, FieldList<Descriptors...>)
-{
-    (ReadField<Descriptors>(context), ...);
-}
-
-template <class Record, class... Descriptors> void WriteFields(const WriteContext<Record>& context, FieldList<Descriptors...>)
-{
-    (WriteField<Descriptors>(context), ...);
-}
-
-template <class Record, class... Descriptors> bool EqualFields(const Record& a, const Record& b, FieldList<Descriptors...>)
-{
-    return (Descriptors::Equal(a, b) && ...);
-}
 
 // A record whose map is not its own alone says in RESERVED_KEYS which keys are taken.
 template <class Record> consteval bool HasOwnKeys()
@@ -59,11 +34,86 @@ template <class Record> consteval bool HasOwnKeys()
     return true;
 }
 
+/// The folds over the fields of `Record`, which are told apart by their place in the list.
+template <class Record, class List = typename Fields<Record>::List, class Indices = std::make_index_sequence<List::SIZE>>
+struct Folds;
+
+template <class Record, class... Descriptors, std::size_t... Index>
+struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
+{
+    static_assert(HasOwnKeys<Record>(), "a field has a key that belongs to the effect itself");
+
+    using List = FieldList<Descriptors...>;
+
+    template <class Descriptor>
+    static void ReadOrReset(const PropertyTree* child, const ReadContext<Record>& context, const Record* defaults)
+    {
+        if (child)
+        {
+            Descriptor::Read(*child, context.record, context.flags);
+        }
+        else if (defaults)
+        {
+            Descriptor::Reset(context.record, *defaults);
+        }
+    }
+
+    static void Read(const ReadContext<Record>& context)
+    {
+        std::array<const PropertyTree*, List::SIZE> children;
+        FindChildren(SCHEMA, context.source, children.data());
+        [[maybe_unused]] const Record* defaults = context.flags->resetMissing ? &Reflected<Record>::Default() : nullptr;
+        (ReadOrReset<Descriptors>(children[Index], context, defaults), ...);
+    }
+
+    // `Place` is in byte order.
+    template <std::size_t Place> using DescriptorAt = std::tuple_element_t<List::KEY_ORDER[Place], std::tuple<Descriptors...>>;
+
+    template <class Descriptor> static void WriteNext(const WriteContext<Record>& context)
+    {
+        Descriptor::Write(context.target[Descriptor::KEY], context.record, context.flags);
+    }
+
+    static void Write(const WriteContext<Record>& context)
+    {
+        if (context.flags->omitDefaults)
+        {
+            [[maybe_unused]] const Record& defaults = Reflected<Record>::Default();
+            [[maybe_unused]] const std::array<bool, List::SIZE> isWritten{
+                !DescriptorAt<Index>::Equal(context.record, defaults)...};
+            ((isWritten[Index] ? WriteNext<DescriptorAt<Index>>(context) : void()), ...);
+        }
+        else
+        {
+            (WriteNext<DescriptorAt<Index>>(context), ...);
+        }
+    }
+
+    static bool Equal(const Record& a, const Record& b) { return (Descriptors::Equal(a, b) && ...); }
+
+    static const void* Defaults() { return &Reflected<Record>::Default(); }
+
+    static void ReadField([[maybe_unused]] std::size_t index, [[maybe_unused]] const PropertyTree& child,
+                          [[maybe_unused]] void* record, [[maybe_unused]] const ReadFlags* flags)
+    {
+        ((index == Index ? Descriptors::Read(child, *static_cast<Record*>(record), flags) : void()), ...);
+    }
+
+    static void WriteField([[maybe_unused]] std::size_t index, [[maybe_unused]] PropertyTree& child,
+                           [[maybe_unused]] const void* record, [[maybe_unused]] const WriteFlags* flags)
+    {
+        ((index == Index ? Descriptors::Write(child, *static_cast<const Record*>(record), flags) : void()), ...);
+    }
+
+    static constexpr std::array<FieldSchema, List::SIZE> FIELDS{
+        FieldSchema{Descriptors::KEY, &SCHEMA_OF<typename Descriptors::template Value<Record>>}...};
+    static constexpr RecordSchema SCHEMA{FIELDS, List::KEY_ORDER.data(), &Defaults, &ReadField, &WriteField};
+};
+
 } // namespace ReflectedDetail
 
 template <class Record> const Record& Reflected<Record>::Default()
 {
-    static_assert(ReflectedDetail::HasOwnKeys<Record>(), "a field has a key that belongs to the effect itself");
     if constexpr (std::default_initializable<Record>)
     {
         static const Record record{};
@@ -78,17 +128,22 @@ template <class Record> const Record& Reflected<Record>::Default()
 
 template <class Record> void Reflected<Record>::Read(const ReadContext<Record>& context)
 {
-    ReflectedDetail::ReadFields(context, typename Fields<Record>::List());
+    ReflectedDetail::Folds<Record>::Read(context);
 }
 
 template <class Record> void Reflected<Record>::Write(const WriteContext<Record>& context)
 {
-    ReflectedDetail::WriteFields(context, typename Fields<Record>::List());
+    ReflectedDetail::Folds<Record>::Write(context);
 }
 
 template <class Record> bool Reflected<Record>::Equal(const Record& a, const Record& b)
 {
-    return ReflectedDetail::EqualFields(a, b, typename Fields<Record>::List());
+    return ReflectedDetail::Folds<Record>::Equal(a, b);
+}
+
+template <class Record> const RecordSchema& Reflected<Record>::Schema() noexcept
+{
+    return ReflectedDetail::Folds<Record>::SCHEMA;
 }
 
 } // namespace Ombrel::Proc

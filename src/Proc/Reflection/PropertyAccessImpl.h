@@ -1,6 +1,7 @@
 #ifndef OMBREL_PROC_REFLECTION_PROPERTY_ACCESS_IMPL_H
 #define OMBREL_PROC_REFLECTION_PROPERTY_ACCESS_IMPL_H
 
+#include "Export.h"
 #include "PhotoUtil/ISerializableBase.h"
 #include "Proc/Reflection/Reflected.h"
 
@@ -10,48 +11,30 @@
 namespace Ombrel::Proc
 {
 
-/// Key-by-key access to a reflected record. It holds a plain pointer: the record must outlive it.
-template <class Record> class PropertyAccessImpl final : public PhotoUtil::ISerializableBase::IPropertyAccess
+/// Key-by-key access to a record of the described type. It answers as reading and writing the whole record would, and touches
+/// the one field alone. It holds a plain pointer: the record must outlive it.
+class OMBREL_API PropertyAccess : public PhotoUtil::ISerializableBase::IPropertyAccess
 {
 public:
-    explicit PropertyAccessImpl(Record* record) noexcept : m_record(record) {}
+    ~PropertyAccess() override;
 
-    PropertyTree GetProperty(const std::string& key) const override
-    {
-        const PropertyTree tree = WriteAll();
-        return tree.contains(key) ? tree[key] : PropertyTree();
-    }
+    PropertyTree GetProperty(const std::string& key) const override;
+    void SetProperty(const std::string& key, const PropertyTree& value) override;
+    std::vector<std::string> ListProperties() const override;
 
-    void SetProperty(const std::string& key, const PropertyTree& value) override
-    {
-        constexpr ReadFlags flags{.resetMissing = false};
-        PropertyTree scratch;
-        scratch[key] = value;
-        Reflected<Record>::Read({*m_record, scratch.getMap(), &flags});
-    }
-
-    std::vector<std::string> ListProperties() const override
-    {
-        const PropertyTree tree = WriteAll();
-        std::vector<std::string> keys;
-        for (const auto& [key, child] : tree.getMap())
-        {
-            keys.push_back(key);
-        }
-        return keys;
-    }
+protected:
+    PropertyAccess(const RecordSchema& schema, void* record) noexcept;
 
 private:
-    PropertyTree WriteAll() const
-    {
-        constexpr WriteFlags flags{.resetTargets = true, .omitDefaults = false};
-        PropertyTree tree;
-        tree.convertToMap();
-        Reflected<Record>::Write({*m_record, tree.getMap(), &flags});
-        return tree;
-    }
+    const RecordSchema& m_schema;
+    void* m_record;
+};
 
-    Record* m_record;
+/// Key-by-key access to a reflected record.
+template <class Record> class PropertyAccessImpl final : public PropertyAccess
+{
+public:
+    explicit PropertyAccessImpl(Record* record) noexcept : PropertyAccess(Reflected<Record>::Schema(), record) {}
 };
 
 } // namespace Ombrel::Proc

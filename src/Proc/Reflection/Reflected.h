@@ -16,16 +16,24 @@ template <class Record> struct Reflected
     /// The record that missing keys are reset to and written values are compared with. Made on first use.
     static const Record& Default();
 
+    /// Reads the fields in declaration order.
     static void Read(const ReadContext<Record>& context);
+
+    /// Writes the fields in the byte order of their keys, which is the order of the map.
     static void Write(const WriteContext<Record>& context);
 
     /// Field by field in declaration order, each by its own `==`.
     static bool Equal(const Record& a, const Record& b);
+
+    /// The fields as constant data, with the way to each of them.
+    static const RecordSchema& Schema() noexcept;
 };
 
 /// What has no codec of its own is a record, stored as a nested map.
 template <class Record> struct Codec
 {
+    static constexpr ValueSchema SCHEMA{.kind = ValueKind::Record, .record = &Reflected<Record>::Schema};
+
     static void Write(PropertyTree& child, const Record& record, const WriteFlags* flags)
     {
         if (flags->resetTargets)

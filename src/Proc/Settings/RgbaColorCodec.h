@@ -16,6 +16,8 @@ OMBREL_API RgbaColor ReadColor(const PropertyTree& child);
 
 template <> struct Codec<RgbaColor>
 {
+    static constexpr ValueSchema SCHEMA{ValueKind::Color};
+
     static void Write(PropertyTree& child, const RgbaColor& value, const WriteFlags*) { WriteColor(child, value); }
     static void Read(const PropertyTree& child, RgbaColor& value, const ReadFlags*) { value = ReadColor(child); }
 };
@@ -25,6 +27,8 @@ template <> struct Codec<RgbaColor>
 template <> struct OMBREL_API Codec<std::map<std::uint8_t, RgbaColor>>
 {
     using Value = std::map<std::uint8_t, RgbaColor>;
+
+    static constexpr ValueSchema SCHEMA{ValueKind::ColorMap};
 
     static void Write(PropertyTree& child, const Value& value, const WriteFlags* flags);
     static void Read(const PropertyTree& child, Value& value, const ReadFlags* flags);

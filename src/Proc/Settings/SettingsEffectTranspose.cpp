@@ -25,6 +25,8 @@ template <> struct Codec<SettingsEffectTranspose::TransposeAngle>
 {
     using Value = SettingsEffectTranspose::TransposeAngle;
 
+    static constexpr ValueSchema SCHEMA{.kind = ValueKind::Enum, .names = &EnumNames<Value>::TABLE};
+
     static void Write(PropertyTree& child, Value value, const WriteFlags*)
     {
         WriteEnum(child, static_cast<std::int32_t>(value), EnumNames<Value>::TABLE);

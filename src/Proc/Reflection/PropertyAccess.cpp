@@ -1,0 +1,41 @@
+#include "Proc/Reflection/PropertyAccessImpl.h"
+
+namespace Ombrel::Proc
+{
+
+PropertyAccess::PropertyAccess(const RecordSchema& schema, void* record) noexcept : m_schema(schema), m_record(record) {}
+
+PropertyAccess::~PropertyAccess() = default;
+
+PropertyTree PropertyAccess::GetProperty(const std::string& key) const
+{
+    constexpr WriteFlags flags{.resetTargets = true, .omitDefaults = false};
+    PropertyTree value;
+    if (const auto index = FindField(m_schema, key))
+    {
+        m_schema.writeField(*index, value, m_record, &flags);
+    }
+    return value;
+}
+
+void PropertyAccess::SetProperty(const std::string& key, const PropertyTree& value)
+{
+    constexpr ReadFlags flags{.resetMissing = false};
+    if (const auto index = FindField(m_schema, key))
+    {
+        m_schema.readField(*index, value, m_record, &flags);
+    }
+}
+
+std::vector<std::string> PropertyAccess::ListProperties() const
+{
+    std::vector<std::string> keys;
+    keys.reserve(m_schema.fields.size());
+    for (const std::uint16_t index : std::span(m_schema.keyOrder, m_schema.fields.size()))
+    {
+        keys.emplace_back(m_schema.fields[index].key);
+    }
+    return keys;
+}
+
+} // namespace Ombrel::Proc

@@ -1,0 +1,80 @@
+#ifndef OMBREL_PROC_REFLECTION_SCHEMA_H
+#define OMBREL_PROC_REFLECTION_SCHEMA_H
+
+#include "Export.h"
+#include "Proc/Reflection/Context.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace Ombrel::Proc
+{
+
+struct EnumNameTable;
+struct RecordSchema;
+
+/// The kinds of value that a field may hold.
+enum class ValueKind : std::uint8_t
+{
+    Int32,
+    UInt32,
+    UInt8,
+    Int64,
+    UInt64,
+    Float64,
+    Float32,
+    Bool,
+    String,
+    Enum,     // stored by name
+    Color,    // stored as a text
+    ColorMap, // colours by a number from 0 to 255, stored as a list of "key" and "value"
+    Record,   // stored as a nested map
+    List,
+    Set,    // stored as a list
+    Effect, // any effect or none, stored with its class id
+    Other,  // has a codec of its own that does not describe itself
+};
+
+/// What a field holds. Constant data.
+struct ValueSchema
+{
+    ValueKind kind;
+    const EnumNameTable* names = nullptr;      // of an enumeration
+    const RecordSchema& (*record)() = nullptr; // of a record
+    const ValueSchema* element = nullptr;      // of a list or set
+};
+
+/// Describes what does not describe itself.
+inline constexpr ValueSchema OTHER_VALUE{ValueKind::Other};
+
+/// One field of a record. Constant data.
+struct FieldSchema
+{
+    std::string_view key;
+    const ValueSchema* value;
+};
+
+/// What is known of a record type without naming it: its fields, and the way to each of them in a record that is passed by
+/// `void*`, which must be of the type. Constant data; an index is the place in `fields`.
+struct RecordSchema
+{
+    std::span<const FieldSchema> fields; // in declaration order, which is the order of reading
+    const std::uint16_t* keyOrder;      // the same fields in the order in which a map holds their keys
+
+    const void* (*defaults)(); // what missing keys are reset to; may throw on first use
+    void (*readField)(std::size_t index, const PropertyTree& child, void* record, const ReadFlags* flags);
+    void (*writeField)(std::size_t index, PropertyTree& child, const void* record, const WriteFlags* flags);
+};
+
+/// The field with the key.
+OMBREL_API std::optional<std::size_t> FindField(const RecordSchema& schema, std::string_view key);
+
+/// Points `children`, of which there is one per field, at the field's child in the map, or at nothing.
+OMBREL_API void FindChildren(const RecordSchema& schema, const PropertyTree::Map& source, const PropertyTree** children);
+
+} // namespace Ombrel::Proc
+
+#endif
