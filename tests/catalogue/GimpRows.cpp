@@ -67,7 +67,7 @@ std::vector<Effect> GimpRows()
         },
         {
             .className = "GIMPShadowsHightlightsSettings",
-            .classId = "EFFECT_GIMP_SHADOWS_HIGHLIGHTS",
+            .classId = "EFFECT_GIMP_SHADOWS_HIGHTLIGHTS",
             .inputType = InputType::One,
             .place = Place{54},
             .fields =

@@ -20,6 +20,7 @@ using namespace Ombrel::PhotoCore;
 using Ombrel::PropertyTree;
 using Support::List;
 using Support::Map;
+using Support::Restored;
 using Support::StoredForm;
 
 TEST(Adjuster, IsNeverEmptyHoweverNeutral)
@@ -159,6 +160,50 @@ TEST(Adjuster, ItsPartsSayThemselvesWhetherTheyAreEmpty)
     ExpectForwardsIsEmpty<DetailsEnhanceSettings>("strength", 1);
     ExpectForwardsIsEmpty<ColorBalanceSettings>("hue", 180);
     ExpectForwardsIsEmpty<SmartBlurSettings>("chromaThreshold", 1);
+}
+
+TEST(Adjuster, KeysOfTheColorBalanceReachItsAccessors)
+{
+    const auto effect = Restored<ColorBalanceSettings>(Map({{"brightness", 1},
+                                                            {"contrast", 2},
+                                                            {"saturation", 3},
+                                                            {"hue", 544},
+                                                            {"gamma", 5},
+                                                            {"gammaRed", 6},
+                                                            {"gammaGreen", 7},
+                                                            {"gammaBlue", 8},
+                                                            {"gammaWeight", 9}}));
+    const auto& record = effect.GetTypedSettings();
+    EXPECT_EQ(record.GetBrightness(), 1);
+    EXPECT_EQ(record.GetContrast(), 2);
+    EXPECT_EQ(record.GetSaturation(), 3);
+    EXPECT_EQ(record.GetHue(), -176);
+    EXPECT_EQ(record.GetGamma(), 5);
+    EXPECT_EQ(record.GetGammaRed(), 6);
+    EXPECT_EQ(record.GetGammaGreen(), 7);
+    EXPECT_EQ(record.GetGammaBlue(), 8);
+    EXPECT_EQ(record.GetGammaWeight(), 9);
+}
+
+TEST(Adjuster, KeysOfTheSmartBlurReachItsAccessors)
+{
+    const auto effect = Restored<SmartBlurSettings>(Map({{"lumaRadius", 1},
+                                                         {"lumaBlur", 2},
+                                                         {"lumaSharpen", 3},
+                                                         {"lumaThreshold", 4},
+                                                         {"chromaRadius", 5},
+                                                         {"chromaBlur", 6},
+                                                         {"chromaSharpen", 7},
+                                                         {"chromaThreshold", 8}}));
+    const auto& record = effect.GetTypedSettings();
+    EXPECT_EQ(record.GetLumaRadius(), 1);
+    EXPECT_EQ(record.GetLumaBlur(), 2);
+    EXPECT_EQ(record.GetLumaSharpen(), 3);
+    EXPECT_EQ(record.GetLumaThreshold(), 4);
+    EXPECT_EQ(record.GetChromaRadius(), 5);
+    EXPECT_EQ(record.GetChromaBlur(), 6);
+    EXPECT_EQ(record.GetChromaSharpen(), 7);
+    EXPECT_EQ(record.GetChromaThreshold(), 8);
 }
 
 TEST(Adjuster, LikeRecordsAreDifferentTypes)

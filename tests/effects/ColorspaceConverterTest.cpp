@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace
@@ -121,6 +123,37 @@ TEST(ColorspaceConverter, ComposesThePadColourChannelByChannel)
     EXPECT_EQ(StoredForm(effect), Map({{"padColorR", 10}, {"padColorG", 20}, {"padColorB", 3}}));
     effect.GetPropertyAccess()->SetProperty("padColorB", 30);
     EXPECT_EQ(StoredForm(effect), Map({{"padColorR", 10}, {"padColorG", 20}, {"padColorB", 30}}));
+}
+
+TEST(ColorspaceConverter, KeysReachTheirFlags)
+{
+    using Getter = bool (SettingsPixelFormatConverter::*)() const;
+    constexpr std::pair<const char*, Getter> flags[] = {
+        {"hasAlpha", &SettingsPixelFormatConverter::GetHasAlpha},
+        {"multiplyAlpha", &SettingsPixelFormatConverter::GetMultiplyAlpha},
+        {"forceDropAlpha", &SettingsPixelFormatConverter::GetForceDropAlpha},
+    };
+    for (const auto& [key, getter] : flags)
+    {
+        const auto effect = Restored<ColorspaceConverterSettings>(Map({{key, true}}));
+        for (const auto& [otherKey, otherGetter] : flags)
+        {
+            EXPECT_EQ((effect.GetTypedSettings().*otherGetter)(), std::string_view(otherKey) == key) << key << ", " << otherKey;
+        }
+    }
+}
+
+TEST(ColorspaceConverter, AnyValueEndsTheEmptinessOfTheRecord)
+{
+    EXPECT_TRUE(SettingsColorspaceConverter().IsEmpty());
+    for (const char* key : {"padColorR", "padColorG", "padColorB"})
+    {
+        EXPECT_FALSE(Restored<ColorspaceConverterSettings>(Map({{key, 1}})).GetTypedSettings().IsEmpty()) << key;
+    }
+    for (const char* key : {"hasAlpha", "multiplyAlpha", "forceDropAlpha"})
+    {
+        EXPECT_FALSE(Restored<ColorspaceConverterSettings>(Map({{key, true}})).GetTypedSettings().IsEmpty()) << key;
+    }
 }
 
 TEST(ColorspaceConverter, ComparesFormatsInTheirOrder)

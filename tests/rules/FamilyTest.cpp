@@ -41,6 +41,18 @@ TEST(Family, WritesWhatDiffers)
     EXPECT_EQ(StoredForm(Acid(0, 2.0)), Map({{"sigma", 2.0}}));
 }
 
+TEST(Family, SerializeReplacesWhatTheTreeHeld)
+{
+    PropertyTree tree = Map(
+        {{"stray", 1}, {"radius", 9}, {"implName", "gpu"}, {"name", "EFFECT_OTHER"}, {"helperSettings", Map({{"stray", 1}})}});
+    Acid(0, 2.0).Serialize(tree);
+    EXPECT_EQ(tree, Map({{"sigma", 2.0}}));
+
+    tree = Map({{"stray", 1}});
+    EffectSettings::SerializePtr(tree, AcidSettings::CreateBase());
+    EXPECT_EQ(tree, Map({{"name", "EFFECT_ACID"}}));
+}
+
 TEST(Family, BaseMembersStandBesideTheRecord)
 {
     AcidSettings effect = Acid(3);

@@ -69,6 +69,13 @@ TEST(HelperSettings, WritesWhatDiffersAndReadsItBack)
     EXPECT_TRUE(restored == HelperSettings());
 }
 
+TEST(HelperSettings, SerializeReplacesWhatTheTreeHeld)
+{
+    PropertyTree tree = Map({{"stray", 1}, {"undoSet", true}});
+    HelperSettings().Serialize(tree);
+    EXPECT_EQ(tree, Map({}));
+}
+
 TEST(HelperSettings, KnowsTheNamesOfItsFlags)
 {
     constexpr std::pair<const char*, int> names[] = {

@@ -6,12 +6,12 @@
 namespace Ombrel::Proc
 {
 
-/// Lightens shadows and darkens highlights. Only the names of the classes are misspelled, the keys and the class id are not.
-/// Every value is stored as given; shadows, highlights and a white point of 0 change nothing.
+/// Lightens shadows and darkens highlights. The names of the classes are misspelled, and the class id with them, as stored; the
+/// keys are not. Every value is stored as given; shadows, highlights and a white point of 0 change nothing.
 class OMBREL_API SettingsEffectGIMPShadowsHightlights : public SettingsRecord<SettingsEffectGIMPShadowsHightlights>
 {
 public:
-    static constexpr const char* CLASS_NAME = "EFFECT_GIMP_SHADOWS_HIGHLIGHTS";
+    static constexpr const char* CLASS_NAME = "EFFECT_GIMP_SHADOWS_HIGHTLIGHTS";
     static const std::string CLASS_ID;
 
     /// True if every value has its default.

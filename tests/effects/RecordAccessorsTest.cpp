@@ -1,0 +1,145 @@
+#include "Proc/EffectSettings/BlurSettings.h"
+#include "Proc/EffectSettings/CropSettings.h"
+#include "Proc/EffectSettings/DenoiseChromaLumaSettings.h"
+#include "Proc/EffectSettings/DenoiseDCTSettings.h"
+#include "Proc/EffectSettings/DenoiseOvercompleteWaveletSettings.h"
+#include "Proc/EffectSettings/EdgeDetectSettings.h"
+#include "Proc/EffectSettings/EmbossSettings.h"
+#include "Proc/EffectSettings/FlipSettings.h"
+#include "Proc/EffectSettings/NoiseVideoSettings.h"
+#include "Proc/EffectSettings/RotateSettings.h"
+#include "support/StoredForm.h"
+#include "support/TreeText.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+
+// The setters and getters of records that keep their members to themselves. The stored form passes by those that only store
+// and load, so that nothing else says which value they mean.
+namespace
+{
+
+using namespace Ombrel::PhotoCore;
+using namespace Ombrel::Proc;
+using Ombrel::PixFmt;
+using Ombrel::PropertyTree;
+using Support::Map;
+using Support::StoredForm;
+
+constexpr std::int32_t WHOLE = -73;
+constexpr double FRACTION = 0.375;
+
+// `value` is no default of the record: it is seen under `key` alone, and the getter shows no other value.
+template <class Effect, class Record, class Given, class Shown, class Value>
+void ExpectAccess(const char* key, void (Record::*setter)(Given), Shown (Record::*getter)() const, const Value& value,
+                  const PropertyTree& stored)
+{
+    Effect effect;
+    EXPECT_NE((effect.GetTypedSettings().*getter)(), value) << key;
+    (effect.GetTypedSettings().*setter)(value);
+    EXPECT_EQ(StoredForm(effect), Map({{key, stored}})) << key;
+    EXPECT_EQ((effect.GetTypedSettings().*getter)(), value) << key;
+}
+
+template <class Effect, class Record, class Value>
+void ExpectNumber(const char* key, void (Record::*setter)(Value), Value (Record::*getter)() const, Value value)
+{
+    ExpectAccess<Effect>(key, setter, getter, value, value);
+}
+
+TEST(RecordAccessors, OfBlur)
+{
+    using R = SettingsEffectBlur;
+    ExpectAccess<BlurSettings>("algorithm", &R::SetAlgorithm, &R::GetAlgorithm, R::Algorithm::Median, "Median");
+    ExpectAccess<BlurSettings>("scaleType", &R::SetScaleType, &R::GetScaleType, R::BlurScaleType::RelativeMin, "RelativeMin");
+    ExpectAccess<BlurSettings>("pixelFormat", &R::SetPixelFormat, &R::GetPixelFormat, PixFmt::BGRA, "BGRA");
+    ExpectNumber<BlurSettings>("kernelLength", &R::SetKernelLength, &R::GetKernelLength, WHOLE);
+    ExpectNumber<BlurSettings>("iterations", &R::SetIterations, &R::GetIterations, WHOLE);
+    ExpectNumber<BlurSettings>("planesMask", &R::SetPlanesMask, &R::GetPlanesMask, WHOLE);
+    ExpectNumber<BlurSettings>("devX", &R::SetDevX, &R::GetDevX, FRACTION);
+    ExpectNumber<BlurSettings>("devY", &R::SetDevY, &R::GetDevY, FRACTION);
+    ExpectNumber<BlurSettings>("scaleX", &R::SetScaleX, &R::GetScaleX, FRACTION);
+    ExpectNumber<BlurSettings>("scaleY", &R::SetScaleY, &R::GetScaleY, FRACTION);
+}
+
+TEST(RecordAccessors, OfDenoiseChromaLuma)
+{
+    using R = SettingsEffectDenoiseChromaLuma;
+    using Effect = DenoiseChromaLumaSettings;
+    ExpectNumber<Effect>("lumaStrength", &R::SetLumaStrength, &R::GetLumaStrength, FRACTION);
+    ExpectNumber<Effect>("chromaStrength", &R::SetChromaStrength, &R::GetChromaStrength, FRACTION);
+    ExpectNumber<Effect>("lumaStrengthTemporal", &R::SetLumaStrengthTemporal, &R::GetLumaStrengthTemporal, FRACTION);
+    ExpectNumber<Effect>("chromaStrengthTemporal", &R::SetChromaStrengthTemporal, &R::GetChromaStrengthTemporal, FRACTION);
+}
+
+TEST(RecordAccessors, OfDenoiseDCT)
+{
+    using R = SettingsEffectDenoiseDCT;
+    ExpectNumber<DenoiseDCTSettings>("sigma", &R::SetSigma, &R::GetSigma, FRACTION);
+    ExpectNumber<DenoiseDCTSettings>("overlapSize", &R::SetOverlapSize, &R::GetOverlapSize, WHOLE);
+    ExpectNumber<DenoiseDCTSettings>("blockSizeBits", &R::SetBlockSizeBits, &R::GetBlockSizeBits, WHOLE);
+}
+
+TEST(RecordAccessors, OfDenoiseOvercompleteWavelet)
+{
+    using R = SettingsEffectDenoiseOvercompleteWavelet;
+    using Effect = DenoiseOvercompleteWaveletSettings;
+    ExpectNumber<Effect>("depth", &R::SetDepth, &R::GetDepth, WHOLE);
+    ExpectNumber<Effect>("lumaStrength", &R::SetLumaStrength, &R::GetLumaStrength, FRACTION);
+    ExpectNumber<Effect>("chromaStrength", &R::SetChromaStrength, &R::GetChromaStrength, FRACTION);
+}
+
+TEST(RecordAccessors, OfNoiseVideo)
+{
+    using R = SettingsEffectNoiseVideo;
+    ExpectAccess<NoiseVideoSettings>("method", &R::SetMethod, &R::GetMethod, R::Method::Poisson, "Poisson");
+    ExpectNumber<NoiseVideoSettings>("seed", &R::SetSeed, &R::GetSeed, WHOLE);
+    ExpectNumber<NoiseVideoSettings>("strength", &R::SetStrength, &R::GetStrength, WHOLE);
+}
+
+TEST(RecordAccessors, OfEdgeDetect)
+{
+    using R = SettingsEffectEdgeDetect;
+    ExpectAccess<EdgeDetectSettings>("mode", &R::SetMode, &R::GetMode, R::EdgeDetectMode::Colormix, "Colormix");
+    ExpectNumber<EdgeDetectSettings>("lowThreshold", &R::SetLowThreshold, &R::GetLowThreshold, FRACTION);
+    ExpectNumber<EdgeDetectSettings>("highThreshold", &R::SetHighThreshold, &R::GetHighThreshold, FRACTION);
+}
+
+TEST(RecordAccessors, OfEmboss)
+{
+    using R = SettingsEffectEmboss;
+    ExpectNumber<EmbossSettings>("x", &R::SetX, &R::GetX, WHOLE);
+    ExpectNumber<EmbossSettings>("y", &R::SetY, &R::GetY, WHOLE);
+    ExpectNumber<EmbossSettings>("colored", &R::SetColored, &R::GetColored, true);
+}
+
+TEST(RecordAccessors, OfCrop)
+{
+    using R = SettingsEffectCrop;
+    ExpectNumber<CropSettings>("x", &R::SetX, &R::GetX, WHOLE);
+    ExpectNumber<CropSettings>("y", &R::SetY, &R::GetY, WHOLE);
+    ExpectNumber<CropSettings>("width", &R::SetWidth, &R::GetWidth, WHOLE);
+    ExpectNumber<CropSettings>("height", &R::SetHeight, &R::GetHeight, WHOLE);
+}
+
+TEST(RecordAccessors, OfFlip)
+{
+    using R = SettingsEffectFlip;
+    ExpectNumber<FlipSettings>("horizontal", &R::SetHorizontal, &R::GetHorizontal, true);
+    ExpectNumber<FlipSettings>("vertical", &R::SetVertical, &R::GetVertical, true);
+}
+
+TEST(RecordAccessors, OfRotate)
+{
+    using R = SettingsEffectRotate;
+    ExpectAccess<RotateSettings>("outputSizeMode", &R::SetOutputSizeMode, &R::GetOutputSizeMode,
+                                 R::OutputSizeMode::enOutputSizeCrop, "enOutputSizeCrop");
+    ExpectNumber<RotateSettings>("angle", &R::SetAngle, &R::GetAngle, FRACTION);
+    ExpectNumber<RotateSettings>("width", &R::SetWidth, &R::GetWidth, WHOLE);
+    ExpectNumber<RotateSettings>("height", &R::SetHeight, &R::GetHeight, WHOLE);
+    ExpectNumber<RotateSettings>("isBilinear", &R::SetIsBilinear, &R::GetIsBilinear, true);
+    ExpectAccess<RotateSettings>("color", &R::SetColor, &R::GetColor, RgbaColor{18, 171, 86, 205}, "12ab56cd");
+}
+
+} // namespace
