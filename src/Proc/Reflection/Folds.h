@@ -91,23 +91,44 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
 
     static bool Equal(const Record& a, const Record& b) { return (Descriptors::Equal(a, b) && ...); }
 
-    static const void* Defaults() { return &Reflected<Record>::Default(); }
+    // The same for a record whose type the caller does not name.
 
-    static void ReadField([[maybe_unused]] std::size_t index, [[maybe_unused]] const PropertyTree& child,
-                          [[maybe_unused]] void* record, [[maybe_unused]] const ReadFlags* flags)
+    static const void* ErasedDefault() { return &Reflected<Record>::Default(); }
+
+    static void ErasedRead(void* record, const PropertyTree::Map& source, const ReadFlags* flags)
+    {
+        Reflected<Record>::Read({*static_cast<Record*>(record), source, flags});
+    }
+
+    static void ErasedWrite(const void* record, PropertyTree::Map& target, const WriteFlags* flags)
+    {
+        Reflected<Record>::Write({*static_cast<const Record*>(record), target, flags});
+    }
+
+    static void ReadField([[maybe_unused]] std::size_t index, [[maybe_unused]] void* record,
+                          [[maybe_unused]] const PropertyTree& child, [[maybe_unused]] const ReadFlags* flags)
     {
         ((index == Index ? Descriptors::Read(child, *static_cast<Record*>(record), flags) : void()), ...);
     }
 
-    static void WriteField([[maybe_unused]] std::size_t index, [[maybe_unused]] PropertyTree& child,
-                           [[maybe_unused]] const void* record, [[maybe_unused]] const WriteFlags* flags)
+    static void WriteField([[maybe_unused]] std::size_t index, [[maybe_unused]] const void* record,
+                           [[maybe_unused]] PropertyTree& child, [[maybe_unused]] const WriteFlags* flags)
     {
         ((index == Index ? Descriptors::Write(child, *static_cast<const Record*>(record), flags) : void()), ...);
     }
 
     static constexpr std::array<FieldSchema, List::SIZE> FIELDS{
         FieldSchema{Descriptors::KEY, &SCHEMA_OF<typename Descriptors::template Value<Record>>}...};
-    static constexpr RecordSchema SCHEMA{FIELDS, List::KEY_ORDER.data(), &Defaults, &ReadField, &WriteField};
+
+    static constexpr RecordSchema SCHEMA{
+        .fields = FIELDS,
+        .keyOrder = List::KEY_ORDER.data(),
+        .defaults = &ErasedDefault,
+        .read = &ErasedRead,
+        .write = &ErasedWrite,
+        .readField = &ReadField,
+        .writeField = &WriteField,
+    };
 };
 
 } // namespace ReflectedDetail

@@ -13,7 +13,7 @@ PropertyTree PropertyAccess::GetProperty(const std::string& key) const
     PropertyTree value;
     if (const auto index = FindField(m_schema, key))
     {
-        m_schema.writeField(*index, value, m_record, &flags);
+        m_schema.writeField(*index, m_record, value, &flags);
     }
     return value;
 }
@@ -23,7 +23,7 @@ void PropertyAccess::SetProperty(const std::string& key, const PropertyTree& val
     constexpr ReadFlags flags{.resetMissing = false};
     if (const auto index = FindField(m_schema, key))
     {
-        m_schema.readField(*index, value, m_record, &flags);
+        m_schema.readField(*index, m_record, value, &flags);
     }
 }
 

@@ -57,16 +57,18 @@ struct FieldSchema
     const ValueSchema* value;
 };
 
-/// What is known of a record type without naming it: its fields, and the way to each of them in a record that is passed by
-/// `void*`, which must be of the type. Constant data; an index is the place in `fields`.
+/// What is known of a record type without naming it: its fields, and the folds over them for a record that is passed by `void*`
+/// and must be of the type. Constant data; an index is the place in `fields`.
 struct RecordSchema
 {
     std::span<const FieldSchema> fields; // in declaration order, which is the order of reading
-    const std::uint16_t* keyOrder;      // the same fields in the order in which a map holds their keys
+    const std::uint16_t* keyOrder;       // their indices in the byte order of the keys
 
-    const void* (*defaults)(); // what missing keys are reset to; may throw on first use
-    void (*readField)(std::size_t index, const PropertyTree& child, void* record, const ReadFlags* flags);
-    void (*writeField)(std::size_t index, PropertyTree& child, const void* record, const WriteFlags* flags);
+    const void* (*defaults)(); // what missing keys are reset to; made on first use
+    void (*read)(void* record, const PropertyTree::Map& source, const ReadFlags* flags);
+    void (*write)(const void* record, PropertyTree::Map& target, const WriteFlags* flags);
+    void (*readField)(std::size_t index, void* record, const PropertyTree& child, const ReadFlags* flags);
+    void (*writeField)(std::size_t index, const void* record, PropertyTree& child, const WriteFlags* flags);
 };
 
 /// The field with the key.
