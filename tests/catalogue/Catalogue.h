@@ -88,6 +88,11 @@ template <class Class, auto Member> std::int32_t NumberIn(const Ombrel::PhotoCor
 /// The names of the pixel formats, whose fallback is -1.
 std::vector<EnumName> PixFmtNames();
 
+/// The fields of records that stand alone and in other records. Within those nobody reads the number.
+std::vector<Field> NoiseFields(NumberOf method = nullptr);
+std::vector<Field> RadialBlurFields(NumberOf mode = nullptr);
+std::vector<Field> TransposeFields(NumberOf angle = nullptr);
+
 /// Any other field, such as a list, with its two values in full stored form.
 Field Other(std::string key, Kind kind, Ombrel::PropertyTree defaultValue, Ombrel::PropertyTree sample);
 
