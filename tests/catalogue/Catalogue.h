@@ -145,12 +145,14 @@ std::vector<Effect> DeformationRows();
 std::vector<Effect> DenoiseRows();
 std::vector<Effect> DetailRows();
 std::vector<Effect> FaceRows();
+std::vector<Effect> FilmRows();
 std::vector<Effect> FrameworkRows();
 std::vector<Effect> GeometryRows();
 std::vector<Effect> GimpRows();
 std::vector<Effect> InpaintRows();
 std::vector<Effect> LevelsRows();
 std::vector<Effect> NeuralRows();
+std::vector<Effect> StyliserRows();
 std::vector<Effect> ToningRows();
 
 /// A map of all keys with their defaults, as property access shows them.

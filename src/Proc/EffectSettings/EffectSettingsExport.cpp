@@ -13,6 +13,7 @@
 #include "Proc/EffectSettings/BlurMotionSettings.h"
 #include "Proc/EffectSettings/BlurRadialSettings.h"
 #include "Proc/EffectSettings/BlurSettings.h"
+#include "Proc/EffectSettings/CharcoalSettings.h"
 #include "Proc/EffectSettings/ColorBalanceAutoSettings.h"
 #include "Proc/EffectSettings/ColorBalanceSettings.h"
 #include "Proc/EffectSettings/ColorChannelMixerSettings.h"
@@ -58,19 +59,24 @@
 #include "Proc/EffectSettings/GradientSettings.h"
 #include "Proc/EffectSettings/GrayscaleSettings.h"
 #include "Proc/EffectSettings/GuidedFilterSettings.h"
+#include "Proc/EffectSettings/HalfToneSettings.h"
 #include "Proc/EffectSettings/HistogramSettings.h"
 #include "Proc/EffectSettings/ImageInpainterSettings.h"
 #include "Proc/EffectSettings/ImplodeSettings.h"
 #include "Proc/EffectSettings/InpaintSettings.h"
+#include "Proc/EffectSettings/LightLeaksSettings.h"
 #include "Proc/EffectSettings/MattingSettings.h"
 #include "Proc/EffectSettings/NegateVideoSettings.h"
 #include "Proc/EffectSettings/NoiseVideoSettings.h"
+#include "Proc/EffectSettings/OilPaintSettings.h"
 #include "Proc/EffectSettings/PixelateSettings.h"
+#include "Proc/EffectSettings/PopArtSettings.h"
 #include "Proc/EffectSettings/PosterizeSettings.h"
 #include "Proc/EffectSettings/ReduceLocalLumaSettings.h"
 #include "Proc/EffectSettings/RemoveBackgroundSettings.h"
 #include "Proc/EffectSettings/ReplaceChromaSettings.h"
 #include "Proc/EffectSettings/ResizeSettings.h"
+#include "Proc/EffectSettings/RetroArtefactsSettings.h"
 #include "Proc/EffectSettings/RetroColorsSettings.h"
 #include "Proc/EffectSettings/RotateSettings.h"
 #include "Proc/EffectSettings/SegmentationSettings.h"
@@ -78,9 +84,11 @@
 #include "Proc/EffectSettings/SharpenSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/SplitToningSettings.h"
+#include "Proc/EffectSettings/TextureSettings.h"
 #include "Proc/EffectSettings/TintTemperatureSettings.h"
 #include "Proc/EffectSettings/TransposeSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
+#include "Proc/EffectSettings/VignetteFilterSettings.h"
 #include "Proc/EffectSettings/WhiteBalanceSettings.h"
 #include "Proc/Reflection/SpelledName.h"
 
@@ -127,6 +135,7 @@ constexpr std::array CLASSES{
     Entry<BlurMotionSettings>(),
     Entry<BlurRadialSettings>(),
     Entry<BlurSettings>(),
+    Entry<CharcoalSettings>(),
     Entry<ColorBalanceAutoSettings>(),
     Entry<ColorBalanceSettings>(),
     Entry<ColorChannelMixerSettings>(),
@@ -170,27 +179,34 @@ constexpr std::array CLASSES{
     Entry<GradientPosterizeSettings>(),
     Entry<GradientSettings>(),
     Entry<GrayscaleSettings>(),
+    Entry<HalfToneSettings>(),
     Entry<HistogramSettings>(),
     Entry<ImplodeSettings>(),
     Entry<ImageInpainterSettings>(),
     Entry<InpaintSettings>(),
+    Entry<LightLeaksSettings>(),
     Entry<NegateVideoSettings>(),
     Entry<NoiseVideoSettings>(),
+    Entry<OilPaintSettings>(),
     Entry<PixelateSettings>(),
+    Entry<PopArtSettings>(),
     Entry<PosterizeSettings>(),
     Entry<ReduceLocalLumaSettings>(),
     Entry<RemoveBackgroundSettings>(),
     Entry<ReplaceChromaSettings>(),
     Entry<ResizeSettings>(),
+    Entry<RetroArtefactsSettings>(),
     Entry<RetroColorsSettings>(),
     Entry<RotateSettings>(),
     Entry<SepiaSettings>(),
     Entry<SharpenSettings>(),
     Entry<SmartBlurSettings>(),
     Entry<SplitToningSettings>(),
+    Entry<TextureSettings>(),
     Entry<TintTemperatureSettings>(),
     Entry<TransposeSettings>(),
     Entry<VibranceSettings>(),
+    Entry<VignetteFilterSettings>(),
     Entry<WhiteBalanceSettings>(),
     Entry<SegmentationSettings>(),
     Entry<EffectSettingsSimple>(),
