@@ -88,6 +88,9 @@ template <class Class, auto Member> std::int32_t NumberIn(const Ombrel::PhotoCor
 /// The names of the pixel formats, whose fallback is -1.
 std::vector<EnumName> PixFmtNames();
 
+/// The fields of a shape mask, which stands alone and in other records. Within those nobody reads the two numbers.
+std::vector<Field> MaskFields(NumberOf shape = nullptr, NumberOf thresholdMode = nullptr);
+
 /// Any other field, such as a list, with its two values in full stored form.
 Field Other(std::string key, Kind kind, Ombrel::PropertyTree defaultValue, Ombrel::PropertyTree sample);
 
@@ -145,6 +148,7 @@ std::vector<Effect> GeometryRows();
 std::vector<Effect> GimpRows();
 std::vector<Effect> InpaintRows();
 std::vector<Effect> LevelsRows();
+std::vector<Effect> MaskRows();
 std::vector<Effect> NeuralRows();
 std::vector<Effect> ToningRows();
 
