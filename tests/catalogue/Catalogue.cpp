@@ -143,9 +143,9 @@ const std::vector<Effect>& All()
     static const std::vector<Effect> rows = []
     {
         std::vector<Effect> all;
-        for (auto part :
-             {&AdjusterRows, &BlurRows, &ChannelRows, &DeformationRows, &DenoiseRows, &DetailRows, &FaceRows, &FilmRows,
-              &FrameworkRows, &GeometryRows, &GimpRows, &InpaintRows, &LevelsRows, &NeuralRows, &StyliserRows, &ToningRows})
+        for (auto part : {&AdjusterRows, &BlurRows, &ChannelRows, &DeformationRows, &DenoiseRows, &DetailRows, &FaceRows,
+                          &FilmRows, &FrameworkRows, &GeometryRows, &GimpRows, &InpaintRows, &LevelsRows, &MaskRows,
+                          &NeuralRows, &StyliserRows, &ToningRows})
         {
             std::ranges::move(part(), std::back_inserter(all));
         }

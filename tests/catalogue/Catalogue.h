@@ -88,7 +88,8 @@ template <class Class, auto Member> std::int32_t NumberIn(const Ombrel::PhotoCor
 /// The names of the pixel formats, whose fallback is -1.
 std::vector<EnumName> PixFmtNames();
 
-/// The fields of records that stand alone and in other records. Within those nobody reads the number.
+/// The fields of records that stand alone and in other records. Within those nobody reads the numbers.
+std::vector<Field> MaskFields(NumberOf shape = nullptr, NumberOf thresholdMode = nullptr);
 std::vector<Field> NoiseFields(NumberOf method = nullptr);
 std::vector<Field> RadialBlurFields(NumberOf mode = nullptr);
 std::vector<Field> TransposeFields(NumberOf angle = nullptr);
@@ -151,6 +152,7 @@ std::vector<Effect> GeometryRows();
 std::vector<Effect> GimpRows();
 std::vector<Effect> InpaintRows();
 std::vector<Effect> LevelsRows();
+std::vector<Effect> MaskRows();
 std::vector<Effect> NeuralRows();
 std::vector<Effect> StyliserRows();
 std::vector<Effect> ToningRows();

@@ -81,6 +81,7 @@
 #include "Proc/EffectSettings/RotateSettings.h"
 #include "Proc/EffectSettings/SegmentationSettings.h"
 #include "Proc/EffectSettings/SepiaSettings.h"
+#include "Proc/EffectSettings/ShapeMaskSettings.h"
 #include "Proc/EffectSettings/SharpenSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/SplitToningSettings.h"
@@ -199,6 +200,7 @@ constexpr std::array CLASSES{
     Entry<RetroColorsSettings>(),
     Entry<RotateSettings>(),
     Entry<SepiaSettings>(),
+    Entry<ShapeMaskSettings>(),
     Entry<SharpenSettings>(),
     Entry<SmartBlurSettings>(),
     Entry<SplitToningSettings>(),
