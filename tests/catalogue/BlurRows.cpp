@@ -22,7 +22,8 @@ std::vector<Field> RadialBlurFields(NumberOf mode)
         Float64("y", 0.0),
         Float64("strength", 0.0),
         Float64("angle", 0.0),
-        Other("trace", Kind::List, List({}), List({Map({{"x", 3}, {"y", -4}}), Map({{"x", 0}, {"y", 9}})})),
+        // No coordinate is 0, which is left out when a list is stored but not when it is shown.
+        Other("trace", Kind::List, List({}), List({Map({{"x", 3}, {"y", -4}}), Map({{"x", 8}, {"y", 9}})})),
     };
 }
 

@@ -88,6 +88,13 @@ std::vector<Effect> FilmRows()
                 },
             .isRecordEmpty = true,
         },
+        {
+            .className = "VignetteSettings",
+            .classId = "EFFECT_VIGNETTE",
+            .inputType = InputType::One,
+            .place = Place{89},
+            .fields = {Record("alpha", MaskFields(), {{"foreground", 0}, {"background", 255}}), Color("color", "000000ff")},
+        },
     };
 }
 

@@ -83,6 +83,7 @@
 #include "Proc/EffectSettings/SepiaSettings.h"
 #include "Proc/EffectSettings/ShapeMaskSettings.h"
 #include "Proc/EffectSettings/SharpenSettings.h"
+#include "Proc/EffectSettings/SketchSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/SplitToningSettings.h"
 #include "Proc/EffectSettings/TextureSettings.h"
@@ -90,6 +91,7 @@
 #include "Proc/EffectSettings/TransposeSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
 #include "Proc/EffectSettings/VignetteFilterSettings.h"
+#include "Proc/EffectSettings/VignetteSettings.h"
 #include "Proc/EffectSettings/WhiteBalanceSettings.h"
 #include "Proc/Reflection/SpelledName.h"
 
@@ -202,6 +204,7 @@ constexpr std::array CLASSES{
     Entry<SepiaSettings>(),
     Entry<ShapeMaskSettings>(),
     Entry<SharpenSettings>(),
+    Entry<SketchSettings>(),
     Entry<SmartBlurSettings>(),
     Entry<SplitToningSettings>(),
     Entry<TextureSettings>(),
@@ -209,6 +212,7 @@ constexpr std::array CLASSES{
     Entry<TransposeSettings>(),
     Entry<VibranceSettings>(),
     Entry<VignetteFilterSettings>(),
+    Entry<VignetteSettings>(),
     Entry<WhiteBalanceSettings>(),
     Entry<SegmentationSettings>(),
     Entry<EffectSettingsSimple>(),
