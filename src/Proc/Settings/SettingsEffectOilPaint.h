@@ -20,7 +20,7 @@ public:
     bool IsEmpty() const override;
 
     /// The radius that was set times the intensity in 32-bit floating point, cut towards zero. A product that does not fit is
-    /// the nearest limit of the type, and 0 if it is a NaN.
+    /// the nearest limit of the type, and 0 if it is a NaN. A radius beyond 24 bits is rounded even at intensity 1.
     std::int32_t GetRadius() const;
 
     /// Stores `value` as it is.

@@ -27,7 +27,8 @@ public:
     void SetVignetting(bool value) { m_vignetting = value; }
 
     // Each amount is shown as the number that was set times the intensity in 32-bit floating point, cut towards zero. A product
-    // that does not fit is the nearest limit of the type, and 0 if it is a NaN. The setters store `value` as it is.
+    // that does not fit is the nearest limit of the type, and 0 if it is a NaN. An amount beyond 24 bits is rounded even at
+    // intensity 1. The setters store `value` as it is.
     std::uint32_t GetGrain() const;
     void SetGrain(std::uint32_t value) { m_grain = value; }
 
