@@ -8,6 +8,7 @@
 #include "Proc/EffectSettings/BalanceLumaSettings.h"
 #include "Proc/EffectSettings/BiColorToningSettings.h"
 #include "Proc/EffectSettings/BlackWhiteSettings.h"
+#include "Proc/EffectSettings/BlendSettings.h"
 #include "Proc/EffectSettings/BlurAdaptiveSettings.h"
 #include "Proc/EffectSettings/BlurBokehSettings.h"
 #include "Proc/EffectSettings/BlurMotionSettings.h"
@@ -41,6 +42,7 @@
 #include "Proc/EffectSettings/DreamscopeSettings.h"
 #include "Proc/EffectSettings/EdgeDetectSettings.h"
 #include "Proc/EffectSettings/EffectSettingsSimple.h"
+#include "Proc/EffectSettings/EffectsPackageWithBrushSettings.h"
 #include "Proc/EffectSettings/EmbossSettings.h"
 #include "Proc/EffectSettings/EmptySettings.h"
 #include "Proc/EffectSettings/EyeExtendingSettings.h"
@@ -79,6 +81,7 @@
 #include "Proc/EffectSettings/SharpenSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/SplitToningSettings.h"
+#include "Proc/EffectSettings/TiltShiftSettings.h"
 #include "Proc/EffectSettings/TintTemperatureSettings.h"
 #include "Proc/EffectSettings/TransposeSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
@@ -191,12 +194,15 @@ constexpr std::array CLASSES{
     Entry<SmartBlurSettings>(),
     Entry<SplitToningSettings>(),
     Entry<TintTemperatureSettings>(),
+    Entry<TiltShiftSettings>(),
     Entry<TransposeSettings>(),
     Entry<VibranceSettings>(),
     Entry<WhiteBalanceSettings>(),
+    Entry<EffectsPackageWithBrushSettings>(),
     Entry<SegmentationSettings>(),
     Entry<EffectSettingsSimple>(),
     // Not registered: they have an id, and a caller makes them by Create.
+    Entry<BlendSettings>(Registration::None),
     Entry<GuidedFilterSettings>(Registration::None),
     Entry<MattingSettings>(Registration::None),
 };
