@@ -121,6 +121,13 @@ Field Scaled(Field field)
     return field;
 }
 
+Field Redirected(Field field, std::string target, PropertyTree targetValue)
+{
+    field.target = std::move(target);
+    field.targetValue = std::move(targetValue);
+    return field;
+}
+
 Field TakingNumbers(Field field)
 {
     field.takesNumbers = true;

@@ -62,6 +62,11 @@ struct Field
     bool isScaled = false;  // whether it is shown times the effect's intensity, and comes back as set only where that is 1
     bool isAlwaysWritten = false; // whether a nested record stands in the tree even by default, as an empty map
     bool isAppended = false; // whether a read adds to what is there, so that the empty default of a missing key adds nothing
+
+    // Of a key that stores nothing itself: the key that a value given here goes to, and what the sample makes of that. What
+    // was read there before is lost.
+    std::string target = {};
+    Ombrel::PropertyTree targetValue = {};
 };
 
 Field Int32(std::string key, std::int32_t defaultValue);
@@ -108,6 +113,9 @@ Field AlwaysWritten(Field field);
 
 /// The same field, shown times the effect's intensity.
 Field Scaled(Field field);
+
+/// The same field, whose values go to another key: its sample becomes `targetValue` there.
+Field Redirected(Field field, std::string target, Ombrel::PropertyTree targetValue);
 
 /// The same enumeration, which also reads an integer as its number.
 Field TakingNumbers(Field field);

@@ -8,6 +8,7 @@
 #include "Proc/EffectSettings/BalanceLumaSettings.h"
 #include "Proc/EffectSettings/BiColorToningSettings.h"
 #include "Proc/EffectSettings/BlackWhiteSettings.h"
+#include "Proc/EffectSettings/BlendSettings.h"
 #include "Proc/EffectSettings/BlurAdaptiveSettings.h"
 #include "Proc/EffectSettings/BlurBokehSettings.h"
 #include "Proc/EffectSettings/BlurMotionSettings.h"
@@ -42,6 +43,7 @@
 #include "Proc/EffectSettings/DreamscopeSettings.h"
 #include "Proc/EffectSettings/EdgeDetectSettings.h"
 #include "Proc/EffectSettings/EffectSettingsSimple.h"
+#include "Proc/EffectSettings/EffectsPackageWithBrushSettings.h"
 #include "Proc/EffectSettings/EmbossSettings.h"
 #include "Proc/EffectSettings/EmptySettings.h"
 #include "Proc/EffectSettings/EyeExtendingSettings.h"
@@ -87,6 +89,7 @@
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/SplitToningSettings.h"
 #include "Proc/EffectSettings/TextureSettings.h"
+#include "Proc/EffectSettings/TiltShiftSettings.h"
 #include "Proc/EffectSettings/TintTemperatureSettings.h"
 #include "Proc/EffectSettings/TransposeSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
@@ -209,14 +212,17 @@ constexpr std::array CLASSES{
     Entry<SplitToningSettings>(),
     Entry<TextureSettings>(),
     Entry<TintTemperatureSettings>(),
+    Entry<TiltShiftSettings>(),
     Entry<TransposeSettings>(),
     Entry<VibranceSettings>(),
     Entry<VignetteFilterSettings>(),
     Entry<VignetteSettings>(),
     Entry<WhiteBalanceSettings>(),
+    Entry<EffectsPackageWithBrushSettings>(),
     Entry<SegmentationSettings>(),
     Entry<EffectSettingsSimple>(),
     // Not registered: they have an id, and a caller makes them by Create.
+    Entry<BlendSettings>(Registration::None),
     Entry<GuidedFilterSettings>(Registration::None),
     Entry<MattingSettings>(Registration::None),
 };
