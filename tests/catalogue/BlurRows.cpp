@@ -14,6 +14,19 @@ using Support::Map;
 namespace Catalogue
 {
 
+std::vector<Field> RadialBlurFields(NumberOf mode)
+{
+    return {
+        Enum("mode", "Radial", {{"Radial", 0}, {"Linear", 1}, {"Custom", 2}}, 0, std::move(mode)),
+        Float64("x", 0.0),
+        Float64("y", 0.0),
+        Float64("strength", 0.0),
+        Float64("angle", 0.0),
+        // No coordinate is 0, which is left out when a list is stored but not when it is shown.
+        Other("trace", Kind::List, List({}), List({Map({{"x", 3}, {"y", -4}}), Map({{"x", 8}, {"y", 9}})})),
+    };
+}
+
 std::vector<Effect> BlurRows()
 {
     return {
@@ -78,16 +91,7 @@ std::vector<Effect> BlurRows()
             .classId = "EFFECT_BLUR_RADIAL",
             .inputType = InputType::One,
             .place = Place{12},
-            .fields =
-                {
-                    Enum("mode", "Radial", {{"Radial", 0}, {"Linear", 1}, {"Custom", 2}}, 0,
-                         &NumberIn<BlurRadialSettings, &SettingsEffectBlurRadial::m_mode>),
-                    Float64("x", 0.0),
-                    Float64("y", 0.0),
-                    Float64("strength", 0.0),
-                    Float64("angle", 0.0),
-                    Other("trace", Kind::List, List({}), List({Map({{"x", 3}, {"y", -4}}), Map({{"x", 0}, {"y", 9}})})),
-                },
+            .fields = RadialBlurFields(&NumberIn<BlurRadialSettings, &SettingsEffectBlurRadial::m_mode>),
             .isRecordEmpty = true,
         },
     };

@@ -121,6 +121,13 @@ Field Scaled(Field field)
     return field;
 }
 
+Field Redirected(Field field, std::string target, PropertyTree targetValue)
+{
+    field.target = std::move(target);
+    field.targetValue = std::move(targetValue);
+    return field;
+}
+
 Field TakingNumbers(Field field)
 {
     field.takesNumbers = true;
@@ -144,7 +151,8 @@ const std::vector<Effect>& All()
     {
         std::vector<Effect> all;
         for (auto part : {&AdjusterRows, &BlurRows, &ChannelRows, &DeformationRows, &DenoiseRows, &DetailRows, &FaceRows,
-                          &FrameworkRows, &GeometryRows, &GimpRows, &InpaintRows, &LevelsRows, &NeuralRows, &ToningRows})
+                          &FilmRows, &FrameworkRows, &GeometryRows, &GimpRows, &InpaintRows, &LevelsRows, &MaskRows,
+                          &NeuralRows, &StyliserRows, &ToningRows})
         {
             std::ranges::move(part(), std::back_inserter(all));
         }

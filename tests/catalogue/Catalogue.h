@@ -62,6 +62,11 @@ struct Field
     bool isScaled = false;  // whether it is shown times the effect's intensity, and comes back as set only where that is 1
     bool isAlwaysWritten = false; // whether a nested record stands in the tree even by default, as an empty map
     bool isAppended = false; // whether a read adds to what is there, so that the empty default of a missing key adds nothing
+
+    // Of a key that stores nothing itself: the key that a value given here goes to, and what the sample makes of that. What
+    // was read there before is lost.
+    std::string target = {};
+    Ombrel::PropertyTree targetValue = {};
 };
 
 Field Int32(std::string key, std::int32_t defaultValue);
@@ -88,6 +93,12 @@ template <class Class, auto Member> std::int32_t NumberIn(const Ombrel::PhotoCor
 /// The names of the pixel formats, whose fallback is -1.
 std::vector<EnumName> PixFmtNames();
 
+/// The fields of records that stand alone and in other records. Within those nobody reads the numbers.
+std::vector<Field> MaskFields(NumberOf shape = nullptr, NumberOf thresholdMode = nullptr);
+std::vector<Field> NoiseFields(NumberOf method = nullptr);
+std::vector<Field> RadialBlurFields(NumberOf mode = nullptr);
+std::vector<Field> TransposeFields(NumberOf angle = nullptr);
+
 /// Any other field, such as a list, with its two values in full stored form.
 Field Other(std::string key, Kind kind, Ombrel::PropertyTree defaultValue, Ombrel::PropertyTree sample);
 
@@ -102,6 +113,9 @@ Field AlwaysWritten(Field field);
 
 /// The same field, shown times the effect's intensity.
 Field Scaled(Field field);
+
+/// The same field, whose values go to another key: its sample becomes `targetValue` there.
+Field Redirected(Field field, std::string target, Ombrel::PropertyTree targetValue);
 
 /// The same enumeration, which also reads an integer as its number.
 Field TakingNumbers(Field field);
@@ -141,12 +155,15 @@ std::vector<Effect> DeformationRows();
 std::vector<Effect> DenoiseRows();
 std::vector<Effect> DetailRows();
 std::vector<Effect> FaceRows();
+std::vector<Effect> FilmRows();
 std::vector<Effect> FrameworkRows();
 std::vector<Effect> GeometryRows();
 std::vector<Effect> GimpRows();
 std::vector<Effect> InpaintRows();
 std::vector<Effect> LevelsRows();
+std::vector<Effect> MaskRows();
 std::vector<Effect> NeuralRows();
+std::vector<Effect> StyliserRows();
 std::vector<Effect> ToningRows();
 
 /// A map of all keys with their defaults, as property access shows them.

@@ -8,6 +8,22 @@ using Ombrel::Proc::SettingsEffectNoiseVideo;
 namespace Catalogue
 {
 
+std::vector<Field> NoiseFields(NumberOf method)
+{
+    return {
+        Enum("method", "Gaussian",
+             {{"Gaussian", 0},
+              {"MultiplicativeGaussianNoise", 1},
+              {"Uniform", 2},
+              {"Impulse", 3},
+              {"Laplacian", 4},
+              {"Poisson", 5}},
+             0, std::move(method)),
+        Int32("seed", 0),
+        Int32("strength", 0),
+    };
+}
+
 std::vector<Effect> DenoiseRows()
 {
     return {
@@ -53,19 +69,7 @@ std::vector<Effect> DenoiseRows()
             .classId = "EFFECT_NOISE_VIDEO",
             .inputType = InputType::One,
             .place = Place{65},
-            .fields =
-                {
-                    Enum("method", "Gaussian",
-                         {{"Gaussian", 0},
-                          {"MultiplicativeGaussianNoise", 1},
-                          {"Uniform", 2},
-                          {"Impulse", 3},
-                          {"Laplacian", 4},
-                          {"Poisson", 5}},
-                         0, &NumberIn<NoiseVideoSettings, &SettingsEffectNoiseVideo::GetMethod>),
-                    Int32("seed", 0),
-                    Int32("strength", 0),
-                },
+            .fields = NoiseFields(&NumberIn<NoiseVideoSettings, &SettingsEffectNoiseVideo::GetMethod>),
             .isRecordEmpty = true,
         },
     };

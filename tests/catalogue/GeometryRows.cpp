@@ -32,6 +32,12 @@ std::int32_t Unit(const IEffectSettings& effect)
 
 } // namespace
 
+std::vector<Field> TransposeFields(NumberOf angle)
+{
+    return {TakingNumbers(Enum("angle", "NoRotation", {{"NoRotation", 0}, {"Angle_90", 1}, {"Angle_180", 2}, {"Angle_270", 3}},
+                               0, std::move(angle)))};
+}
+
 std::vector<Effect> GeometryRows()
 {
     return {
@@ -97,8 +103,7 @@ std::vector<Effect> GeometryRows()
             .classId = "EFFECT_TRANSPOSE",
             .inputType = InputType::One,
             .place = Place{86},
-            .fields = {TakingNumbers(Enum(
-                "angle", "NoRotation", {{"NoRotation", 0}, {"Angle_90", 1}, {"Angle_180", 2}, {"Angle_270", 3}}, 0, &Angle))},
+            .fields = TransposeFields(&Angle),
             .isRecordEmpty = true,
             .isAdditive = true,
         },

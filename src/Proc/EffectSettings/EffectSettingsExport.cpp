@@ -8,11 +8,13 @@
 #include "Proc/EffectSettings/BalanceLumaSettings.h"
 #include "Proc/EffectSettings/BiColorToningSettings.h"
 #include "Proc/EffectSettings/BlackWhiteSettings.h"
+#include "Proc/EffectSettings/BlendSettings.h"
 #include "Proc/EffectSettings/BlurAdaptiveSettings.h"
 #include "Proc/EffectSettings/BlurBokehSettings.h"
 #include "Proc/EffectSettings/BlurMotionSettings.h"
 #include "Proc/EffectSettings/BlurRadialSettings.h"
 #include "Proc/EffectSettings/BlurSettings.h"
+#include "Proc/EffectSettings/CharcoalSettings.h"
 #include "Proc/EffectSettings/ColorBalanceAutoSettings.h"
 #include "Proc/EffectSettings/ColorBalanceSettings.h"
 #include "Proc/EffectSettings/ColorChannelMixerSettings.h"
@@ -41,6 +43,7 @@
 #include "Proc/EffectSettings/DreamscopeSettings.h"
 #include "Proc/EffectSettings/EdgeDetectSettings.h"
 #include "Proc/EffectSettings/EffectSettingsSimple.h"
+#include "Proc/EffectSettings/EffectsPackageWithBrushSettings.h"
 #include "Proc/EffectSettings/EmbossSettings.h"
 #include "Proc/EffectSettings/EmptySettings.h"
 #include "Proc/EffectSettings/EyeExtendingSettings.h"
@@ -58,30 +61,41 @@
 #include "Proc/EffectSettings/GradientSettings.h"
 #include "Proc/EffectSettings/GrayscaleSettings.h"
 #include "Proc/EffectSettings/GuidedFilterSettings.h"
+#include "Proc/EffectSettings/HalfToneSettings.h"
 #include "Proc/EffectSettings/HistogramSettings.h"
 #include "Proc/EffectSettings/ImageInpainterSettings.h"
 #include "Proc/EffectSettings/ImplodeSettings.h"
 #include "Proc/EffectSettings/InpaintSettings.h"
+#include "Proc/EffectSettings/LightLeaksSettings.h"
 #include "Proc/EffectSettings/MattingSettings.h"
 #include "Proc/EffectSettings/NegateVideoSettings.h"
 #include "Proc/EffectSettings/NoiseVideoSettings.h"
+#include "Proc/EffectSettings/OilPaintSettings.h"
 #include "Proc/EffectSettings/PixelateSettings.h"
+#include "Proc/EffectSettings/PopArtSettings.h"
 #include "Proc/EffectSettings/PosterizeSettings.h"
 #include "Proc/EffectSettings/ReduceLocalLumaSettings.h"
 #include "Proc/EffectSettings/RemoveBackgroundSettings.h"
 #include "Proc/EffectSettings/ReplaceChromaSettings.h"
 #include "Proc/EffectSettings/ResizeSettings.h"
+#include "Proc/EffectSettings/RetroArtefactsSettings.h"
 #include "Proc/EffectSettings/RetroColorsSettings.h"
 #include "Proc/EffectSettings/RotateSettings.h"
 #include "Proc/EffectSettings/SegmentationSettings.h"
 #include "Proc/EffectSettings/SepiaSettings.h"
+#include "Proc/EffectSettings/ShapeMaskSettings.h"
 #include "Proc/EffectSettings/SharpenSettings.h"
+#include "Proc/EffectSettings/SketchSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/SplitToningSettings.h"
+#include "Proc/EffectSettings/TextureSettings.h"
 #include "Proc/EffectSettings/TileSettings.h"
+#include "Proc/EffectSettings/TiltShiftSettings.h"
 #include "Proc/EffectSettings/TintTemperatureSettings.h"
 #include "Proc/EffectSettings/TransposeSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
+#include "Proc/EffectSettings/VignetteFilterSettings.h"
+#include "Proc/EffectSettings/VignetteSettings.h"
 #include "Proc/EffectSettings/WhiteBalanceSettings.h"
 #include "Proc/Reflection/SpelledName.h"
 
@@ -146,6 +160,7 @@ constexpr std::array CLASSES{
     Entry<BlurMotionSettings>(),
     Entry<BlurRadialSettings>(),
     Entry<BlurSettings>(),
+    Entry<CharcoalSettings>(),
     Entry<ColorBalanceAutoSettings>(),
     Entry<ColorBalanceSettings>(),
     Entry<ColorChannelMixerSettings>(),
@@ -189,32 +204,45 @@ constexpr std::array CLASSES{
     Entry<GradientPosterizeSettings>(),
     Entry<GradientSettings>(),
     Entry<GrayscaleSettings>(),
+    Entry<HalfToneSettings>(),
     Entry<HistogramSettings>(),
     Entry<ImplodeSettings>(),
     Entry<ImageInpainterSettings>(),
     Entry<InpaintSettings>(),
+    Entry<LightLeaksSettings>(),
     Entry<NegateVideoSettings>(),
     Entry<NoiseVideoSettings>(),
+    Entry<OilPaintSettings>(),
     Entry<PixelateSettings>(),
+    Entry<PopArtSettings>(),
     Entry<PosterizeSettings>(),
     Entry<ReduceLocalLumaSettings>(),
     Entry<RemoveBackgroundSettings>(),
     Entry<ReplaceChromaSettings>(),
     Entry<ResizeSettings>(),
+    Entry<RetroArtefactsSettings>(),
     Entry<RetroColorsSettings>(),
     Entry<RotateSettings>(),
     Entry<SepiaSettings>(),
+    Entry<ShapeMaskSettings>(),
     Entry<SharpenSettings>(),
+    Entry<SketchSettings>(),
     Entry<SmartBlurSettings>(),
     Entry<SplitToningSettings>(),
+    Entry<TextureSettings>(),
     Entry<TintTemperatureSettings>(),
+    Entry<TiltShiftSettings>(),
     Entry<TransposeSettings>(),
     Entry<VibranceSettings>(),
+    Entry<VignetteFilterSettings>(),
+    Entry<VignetteSettings>(),
     Entry<WhiteBalanceSettings>(),
+    Entry<EffectsPackageWithBrushSettings>(),
     Entry<SegmentationSettings>(),
     Entry<EffectSettingsSimple>(),
     Entry<TileSettings>(Registration::Factory),
     // Not registered: they have an id, and a caller makes them by Create.
+    Entry<BlendSettings>(Registration::None),
     Entry<GuidedFilterSettings>(Registration::None),
     Entry<MattingSettings>(Registration::None),
 };

@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_CHARCOAL_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_CHARCOAL_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectCharcoal.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API CharcoalSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectCharcoal, CharcoalSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~CharcoalSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectCharcoal, CharcoalSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,23 @@
+#include "Proc/EffectSettings/EffectsPackageWithBrushSettings.h"
+
+#include "Proc/EffectSettings/EffectSettingsBody.h"
+
+namespace Ombrel::PhotoCore
+{
+
+template class EffectSettingsImpl<SettingsEffectMaskBlender, EffectsPackageWithBrushSettings>;
+
+EffectsPackageWithBrushSettings::EffectsPackageWithBrushSettings() = default;
+EffectsPackageWithBrushSettings::EffectsPackageWithBrushSettings(const EffectsPackageWithBrushSettings&) = default;
+EffectsPackageWithBrushSettings::EffectsPackageWithBrushSettings(EffectsPackageWithBrushSettings&&) noexcept = default;
+EffectsPackageWithBrushSettings& EffectsPackageWithBrushSettings::operator=(const EffectsPackageWithBrushSettings&) = default;
+EffectsPackageWithBrushSettings&
+EffectsPackageWithBrushSettings::operator=(EffectsPackageWithBrushSettings&&) noexcept = default;
+EffectsPackageWithBrushSettings::~EffectsPackageWithBrushSettings() = default;
+
+bool EffectsPackageWithBrushSettings::IsEmpty() const
+{
+    return settings.IsEmpty();
+}
+
+} // namespace Ombrel::PhotoCore

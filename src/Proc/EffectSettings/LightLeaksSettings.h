@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_LIGHT_LEAKS_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_LIGHT_LEAKS_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectLightLeaks.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API LightLeaksSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectLightLeaks, LightLeaksSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~LightLeaksSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectLightLeaks, LightLeaksSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_POP_ART_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_POP_ART_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectPopArt.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API PopArtSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectPopArt, PopArtSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~PopArtSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectPopArt, PopArtSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_SKETCH_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_SKETCH_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectSketch.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API SketchSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectSketch, SketchSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~SketchSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectSketch, SketchSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_TEXTURE_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_TEXTURE_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectTexture.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API TextureSettings : public EffectSettingsOneInputReflection<Proc::SettingsEffectTexture, TextureSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~TextureSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectTexture, TextureSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

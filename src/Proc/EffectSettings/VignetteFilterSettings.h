@@ -1,0 +1,22 @@
+#ifndef OMBREL_PROC_EFFECT_SETTINGS_VIGNETTE_FILTER_SETTINGS_H
+#define OMBREL_PROC_EFFECT_SETTINGS_VIGNETTE_FILTER_SETTINGS_H
+
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Settings/SettingsEffectVignetteFilter.h"
+
+namespace Ombrel::PhotoCore
+{
+
+class OMBREL_API VignetteFilterSettings
+    : public EffectSettingsOneInputReflection<Proc::SettingsEffectVignetteFilter, VignetteFilterSettings>
+{
+public:
+    using EffectSettingsReflection::EffectSettingsReflection;
+    ~VignetteFilterSettings() override;
+};
+
+extern template class EffectSettingsImpl<Proc::SettingsEffectVignetteFilter, VignetteFilterSettings>;
+
+} // namespace Ombrel::PhotoCore
+
+#endif

@@ -1,0 +1,51 @@
+#include "Proc/Settings/SettingsEffectRetroArtefacts.h"
+
+#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/ScaledInteger.h"
+
+namespace Ombrel::Proc
+{
+
+const std::string SettingsEffectRetroArtefacts::CLASS_ID{CLASS_NAME};
+
+template <> struct Fields<SettingsEffectRetroArtefacts>
+{
+    using R = SettingsEffectRetroArtefacts;
+    using List = FieldList<AccessorDescriptor<"shake", &R::SetShake, &R::GetShake>,
+                           AccessorDescriptor<"vignetting", &R::SetVignetting, &R::GetVignetting>,
+                           AccessorDescriptor<"grain", &R::SetGrain, &R::GetGrain>,
+                           AccessorDescriptor<"scratches", &R::SetScratches, &R::GetScratches>,
+                           AccessorDescriptor<"rollerTrack", &R::SetRollerTrack, &R::GetRollerTrack>,
+                           AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>;
+};
+
+template struct Reflected<SettingsEffectRetroArtefacts>;
+
+bool SettingsEffectRetroArtefacts::IsEmpty() const
+{
+    return *this == Reflected<SettingsEffectRetroArtefacts>::Default();
+}
+
+std::uint32_t SettingsEffectRetroArtefacts::GetGrain() const
+{
+    return ScaledInteger(m_grain, m_intensity);
+}
+
+std::uint32_t SettingsEffectRetroArtefacts::GetScratches() const
+{
+    return ScaledInteger(m_scratches, m_intensity);
+}
+
+std::uint32_t SettingsEffectRetroArtefacts::GetRollerTrack() const
+{
+    return ScaledInteger(m_rollerTrack, m_intensity);
+}
+
+// The field list knows the products alone.
+bool SettingsEffectRetroArtefacts::operator==(const SettingsEffectRetroArtefacts& other) const
+{
+    return m_shake == other.m_shake && m_vignetting == other.m_vignetting && m_grain == other.m_grain &&
+           m_scratches == other.m_scratches && m_rollerTrack == other.m_rollerTrack && m_intensity == other.m_intensity;
+}
+
+} // namespace Ombrel::Proc

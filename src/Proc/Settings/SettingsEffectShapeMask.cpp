@@ -1,0 +1,64 @@
+#include "Proc/Settings/SettingsEffectShapeMask.h"
+
+#include "Proc/Reflection/Folds.h"
+
+namespace Ombrel::Proc
+{
+
+const std::string SettingsEffectShapeMask::CLASS_ID{CLASS_NAME};
+
+template <> struct EnumNames<SettingsEffectShapeMask::Shape>
+{
+    using E = SettingsEffectShapeMask::Shape;
+
+    static constexpr EnumNameRow ROWS[] = {
+        {"Circle", E::Circle},
+        {"Ellipse", E::Ellipse},
+        {"Square", E::Square},
+        {"Rectangle", E::Rectangle},
+    };
+    static constexpr EnumNameTable TABLE{ROWS};
+};
+
+template <> struct EnumNames<SettingsEffectShapeMask::ThresholdMode>
+{
+    using E = SettingsEffectShapeMask::ThresholdMode;
+
+    static constexpr EnumNameRow ROWS[] = {
+        {"None", E::None},
+        {"Foreground", E::Foreground},
+        {"Background", E::Background},
+    };
+    static constexpr EnumNameTable TABLE{ROWS};
+};
+
+template <> struct Fields<SettingsEffectShapeMask>
+{
+    using R = SettingsEffectShapeMask;
+    using List = FieldList<FieldDescriptor<&R::m_shape>, FieldDescriptor<&R::m_thresholdMode>, FieldDescriptor<&R::m_x>,
+                           FieldDescriptor<&R::m_y>, FieldDescriptor<&R::m_width>, FieldDescriptor<&R::m_height>,
+                           FieldDescriptor<&R::m_threshold>, FieldDescriptor<&R::m_rotationAngle>,
+                           FieldDescriptor<&R::m_foreground>, FieldDescriptor<&R::m_background>,
+                           FieldDescriptor<&R::m_foregroundTilt>, FieldDescriptor<&R::m_backgroundTilt>>;
+};
+
+template struct Reflected<SettingsEffectShapeMask>;
+
+bool SettingsEffectShapeMask::IsEmpty() const
+{
+    return *this == Reflected<SettingsEffectShapeMask>::Default();
+}
+
+bool SettingsEffectShapeMask::IsForegroundOnly() const
+{
+    const bool hasShape = m_width != 0.0 || m_height != 0.0;
+    const bool hasTilt = m_foregroundTilt != 0.0 || m_backgroundTilt != 0.0;
+    return !hasTilt && m_background == 0 && (m_foreground == 0 || !hasShape);
+}
+
+bool SettingsEffectShapeMask::operator==(const SettingsEffectShapeMask& other) const
+{
+    return Reflected<SettingsEffectShapeMask>::Equal(*this, other);
+}
+
+} // namespace Ombrel::Proc
