@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <memory>
 #include <stdexcept>
+#include <utility>
 
 namespace
 {
@@ -146,6 +147,14 @@ TEST(BrushPackageTree, AnUnknownEffectEndsTheRead)
     EXPECT_EQ(StoredForm(effect), Map({{"foregroundEffects", List({VibranceForm(3)})}, {"blendingStrength", 7}}));
     EXPECT_THROW(effect.Deserialize(Map({{"backgroundEffects", List({Map({})})}})), std::out_of_range);
     EXPECT_THROW(effect.Deserialize(Map({{"backgroundEffects", List({5})}})), std::invalid_argument);
+}
+
+TEST(BrushPackageTree, TheForegroundIsReadFirst)
+{
+    EffectsPackageWithBrushSettings effect;
+    EXPECT_THROW(effect.Deserialize(Map({{"backgroundEffects", List({5})}, {"foregroundEffects", List({VibranceForm(3)})}})),
+                 std::invalid_argument);
+    EXPECT_EQ(StoredForm(effect), Map({{"foregroundEffects", List({VibranceForm(3)})}}));
 }
 
 TEST(BrushPackageTree, APackageHoldsPackages)
