@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <ostream>
 
 using Ombrel::PropertyTree;
 
@@ -97,6 +98,13 @@ Field Other(std::string key, Kind kind, PropertyTree defaultValue, PropertyTree 
     return Plain(std::move(key), kind, std::move(defaultValue), std::move(sample));
 }
 
+Field OfNames(Field field, std::vector<EnumName> names, std::int32_t fallback)
+{
+    field.names = std::move(names);
+    field.fallback = fallback;
+    return field;
+}
+
 Field NotCompared(Field field)
 {
     field.isCompared = false;
@@ -159,6 +167,11 @@ const std::vector<Effect>& All()
         return all;
     }();
     return rows;
+}
+
+void PrintTo(const Effect& effect, std::ostream* out)
+{
+    *out << effect.className;
 }
 
 } // namespace Catalogue

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -53,7 +54,7 @@ struct Field
     Ombrel::PropertyTree defaultValue; // the full stored form, no nested key left out
     Ombrel::PropertyTree sample;       // another value, stored as given
     std::vector<Field> nested;         // of a record: its fields, each with the nested record's own default
-    std::vector<EnumName> names;       // of an enumeration
+    std::vector<EnumName> names;       // of an enumeration, or of the elements of a list or set
     std::int32_t fallback = 0;
     NumberOf number;
     bool takesNumbers = false; // of an enumeration: whether an integer is read as its number
@@ -102,6 +103,9 @@ std::vector<Field> TransposeFields(NumberOf angle = nullptr);
 /// Any other field, such as a list, with its two values in full stored form.
 Field Other(std::string key, Kind kind, Ombrel::PropertyTree defaultValue, Ombrel::PropertyTree sample);
 
+/// The same list or set, whose elements are of an enumeration.
+Field OfNames(Field field, std::vector<EnumName> names, std::int32_t fallback);
+
 /// The same field, left out of the effect's comparison.
 Field NotCompared(Field field);
 
@@ -143,6 +147,9 @@ struct Effect
     bool equalsItsCopy = true;
     bool isClonedWhole = true; // with implementation name and helper settings
 };
+
+/// Names the row in a failed test.
+void PrintTo(const Effect& effect, std::ostream* out);
 
 /// All rows, in no particular order.
 const std::vector<Effect>& All();

@@ -134,7 +134,8 @@ std::vector<Effect> ChannelRows()
                     Bool("hasAlpha", false),
                     Bool("multiplyAlpha", false),
                     Bool("forceDropAlpha", false),
-                    Appended(Other("requiredFormats", Kind::List, List({}), List({"RGB24", "BGRA"}))),
+                    Appended(
+                        OfNames(Other("requiredFormats", Kind::List, List({}), List({"RGB24", "BGRA"})), PixFmtNames(), -1)),
                 },
             .isRecordEmpty = true,
         },

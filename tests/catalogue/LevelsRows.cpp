@@ -60,7 +60,8 @@ std::vector<Effect> LevelsRows()
             .classId = "EFFECT_NEGATE_VIDEO",
             .inputType = InputType::One,
             .place = Place{64},
-            .fields = {Other("mode", Kind::Set, List({}), List({"Red", "Alpha"}))},
+            .fields = {OfNames(Other("mode", Kind::Set, List({}), List({"Red", "Alpha"})),
+                               {{"Red", 1}, {"Green", 2}, {"Blue", 4}, {"Alpha", 8}}, 0)},
             .isRecordEmpty = true,
         },
         {

@@ -101,6 +101,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <map>
 #include <string>
 #include <utility>
@@ -257,6 +258,17 @@ static_assert(
         return std::ranges::adjacent_find(ids) == ids.end();
     }(),
     "two settings classes have the same class id");
+
+consteval std::ptrdiff_t CountOf(Registration registration)
+{
+    return std::ranges::count(CLASSES, registration, &EffectClass::registration);
+}
+
+// The start-up list first and whole: a class that is added here without a thought for it would change what is registered.
+static_assert(std::ranges::is_sorted(CLASSES, {}, &EffectClass::registration));
+static_assert(CountOf(Registration::StartUpList) == 93);
+static_assert(CountOf(Registration::Factory) == 1);
+static_assert(CountOf(Registration::None) == 3);
 
 using Registry = std::map<std::string, IEffectSettings::Factory>;
 
