@@ -135,7 +135,7 @@ std::shared_ptr<IEffectSettings> ChangeOneValue(IEffectSettings::List& effects)
     throw std::runtime_error(std::string("no ") + CHANGED_EFFECT + " in the list");
 }
 
-void Show(const std::filesystem::path& input, const std::filesystem::path& outputFolder)
+void ShowWork(const std::filesystem::path& input, const std::filesystem::path& outputFolder)
 {
     const std::string text = ReadFile(input);
     IEffectSettings::List effects = EffectsFromText(text);
@@ -161,22 +161,73 @@ void Show(const std::filesystem::path& input, const std::filesystem::path& outpu
               << " us to write\n";
 }
 
+// One effect of every class that the registry knows, and some in packages in one another.
+void ShowEveryEffect(const std::filesystem::path& input)
+{
+    const std::string text = ReadFile(input);
+    const IEffectSettings::List effects = EffectsFromText(text);
+    IEffectSettings::List clones;
+    std::size_t equalCount = 0;
+    for (const auto& effect : effects)
+    {
+        clones.push_back(effect->Clone());
+        equalCount += *clones.back() == *effect ? 1 : 0;
+    }
+    Require(equalCount == effects.size() - 1, "more than one effect differs from its clone");
+    Require(TextFromEffects(clones) == text, "the list came back as another text");
+    std::cout << input.string() << ": " << effects.size() << " effects, one of each registered class\n"
+              << "  made by class id and cloned: " << equalCount
+              << " equal their clones; effectSettingsSimple equals nothing, itself included\n"
+              << "  written back from the clones as it was: the same " << text.size() << " bytes\n";
+}
+
+// Effects whose getters compute, so that their values change on the way. Stored trees rely on it: it stays as it is.
+void ShowChangingEffects(const std::filesystem::path& input)
+{
+    const std::map<std::string, const char*> reasons{
+        {"EFFECT_OIL_PAINT", "the getter of radius gives what was set times intensity"},
+        {"EFFECT_RETRO_ARTEFACTS", "the getters of the three amounts give what was set times intensity"},
+        {"EFFECT_FISH_EYE", "deviation is intensity times a factor, and is read before intensity, while that is still 1"},
+    };
+    const PropertyTree before = Ombrel::ReadJson(ReadFile(input));
+    const PropertyTree after = Ombrel::ReadJson(TextFromEffects(EffectsFromText(ReadFile(input))));
+    std::cout << input.string() << ": " << before.getList().size() << " effects that change on the way\n";
+    for (std::size_t i = 0; i < before.getList().size(); ++i)
+    {
+        const auto& stored = before.getList()[i].getMap();
+        const auto& written = after.getList()[i].getMap();
+        const std::string& classId = stored.at("name").getScalar().toString();
+        std::cout << "  " << classId << ": ";
+        for (const auto& [key, value] : stored)
+        {
+            if (written.at(key) != value)
+            {
+                std::cout << key << " " << Ombrel::WriteJson(value) << " -> " << Ombrel::WriteJson(written.at(key)) << "; ";
+            }
+        }
+        std::cout << reasons.at(classId) << "\n";
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 try
 {
-    if (argc < 3)
+    if (argc != 3)
     {
-        std::cerr << "usage: ombrel-demo OUTPUT_FOLDER LIST.json...\n";
+        std::cerr << "usage: ombrel-demo EXAMPLES_FOLDER OUTPUT_FOLDER\n";
         return EXIT_FAILURE;
     }
-    std::filesystem::create_directories(argv[1]);
+    const std::filesystem::path examples(argv[1]);
+    std::filesystem::create_directories(argv[2]);
     std::cout << std::fixed << std::setprecision(1);
-    for (int i = 2; i < argc; ++i)
+    for (const char* list : {"portrait.json", "landscape.json", "batch.json"})
     {
-        Show(argv[i], argv[1]);
+        ShowWork(examples / list, argv[2]);
     }
+    ShowEveryEffect(examples / "every-effect.json");
+    ShowChangingEffects(examples / "changing.json");
     return EXIT_SUCCESS;
 }
 catch (const std::exception& error)

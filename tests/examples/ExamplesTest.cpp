@@ -5,19 +5,23 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <memory>
 #include <string>
+#include <vector>
 
-// Every registered class has a stored effect beside the code, which comes back as it stands.
+// The stored effects beside the code come back as they stand, and where they do not, as is told of them.
 namespace
 {
 
 using namespace Ombrel::PhotoCore;
 using Ombrel::PropertyTree;
 
-const std::filesystem::path EFFECTS = std::filesystem::path(OMBREL_EXAMPLES) / "effects";
+const std::filesystem::path EXAMPLES = OMBREL_EXAMPLES;
+const std::filesystem::path EFFECTS = EXAMPLES / "effects";
 
 std::string TextOf(const std::filesystem::path& path)
 {
@@ -53,6 +57,76 @@ TEST(Examples, EveryRegisteredClassHasOneThatComesBack)
     }
     const auto files = std::distance(std::filesystem::directory_iterator(EFFECTS), {});
     EXPECT_EQ(static_cast<std::size_t>(files), count) << "there are files of no registered class";
+}
+
+std::vector<std::string> SortedClassIds(const PropertyTree& list)
+{
+    std::vector<std::string> ids;
+    for (const PropertyTree& element : list.getList())
+    {
+        ids.push_back(element["name"].getScalar().toString());
+    }
+    std::ranges::sort(ids);
+    return ids;
+}
+
+// What comes of a stored list that is read and written again.
+PropertyTree WrittenBack(const PropertyTree& list)
+{
+    PropertyTree written;
+    written.convertToList();
+    for (const PropertyTree& element : list.getList())
+    {
+        std::shared_ptr<IEffectSettings> effect;
+        EffectSettings::DeserializePtr(element, effect);
+        written.append({});
+        EffectSettings::SerializePtr(written.getList().back(), effect);
+    }
+    return written;
+}
+
+TEST(Examples, TheListOfEveryEffectHoldsEachRegisteredClassOnceAndComesBack)
+{
+    std::vector<std::string> registered;
+    for (const EffectClass& effectClass : EffectClasses())
+    {
+        if (effectClass.registration != Registration::None)
+        {
+            registered.emplace_back(effectClass.classId);
+        }
+    }
+    std::ranges::sort(registered);
+
+    const std::string text = TextOf(EXAMPLES / "every-effect.json");
+    const PropertyTree list = Ombrel::ReadJson(text);
+    EXPECT_EQ(SortedClassIds(list), registered);
+    for (const PropertyTree& element : list.getList())
+    {
+        EXPECT_GT(element.getMap().size(), 1u) << element["name"].getScalar().toString() << " is as by default";
+    }
+    EXPECT_EQ(Ombrel::WriteJson(WrittenBack(list), {.indent = 2}) + "\n", text);
+}
+
+TEST(Examples, TheListOfEveryEffectHasPackagesInPackages)
+{
+    const PropertyTree list = Ombrel::ReadJson(TextOf(EXAMPLES / "every-effect.json"));
+    const auto tile = std::ranges::find(list.getList(), PropertyTree("effectSettingsTileStub"),
+                                        [](const PropertyTree& element) { return element["name"]; });
+    ASSERT_NE(tile, list.getList().end());
+    const PropertyTree& brush = (*tile)["effectRows"].getList()[1]["cols"].getList()[0].getList()[0];
+    EXPECT_EQ(brush["name"], PropertyTree("EffectsPackageOneInputWithBrush"));
+    const PropertyTree& faces = brush["foregroundEffects"].getList()[0];
+    EXPECT_EQ(faces["name"], PropertyTree("SettingsEffectFacePackage"));
+    EXPECT_EQ(faces["facesEffects"].getList()[0]["effect"]["name"], PropertyTree("EFFECT_SMART_BLUR"));
+}
+
+TEST(Examples, TheChangingListChangesAsIsTold)
+{
+    const PropertyTree written = WrittenBack(Ombrel::ReadJson(TextOf(EXAMPLES / "changing.json")));
+    EXPECT_EQ(Ombrel::WriteJson(written),
+              R"([{"intensity":0.5,"name":"EFFECT_OIL_PAINT","radius":5},)"
+              R"({"grain":20,"intensity":0.5,"name":"EFFECT_RETRO_ARTEFACTS","rollerTrack":3,"scratches":4,"shake":true},)"
+              R"({"deviation":1.0,"intensity":0.5,"name":"EFFECT_FISH_EYE"}])");
 }
 
 } // namespace

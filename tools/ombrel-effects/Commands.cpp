@@ -15,25 +15,10 @@ namespace
 {
 
 using PhotoCore::EffectClass;
-using PhotoCore::IEffectSettings;
 
 std::string Padded(std::string_view text, std::size_t width)
 {
     return std::string(text) + std::string(width - text.size() + 2, ' ');
-}
-
-const char* InputsOf(const EffectClass& effectClass)
-{
-    switch (effectClass.create()->GetInputType())
-    {
-    case IEffectSettings::InputType::One:
-        return "1";
-    case IEffectSettings::InputType::Two:
-        return "2";
-    case IEffectSettings::InputType::Var:
-        return "var";
-    }
-    return "?";
 }
 
 bool IsRegistered(const EffectClass& effectClass)

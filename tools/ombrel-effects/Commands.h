@@ -41,6 +41,10 @@ Outcome SetValue(Document document, const Path& path, const std::string& text, b
 /// The document as the library reads and writes it. Unknown keys, which get lost, are complaints.
 Outcome Normalise(Document document);
 
+/// The pages that tell every settings class, in a folder that is made if need be. What the library cannot tell of itself comes
+/// from a folder of notes, see `LoadReferenceNotes`.
+Outcome WriteReference(const std::string& notesFolder, const std::string& outputFolder);
+
 } // namespace Ombrel::EffectsTool
 
 #endif

@@ -1,49 +1,15 @@
 #include "Document.h"
 
 #include "PropertyTreeJson/PropertyTreeJson.h"
+#include "TextFile.h"
 #include "ToolError.h"
 #include "Values.h"
 
-#include <array>
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <memory>
 #include <utility>
 #include <variant>
 
 namespace Ombrel::EffectsTool
 {
-namespace
-{
-
-std::string ReadAll(std::FILE* stream)
-{
-    std::string text;
-    std::array<char, 65536> buffer;
-    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), stream))
-    {
-        text.append(buffer.data(), count);
-    }
-    return text;
-}
-
-std::string ReadText(const std::string& file, const std::string& name)
-{
-    using Stream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-    const bool isStandardInput = file == "-";
-    const Stream own(isStandardInput ? nullptr : std::fopen(file.c_str(), "rb"),
-                     [](std::FILE* stream) { return std::fclose(stream); });
-    std::FILE* const stream = isStandardInput ? stdin : own.get();
-    std::string text = stream ? ReadAll(stream) : std::string();
-    if (!stream || std::ferror(stream))
-    {
-        throw ToolError(ExitCode::UsageOrFile, name + ": cannot be read: " + std::strerror(errno));
-    }
-    return text;
-}
-
-} // namespace
 
 std::string TextOf(const PropertyTree& tree, const std::string& subject, bool nonFinite)
 {
@@ -64,8 +30,8 @@ Document::Document(std::string name, PropertyTree tree, bool nonFinite)
 
 Document Document::Load(const std::string& file, bool nonFinite)
 {
-    const std::string name = file == "-" ? "<stdin>" : file;
-    const std::string text = ReadText(file, name);
+    const std::string name = NameOfFile(file);
+    const std::string text = ReadTextFile(file);
     try
     {
         Document document(name, ReadJson(text, {.nonFiniteAsText = nonFinite}), nonFinite);

@@ -16,6 +16,21 @@ const PhotoCore::EffectClass* FindClass(std::string_view classId)
     return found == classes.end() ? nullptr : &*found;
 }
 
+const char* InputsOf(const PhotoCore::EffectClass& effectClass)
+{
+    using InputType = PhotoCore::IEffectSettings::InputType;
+    switch (effectClass.create()->GetInputType())
+    {
+    case InputType::One:
+        return "1";
+    case InputType::Two:
+        return "2";
+    case InputType::Var:
+        return "var";
+    }
+    return "?";
+}
+
 PropertyTree StoredForm(const std::shared_ptr<const PhotoCore::IEffectSettings>& effect)
 {
     PropertyTree tree;

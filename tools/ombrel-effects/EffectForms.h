@@ -13,6 +13,9 @@ namespace Ombrel::EffectsTool
 /// The settings class of a class id, or null.
 const PhotoCore::EffectClass* FindClass(std::string_view classId);
 
+/// "1", "2" or "var": how many images a class takes.
+const char* InputsOf(const PhotoCore::EffectClass& effectClass);
+
 /// The stored form, where what has its default is left out.
 PropertyTree StoredForm(const std::shared_ptr<const PhotoCore::IEffectSettings>& effect);
 

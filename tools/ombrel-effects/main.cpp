@@ -24,6 +24,8 @@ struct Arguments
     std::string path;
     std::string value;
     std::string classId;
+    std::string notesFolder;
+    std::string outputFolder;
     bool nonFinite = false;
     bool isInPlace = false;
     bool isForced = false;
@@ -42,7 +44,7 @@ constexpr const char* FOOTER =
     "  0  fine\n"
     "  1  a key, index or class id that was asked for does not exist; a value is stored otherwise than given; keys dropped\n"
     "  2  wrong usage; a file cannot be read or written\n"
-    "  3  no JSON, no effects, an unknown class id in the file, or a value that the library refuses";
+    "  3  no JSON, no effects, an unknown class id in the file, a value that the library refuses, or notes that do not fit";
 
 Document Load(const Arguments& arguments)
 {
@@ -115,6 +117,15 @@ void AddWriters(CLI::App& app, Arguments& arguments)
     AddWriting(normalise, arguments, "With --in-place: replace the file also if unknown keys get lost; the exit code stays 1");
 }
 
+void AddReference(CLI::App& app, Arguments& arguments)
+{
+    CLI::App* reference = AddCommand(app, arguments, "reference", "Write the reference of all effect classes as Markdown",
+                                     [&arguments] { return WriteReference(arguments.notesFolder, arguments.outputFolder); });
+    reference->add_option("--notes", arguments.notesFolder, "Folder with what each class compares and when it is empty")
+        ->required();
+    reference->add_option("--output", arguments.outputFolder, "Folder for the pages; made if need be")->required();
+}
+
 void Print(const std::string& text)
 {
     if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() || std::fflush(stdout) != 0)
@@ -185,6 +196,7 @@ int main(int argc, char** argv)
     Arguments arguments;
     AddReaders(app, arguments);
     AddWriters(app, arguments);
+    AddReference(app, arguments);
     try
     {
         app.parse(argc, argv);

@@ -115,6 +115,8 @@ template <class First, class Second> struct Fields<std::pair<First, Second>>
     using List = FieldList<FieldDescriptor<&Pair::first>, FieldDescriptor<&Pair::second>>;
 };
 
+template <class First, class Second> inline constexpr std::string_view TYPE_NAME<std::pair<First, Second>> = "pair";
+
 } // namespace Ombrel::Proc
 
 #endif

@@ -121,6 +121,7 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         FieldSchema{Descriptors::KEY, &SCHEMA_OF<typename Descriptors::template Value<Record>>}...};
 
     static constexpr RecordSchema SCHEMA{
+        .name = TYPE_NAME<Record>,
         .fields = FIELDS,
         .keyOrder = List::KEY_ORDER.data(),
         .defaults = &ErasedDefault,

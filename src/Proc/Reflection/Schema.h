@@ -61,6 +61,7 @@ struct FieldSchema
 /// and must be of the type. Constant data; an index is the place in `fields`.
 struct RecordSchema
 {
+    std::string_view name;               // of the type, without its namespace; "pair" for every pair
     std::span<const FieldSchema> fields; // in declaration order, which is the order of reading
     const std::uint16_t* keyOrder;       // their indices in the byte order of the keys
 

@@ -1,0 +1,153 @@
+#include "ReferenceNotes.h"
+
+#include "PropertyPath.h"
+#include "PropertyTreeJson/PropertyTreeJson.h"
+#include "TextFile.h"
+#include "ToolError.h"
+#include "Values.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <string_view>
+
+namespace Ombrel::EffectsTool
+{
+namespace
+{
+
+using PhotoCore::EffectClass;
+
+struct PageTitle
+{
+    const char* name;
+    const char* title;
+};
+
+constexpr PageTitle PAGE_TITLES[] = {
+    {"framework", "Framework"},
+    {"colour", "Tone and colour"},
+    {"blur-and-detail", "Blur, denoise and detail"},
+    {"neural", "Neural and model effects"},
+    {"faces", "Face retouching"},
+    {"geometry", "Geometry"},
+    {"masks", "Masks and composition"},
+    {"artistic", "Artistic filters"},
+};
+
+/// Reads the notes page by page and keeps what is wrong with them, so that one run shows it all.
+class NotesReader
+{
+public:
+    explicit NotesReader(std::string folder) : m_folder(std::move(folder)) {}
+
+    ReferencePage ReadPage(const PageTitle& page)
+    {
+        const std::string file = FileOf(page.name);
+        ReferencePage result{page.name, page.title, {}};
+        const PropertyTree notes = ReadFile(file);
+        if (!IsMap(notes))
+        {
+            Complain(file + ": found " + KindOf(notes) + ", expected a map from class names to notes");
+            return result;
+        }
+        for (const auto& [className, note] : notes.getMap())
+        {
+            const std::string where = file + ": " + className + ": ";
+            if (const EffectClass* effectClass = Take(className, where, file))
+            {
+                result.classes.push_back({effectClass, LineOf(note, "compares", where), LineOf(note, "empty", where)});
+            }
+        }
+        return result;
+    }
+
+    void CheckThatNothingIsLeft()
+    {
+        for (const EffectClass& effectClass : PhotoCore::EffectClasses())
+        {
+            if (!m_fileOfClass.contains(effectClass.className))
+            {
+                Complain(m_folder + ": " + std::string(effectClass.className) + ": has no note");
+            }
+        }
+        for (const auto& entry : std::filesystem::directory_iterator(m_folder))
+        {
+            if (std::ranges::find(PAGE_TITLES, entry.path().stem(), &PageTitle::name) == std::end(PAGE_TITLES))
+            {
+                Complain(entry.path().string() + ": there is no page of this name");
+            }
+        }
+        if (!m_complaints.empty())
+        {
+            throw ToolError(ExitCode::BadInput, m_complaints);
+        }
+    }
+
+private:
+    std::string FileOf(std::string_view page) const { return (std::filesystem::path(m_folder) / page).string() + ".json"; }
+
+    static PropertyTree ReadFile(const std::string& file)
+    {
+        const std::string text = ReadTextFile(file);
+        try
+        {
+            return ReadJson(text);
+        }
+        catch (const JsonError& error)
+        {
+            throw ToolError(ExitCode::BadInput, file + ":" + error.what());
+        }
+    }
+
+    const EffectClass* Take(const std::string& className, const std::string& where, const std::string& file)
+    {
+        const auto classes = PhotoCore::EffectClasses();
+        const auto found = std::ranges::find(classes, className, &EffectClass::className);
+        if (found == classes.end())
+        {
+            Complain(where + "there is no such class");
+            return nullptr;
+        }
+        const auto [earlier, isNew] = m_fileOfClass.try_emplace(found->className, file);
+        if (!isNew)
+        {
+            Complain(where + "noted in " + earlier->second + " too");
+            return nullptr;
+        }
+        return &*found;
+    }
+
+    std::string LineOf(const PropertyTree& note, const std::string& key, const std::string& where)
+    {
+        const bool isThere = IsMap(note) && note.contains(key) && IsString(note[key]);
+        if (!isThere || note[key].getScalar().toString().empty())
+        {
+            Complain(where + "has no text \"" + key + "\"");
+            return {};
+        }
+        return note[key].getScalar().toString();
+    }
+
+    void Complain(const std::string& complaint) { m_complaints += (m_complaints.empty() ? "" : "\n") + complaint; }
+
+    std::string m_folder;
+    std::map<std::string_view, std::string> m_fileOfClass;
+    std::string m_complaints;
+};
+
+} // namespace
+
+std::vector<ReferencePage> LoadReferenceNotes(const std::string& folder)
+{
+    NotesReader reader(folder);
+    std::vector<ReferencePage> pages;
+    for (const PageTitle& title : PAGE_TITLES)
+    {
+        pages.push_back(reader.ReadPage(title));
+    }
+    reader.CheckThatNothingIsLeft();
+    return pages;
+}
+
+} // namespace Ombrel::EffectsTool
