@@ -9,6 +9,31 @@
 namespace
 {
 
+// One of its values cannot be had.
+struct Stubborn
+{
+    void Set(int) {}
+    int Get() const { return 1; }
+    int Refuse() const { throw std::logic_error("no value"); }
+};
+
+} // namespace
+
+namespace Ombrel::Proc
+{
+
+template <> struct Fields<Stubborn>
+{
+    using R = Stubborn;
+    using List = FieldList<AccessorDescriptor<"m", &R::Set, &R::Get>, AccessorDescriptor<"z", &R::Set, &R::Get>,
+                           AccessorDescriptor<"a", &R::Set, &R::Refuse>, AccessorDescriptor<"b", &R::Set, &R::Get>>;
+};
+
+} // namespace Ombrel::Proc
+
+namespace
+{
+
 using namespace Samples;
 using Ombrel::PropertyTree;
 using Ombrel::Proc::Reflected;
@@ -164,6 +189,13 @@ TEST(Folds, WithoutResetOfTargetsOldEntriesStay)
 
     Write(record, tree, true, true);
     EXPECT_EQ(tree["record"], Map({{"point", Map({{"x", 1}, {"y", 1}})}}));
+}
+
+TEST(Folds, WriteInDeclarationOrder)
+{
+    PropertyTree tree;
+    EXPECT_THROW(Write(Stubborn(), tree, false), std::logic_error);
+    EXPECT_EQ(tree, Map({{"m", 1}, {"z", 1}, {"a", PropertyTree()}})); // and not "b"
 }
 
 TEST(Folds, AFailureStopsWhereItStands)

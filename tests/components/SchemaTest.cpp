@@ -106,6 +106,13 @@ TEST(Schema, TellsTheKinds)
     EXPECT_EQ(ValueOf("set").kind, ValueKind::Set);
 }
 
+TEST(Schema, NamesTheTypes)
+{
+    EXPECT_EQ(EverythingSchema().name, "Everything");
+    EXPECT_EQ(ValueOf("record").record().name, "Pupil");
+    EXPECT_EQ(ValueOf("pair").record().name, "pair");
+}
+
 TEST(Schema, LeadsToWhatAValueIsMadeOf)
 {
     EXPECT_EQ(ValueOf("enum").names->rows[2].name, "Alpha");

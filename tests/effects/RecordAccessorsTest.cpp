@@ -1,3 +1,4 @@
+#include "Proc/EffectSettings/BlendSettings.h"
 #include "Proc/EffectSettings/BlurSettings.h"
 #include "Proc/EffectSettings/CropSettings.h"
 #include "Proc/EffectSettings/DenoiseChromaLumaSettings.h"
@@ -6,8 +7,12 @@
 #include "Proc/EffectSettings/EdgeDetectSettings.h"
 #include "Proc/EffectSettings/EmbossSettings.h"
 #include "Proc/EffectSettings/FlipSettings.h"
+#include "Proc/EffectSettings/HalfToneSettings.h"
 #include "Proc/EffectSettings/NoiseVideoSettings.h"
+#include "Proc/EffectSettings/PopArtSettings.h"
+#include "Proc/EffectSettings/RetroArtefactsSettings.h"
 #include "Proc/EffectSettings/RotateSettings.h"
+#include "Proc/EffectSettings/VignetteFilterSettings.h"
 #include "support/StoredForm.h"
 #include "support/TreeText.h"
 
@@ -29,6 +34,7 @@ using Support::StoredForm;
 
 constexpr std::int32_t WHOLE = -73;
 constexpr double FRACTION = 0.375;
+constexpr RgbaColor BLUE{0, 0, 255, 255};
 
 // `value` is no default of the record: it is seen under `key` alone, and the getter shows no other value.
 template <class Effect, class Record, class Given, class Shown, class Value>
@@ -140,6 +146,69 @@ TEST(RecordAccessors, OfRotate)
     ExpectNumber<RotateSettings>("height", &R::SetHeight, &R::GetHeight, WHOLE);
     ExpectNumber<RotateSettings>("isBilinear", &R::SetIsBilinear, &R::GetIsBilinear, true);
     ExpectAccess<RotateSettings>("color", &R::SetColor, &R::GetColor, RgbaColor{18, 171, 86, 205}, "12ab56cd");
+}
+
+TEST(RecordAccessors, OfBlend)
+{
+    using R = SettingsEffectColorBlender;
+    ExpectNumber<BlendSettings>("positionX", &R::SetPositionX, &R::GetPositionX, WHOLE);
+    ExpectNumber<BlendSettings>("positionY", &R::SetPositionY, &R::GetPositionY, WHOLE);
+}
+
+TEST(RecordAccessors, OfHalfTone)
+{
+    using R = SettingsEffectHalfTone;
+    using Effect = HalfToneSettings;
+    ExpectAccess<Effect>("backgroundColor", &R::SetBackgroundColor, &R::GetBackgroundColor, BLUE, "0000ffff");
+    ExpectAccess<Effect>("dotColor", &R::SetDotColor, &R::GetDotColor, BLUE, "0000ffff");
+    ExpectNumber<Effect>("colourSize", &R::SetColourSize, &R::GetColourSize, FRACTION);
+    ExpectNumber<Effect>("dotSize", &R::SetDotSize, &R::GetDotSize, FRACTION);
+    ExpectNumber<Effect>("threshold", &R::SetThreshold, &R::GetThreshold, FRACTION);
+    ExpectNumber<Effect>("angle", &R::SetAngle, &R::GetAngle, WHOLE);
+}
+
+TEST(RecordAccessors, OfPopArt)
+{
+    using R = SettingsEffectPopArt;
+    using Effect = PopArtSettings;
+    ExpectNumber<Effect>("saturation", &R::SetSaturation, &R::GetSaturation, FRACTION);
+    ExpectNumber<Effect>("hue", &R::SetHue, &R::GetHue, FRACTION);
+    ExpectNumber<Effect>("offset", &R::SetOffset, &R::GetOffset, FRACTION);
+    ExpectNumber<Effect>("scale", &R::SetScale, &R::GetScale, FRACTION);
+    ExpectNumber<Effect>("levels", &R::SetLevels, &R::GetLevels, WHOLE);
+    ExpectNumber<Effect>("amountVertical", &R::SetAmountVertical, &R::GetAmountVertical, WHOLE);
+    ExpectNumber<Effect>("amountHorizontal", &R::SetAmountHorizontal, &R::GetAmountHorizontal, WHOLE);
+    ExpectNumber<Effect>("invertScale", &R::SetInvertScale, &R::GetInvertScale, true);
+    ExpectNumber<Effect>("intensity", &R::SetIntensity, &R::GetIntensity, 0.375f);
+    ExpectAccess<Effect>("disproportionPolicy", &R::SetDisproportionPolicy, &R::GetDisproportionPolicy,
+                         R::DisproportionPolicy::Expand, "Expand");
+}
+
+TEST(RecordAccessors, OfRetroArtefacts)
+{
+    using R = SettingsEffectRetroArtefacts;
+    using Effect = RetroArtefactsSettings;
+    ExpectNumber<Effect>("shake", &R::SetShake, &R::GetShake, true);
+    ExpectNumber<Effect>("vignetting", &R::SetVignetting, &R::GetVignetting, true);
+    ExpectNumber<Effect>("grain", &R::SetGrain, &R::GetGrain, 73u);
+    ExpectNumber<Effect>("scratches", &R::SetScratches, &R::GetScratches, 73u);
+    ExpectNumber<Effect>("rollerTrack", &R::SetRollerTrack, &R::GetRollerTrack, 73u);
+    ExpectNumber<Effect>("intensity", &R::SetIntensity, &R::GetIntensity, 0.375f);
+}
+
+TEST(RecordAccessors, OfVignetteFilter)
+{
+    using R = SettingsEffectVignetteFilter;
+    using Effect = VignetteFilterSettings;
+    ExpectAccess<Effect>("form", &R::SetForm, &R::GetForm, R::Form::enForm4, "enForm4");
+    ExpectAccess<Effect>("smooth", &R::SetSmooth, &R::GetSmooth, R::Smooth::enCos, "enCos");
+    ExpectAccess<Effect>("aspect", &R::SetAspect, &R::GetAspect, R::Aspect::enOgn, "enOgn");
+    ExpectNumber<Effect>("x0", &R::SetX0, &R::GetX0, FRACTION);
+    ExpectNumber<Effect>("y0", &R::SetY0, &R::GetY0, FRACTION);
+    ExpectNumber<Effect>("RInternal", &R::SetRInternal, &R::GetRInternal, FRACTION);
+    ExpectNumber<Effect>("RExternal", &R::SetRExternal, &R::GetRExternal, FRACTION);
+    ExpectAccess<Effect>("color", &R::SetColor, &R::GetColor, BLUE, "0000ffff");
+    ExpectNumber<Effect>("intensity", &R::SetIntensity, &R::GetIntensity, 0.375f);
 }
 
 } // namespace

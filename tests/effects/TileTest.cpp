@@ -18,7 +18,6 @@ namespace
 {
 
 using namespace Ombrel::PhotoCore;
-using FacePackageSamples::StrengthOf;
 using FacePackageSamples::Vibrance;
 using Ombrel::PropertyTree;
 using Support::List;
@@ -29,6 +28,8 @@ using Support::StoredForm;
 static_assert(std::is_same_v<decltype(TileSettings::Create(1, 1)), std::shared_ptr<TileSettings>>);
 static_assert(std::is_same_v<decltype(std::declval<const TileSettings&>().GetWidth()), std::uint64_t>);
 static_assert(std::is_same_v<decltype(std::declval<const TileSettings&>().GetHeight()), std::uint64_t>);
+static_assert(std::is_same_v<decltype(std::declval<TileSettings&>().Effect(0, 0)), IEffectSettings::List&>);
+static_assert(std::is_same_v<decltype(std::declval<const TileSettings&>().Effect(0, 0)), const IEffectSettings::List&>);
 static_assert(std::constructible_from<TileSettings, const TileSettingsStub&>);
 
 // Two columns, two rows, an effect in each list.
@@ -75,6 +76,17 @@ TEST(Tile, IsMadeAsAGridOfEmptyCells)
                                                       List({Map({{"name", "EFFECT_VIBRANCE"}, {"strength", 7}})})})}})})}}));
 }
 
+TEST(Tile, HandsOutEachOfItsLists)
+{
+    TileSettings tile = Sample();
+    const TileSettings& same = tile;
+    EXPECT_EQ(&same.Pre(), &tile.Pre());
+    EXPECT_EQ(&same.Post(), &tile.Post());
+    EXPECT_EQ(&same.Effect(1, 0), &tile.Effect(1, 0));
+    EXPECT_EQ(same.Pre().size(), 1u);
+    EXPECT_EQ(same.Post().size(), 2u);
+}
+
 TEST(Tile, IsMadeAsAnEmptyGrid)
 {
     for (const TileSettings& tile : {TileSettings(), TileSettings(TileSettingsStub())})
@@ -113,7 +125,12 @@ TEST(Tile, AGridThatIsTooLargeLeavesTheOldOne)
 {
     TileSettings tile = Sample();
     EXPECT_THROW(tile.SetSize(std::uint64_t{1} << 62, 1), std::length_error);
+    EXPECT_THROW(tile.SetSize(1, std::uint64_t{1} << 62), std::length_error);
     EXPECT_TRUE(tile == Sample());
+
+    tile.SetSize(std::uint64_t{1} << 62, 0); // no row, no cell
+    EXPECT_EQ(tile.GetWidth(), 0u);
+    EXPECT_EQ(tile.GetHeight(), 0u);
 }
 
 TEST(Tile, ACopyHoldsClones)

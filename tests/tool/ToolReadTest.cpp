@@ -2,6 +2,10 @@
 
 #include <gmock/gmock.h>
 
+#include <iterator>
+#include <regex>
+#include <string>
+
 namespace Ombrel
 {
 namespace
@@ -22,6 +26,20 @@ TEST_F(ToolList, NamesClassIdInputsAndRegistration)
     EXPECT_THAT(result.out, testing::ContainsRegex("(^|\n)AcidSettings +EFFECT_ACID +1 +registered\n"));
     EXPECT_THAT(result.out, testing::ContainsRegex("\nAdjusterSettings +EFFECT_ADJUSTER +1 +registered\n"));
     EXPECT_THAT(result.out, testing::ContainsRegex("\nEffectSettingsSimple +effectSettingsSimple +1 +registered\n"));
+}
+
+TEST_F(ToolList, NamesEveryClass)
+{
+    const std::string list = Run({"list"}).out;
+    const auto linesWith = [&list](const char* pattern)
+    {
+        const std::regex line(pattern);
+        return std::distance(std::sregex_iterator(list.begin(), list.end(), line), std::sregex_iterator());
+    };
+    EXPECT_EQ(linesWith("Settings[A-Za-z]* +[A-Za-z_]+ +(1|2|var) +(registered|not registered)\n"), 97);
+    EXPECT_EQ(linesWith(" registered\n") - linesWith(" not registered\n"), 94);
+    EXPECT_EQ(linesWith("BlendSettings +EFFECT_BLEND +2 +not registered\n"), 1);
+    EXPECT_EQ(linesWith("RemoveBackgroundSettings +EFFECT_REMOVE_BACKGROUND +var +registered\n"), 1);
 }
 
 TEST_F(ToolNew, HasEveryPropertyWithItsDefault)

@@ -109,7 +109,12 @@ std::shared_ptr<TileSettings> TileSettings::Create(std::uint64_t width, std::uin
 
 void TileSettings::SetSize(std::uint64_t width, std::uint64_t height)
 {
-    m_effectRows = std::vector<Row>(height, Row{std::vector<List>(width)});
+    std::vector<Row> rows(height);
+    for (Row& row : rows)
+    {
+        row.m_cols.resize(width);
+    }
+    m_effectRows = std::move(rows);
 }
 
 void TileSettings::CopyFrom(const TileSettings& other)

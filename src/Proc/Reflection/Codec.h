@@ -116,6 +116,8 @@ template <class Value>
 requires std::is_enum_v<Value>
 struct Codec<Value>
 {
+    static_assert(std::same_as<std::underlying_type_t<Value>, std::int32_t>, "a stored enumeration has 32 bits");
+
     static constexpr ValueSchema SCHEMA{.kind = ValueKind::Enum, .names = &EnumNames<Value>::TABLE};
 
     static void Write(PropertyTree& child, Value value, const WriteFlags*)

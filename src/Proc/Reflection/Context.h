@@ -3,8 +3,6 @@
 
 #include "PropertyTree/PropertyTree.h"
 
-#include <cstddef>
-
 namespace Ombrel::Proc
 {
 
@@ -33,7 +31,6 @@ template <class Record> struct WriteContext
     const Record& record;
     PropertyTree::Map& target;
     const WriteFlags* flags;
-    std::size_t extraRoom = 0; // for entries that the caller will add to an empty target
 };
 
 } // namespace Ombrel::Proc

@@ -8,17 +8,15 @@
 #include <array>
 #include <concepts>
 #include <cstddef>
-#include <tuple>
 #include <utility>
 
-// How a record gets to a tree and back at the cost of code written by hand.
+// How a record gets to a tree and back.
 //
-// A map holds its keys in byte order, and so does a constant table that the compiler sorts for each record. A write first asks
-// every field whether it has to stand in the tree, makes room for just so many entries, and appends them in that order: no
-// search, no entry moved. A read walks map and table side by side, once and out of line, which gives each field its child or
-// none; then it decodes in declaration order, so that setters run and failures stop as the list says. What depends on a value's
-// type alone is one routine per kind, also out of line: of a field only its key, its offset and the comparison with the default
-// are code of its own.
+// Both ways go through the fields in declaration order, so that setters run and failures stop as the list says. A map holds its
+// keys in byte order, and so does a constant table that the compiler sorts for each record: a read walks the two side by side,
+// once and out of line, which gives each field its child or none, and then decodes. What depends on a value's type alone is one
+// routine per kind, also out of line: of a field only its key, its offset and the comparison with the default are code of its
+// own.
 namespace Ombrel::Proc
 {
 namespace ReflectedDetail
@@ -66,27 +64,18 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         (ReadOrReset<Descriptors>(children[Index], context, defaults), ...);
     }
 
-    // `Place` is in byte order.
-    template <std::size_t Place> using DescriptorAt = std::tuple_element_t<List::KEY_ORDER[Place], std::tuple<Descriptors...>>;
-
-    template <class Descriptor> static void WriteNext(const WriteContext<Record>& context)
+    template <class Descriptor> static void WriteOrOmit(const WriteContext<Record>& context, const Record* defaults)
     {
-        Descriptor::Write(context.target[Descriptor::KEY], context.record, context.flags);
+        if (!defaults || !Descriptor::Equal(context.record, *defaults))
+        {
+            Descriptor::Write(context.target[Descriptor::KEY], context.record, context.flags);
+        }
     }
 
     static void Write(const WriteContext<Record>& context)
     {
-        if (context.flags->omitDefaults)
-        {
-            [[maybe_unused]] const Record& defaults = Reflected<Record>::Default();
-            [[maybe_unused]] const std::array<bool, List::SIZE> isWritten{
-                !DescriptorAt<Index>::Equal(context.record, defaults)...};
-            ((isWritten[Index] ? WriteNext<DescriptorAt<Index>>(context) : void()), ...);
-        }
-        else
-        {
-            (WriteNext<DescriptorAt<Index>>(context), ...);
-        }
+        [[maybe_unused]] const Record* defaults = context.flags->omitDefaults ? &Reflected<Record>::Default() : nullptr;
+        (WriteOrOmit<Descriptors>(context, defaults), ...);
     }
 
     static bool Equal(const Record& a, const Record& b) { return (Descriptors::Equal(a, b) && ...); }

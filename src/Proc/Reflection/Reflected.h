@@ -16,10 +16,8 @@ template <class Record> struct Reflected
     /// The record that missing keys are reset to and written values are compared with. Made on first use.
     static const Record& Default();
 
-    /// Reads the fields in declaration order.
+    // Both go through the fields in declaration order.
     static void Read(const ReadContext<Record>& context);
-
-    /// Writes the fields in the byte order of their keys, which is the order of the map.
     static void Write(const WriteContext<Record>& context);
 
     /// Field by field in declaration order, each by its own `==`.
