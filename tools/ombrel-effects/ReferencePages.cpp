@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <initializer_list>
 #include <set>
 #include <string_view>
 
@@ -67,28 +68,39 @@ KindNames NamesOf(ValueKind kind)
     return {"of its own form", "of their own form"};
 }
 
+std::string Joined(std::initializer_list<std::string_view> parts)
+{
+    std::string text;
+    for (const std::string_view part : parts)
+    {
+        text += part;
+    }
+    return text;
+}
+
 // Leads to a heading as the hosts of Markdown name it.
 std::string Link(std::string_view title, const std::string& file)
 {
     std::string anchor(title);
     std::ranges::transform(anchor, anchor.begin(),
                            [](char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); });
-    return "[" + std::string(title) + "](" + file + "#" + anchor + ")";
+    return Joined({"[", title, "](", file, "#", anchor, ")"});
 }
 
 std::string Code(const PropertyTree& value)
 {
-    std::string text = "`" + Shown(value) + "`";
-    for (std::size_t bar = text.find('|'); bar != std::string::npos; bar = text.find('|', bar + 2))
+    std::string text;
+    for (const char c : Shown(value))
     {
-        text.insert(bar, "\\"); // it would end the cell of a table, within code too
+        text += c == '|' ? "\\" : ""; // it would end the cell of a table, within code too
+        text += c;
     }
-    return text;
+    return Joined({"`", text, "`"});
 }
 
 std::string Quoted(std::string_view name)
 {
-    return "\"" + std::string(name) + "\"";
+    return Joined({"\"", name, "\""});
 }
 
 const char* RegistrationText(Registration registration)
@@ -123,7 +135,7 @@ std::string Item(const std::string& text)
         if (line.size() + 1 + (end - begin) > width)
         {
             item += line + '\n';
-            line = " ";
+            line.assign(1, ' ');
         }
         line += ' ' + text.substr(begin, end - begin);
         begin = end + 1;
@@ -155,7 +167,7 @@ public:
 
     std::string Text(const ReferenceSection& section) const
     {
-        std::string text = "\n## " + std::string(section.title) + "\n\n" + Head(section) + Table(section);
+        std::string text = Joined({"\n## ", section.title, "\n\n", Head(section), Table(section)});
         std::string items;
         for (const EnumNameTable* names : EnumerationsOf(section))
         {
@@ -181,8 +193,8 @@ private:
             return "A record that several others hold.\n";
         }
         const PhotoCore::EffectClass& effectClass = *section.notedClass->effectClass;
-        return "`" + std::string(effectClass.classId) + "`, " + InputsText(effectClass) + ", " +
-               RegistrationText(effectClass.registration) + ".\n";
+        return Joined({"`", effectClass.classId, "`, ", InputsText(effectClass), ", ",
+                       RegistrationText(effectClass.registration), ".\n"});
     }
 
     std::string Table(const ReferenceSection& section) const
@@ -190,7 +202,7 @@ private:
         std::string rows;
         for (const ReferenceRow& row : m_sections.RowsOf(section))
         {
-            rows += "| `" + row.path + "` | " + Kind(*row.value, false) + " | " + Default(row) + " |\n";
+            rows += Joined({"| `", row.path, "` | ", Kind(*row.value, false), " | ", Default(row), " |\n"});
         }
         return rows.empty() ? "\nNo keys.\n" : "\n| Key | Kind | Default |\n|---|---|---|\n" + rows;
     }
@@ -306,12 +318,12 @@ std::string IndexText(const std::vector<ReferencePage>& pages)
     std::set<std::string> rows; // by class name, with which they begin
     for (const ReferencePage& page : pages)
     {
-        list += "- [" + page.title + "](" + page.name + ".md): " + std::to_string(page.classes.size()) + " classes\n";
+        list += Joined({"- [", page.title, "](", page.name, ".md): ", std::to_string(page.classes.size()), " classes\n"});
         for (const NotedClass& noted : page.classes)
         {
             const PhotoCore::EffectClass& effectClass = *noted.effectClass;
-            rows.insert("| " + Link(effectClass.className, page.name + ".md") + " | `" + effectClass.classId + "` | " +
-                        InputsOf(effectClass) + " | " + RegistrationText(effectClass.registration) + " |\n");
+            rows.insert(Joined({"| ", Link(effectClass.className, page.name + ".md"), " | `", effectClass.classId, "` | ",
+                                InputsOf(effectClass), " | ", RegistrationText(effectClass.registration), " |\n"}));
         }
     }
     std::string text = std::string(WRITTEN_BY) + "# Reference\n\nEvery settings class with its keys.\n\n" + list + HOW_TO_READ;
