@@ -248,7 +248,7 @@ constexpr std::array CLASSES{
     Entry<MattingSettings>(Registration::None),
 };
 
-// The registry is built without the test of RegisterFactory, which would drop a repeated id silently.
+// A repeated id would end every program that loads the library.
 static_assert(
     []
     {
@@ -272,14 +272,23 @@ static_assert(CountOf(Registration::None) == 3);
 
 using Registry = std::map<std::string, IEffectSettings::Factory>;
 
+void Register(Registry& registry, const std::string& id, IEffectSettings::Factory factory)
+{
+    if (!registry.try_emplace(id, std::move(factory)).second)
+    {
+        ThrowException("Duplicate class id (" + id + ")!", REGISTER_FACTORY_LOCATION);
+    }
+}
+
+// Makes both steps at once: the initialiser of another file may ask for any class before those of this file have run.
 Registry MakeRegistry()
 {
     Registry registry;
     for (const EffectClass& effectClass : CLASSES)
     {
-        if (effectClass.registration == Registration::StartUpList)
+        if (effectClass.registration != Registration::None)
         {
-            registry.emplace(effectClass.classId, effectClass.create);
+            Register(registry, effectClass.classId, effectClass.create);
         }
     }
     return registry;
@@ -291,20 +300,8 @@ Registry& GetRegistry()
     return registry;
 }
 
-bool RegisterOthers()
-{
-    for (const EffectClass& effectClass : CLASSES)
-    {
-        if (effectClass.registration == Registration::Factory)
-        {
-            IEffectSettings::RegisterFactory(effectClass.classId, effectClass.create);
-        }
-    }
-    return true;
-}
-
 // Builds the registry while the library loads, before any caller can run into it from two threads.
-const bool g_isRegistered = RegisterOthers();
+const bool g_isRegistered = !GetRegistry().empty();
 
 } // namespace
 
@@ -315,10 +312,7 @@ std::span<const EffectClass> EffectClasses() noexcept
 
 void IEffectSettings::RegisterFactory(const std::string& id, Factory factory)
 {
-    if (!GetRegistry().try_emplace(id, std::move(factory)).second)
-    {
-        ThrowException("Duplicate class id (" + id + ")!", REGISTER_FACTORY_LOCATION);
-    }
+    Register(GetRegistry(), id, std::move(factory));
 }
 
 std::shared_ptr<IEffectSettings> IEffectSettings::CreateEffectSettings(const std::string& id)
