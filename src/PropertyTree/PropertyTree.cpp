@@ -1,13 +1,24 @@
 #include "PropertyTree/PropertyTree.h"
 
+#include <algorithm>
 #include <iterator>
+#include <new>
 #include <stdexcept>
 #include <string>
 
 namespace Ombrel
 {
+
+// The state of a tree is read through `m_null` whichever member is there, which the common beginning of standard-layout
+// structs allows. So a scalar is not wrapped, and a tree is no larger than one.
+static_assert(std::is_standard_layout_v<PropertyTree> && sizeof(PropertyTree) == sizeof(PropertyTreeScalar));
+
 namespace
 {
+
+// So many levels are copied, compared and destroyed by recursion, which is fast. What lies deeper, and may be as deep as
+// memory allows, is put off and then taken up in a loop.
+constexpr int RECURSION_LIMIT = 32;
 
 const char* NameOf(const PropertyTree& tree)
 {
@@ -20,11 +31,6 @@ const char* NameOf(const PropertyTree& tree)
         return "a scalar";
     }
     return tree.isList() ? "a list" : "a map";
-}
-
-[[noreturn]] void ThrowState(const char* expected, const PropertyTree& found)
-{
-    throw std::invalid_argument(std::string("tree: expected ") + expected + ", found " + NameOf(found));
 }
 
 bool IsContainer(const PropertyTree& tree)
@@ -65,31 +71,6 @@ void PopLastChild(PropertyTree& tree)
     }
 }
 
-template <class Visit> bool AllChildren(const PropertyTree& tree, Visit visit)
-{
-    if (tree.isList())
-    {
-        for (const PropertyTree& child : tree.getList())
-        {
-            if (!visit(child))
-            {
-                return false;
-            }
-        }
-    }
-    else if (IsContainer(tree))
-    {
-        for (const auto& entry : tree.getMap())
-        {
-            if (!visit(entry.second))
-            {
-                return false;
-            }
-        }
-    }
-    return true;
-}
-
 // Empties a tree of any depth without recursion and without memory. It always works at the last child. A child that has
 // children of its own is turned over with its parent: the child becomes the top, its first child takes the place that it
 // had, and the old top hangs where that first child was. So each container is turned over at most once, and every step
@@ -115,94 +96,156 @@ void Dismantle(PropertyTree& top) noexcept
     }
 }
 
-// Copies a tree of any depth: the containers still to be filled wait in a list. Their places do not move, since a target
-// gets all its children at once.
-void CopyChildren(const PropertyTree& source, PropertyTree& target)
+// Empties a tree of any depth, so that destroying it goes no deeper.
+void Empty(PropertyTree& tree, int depth) noexcept
 {
-    std::vector<std::pair<const PropertyTree*, PropertyTree*>> pending;
-    const auto copy = [&pending](const PropertyTree& from, PropertyTree& to)
+    const auto emptyChild = [depth](PropertyTree& child)
     {
-        if (from.isScalar())
+        if (IsContainer(child))
         {
-            to = from.getScalar();
-        }
-        else if (!from.isNull())
-        {
-            pending.emplace_back(&from, &to);
+            depth == RECURSION_LIMIT ? Dismantle(child) : Empty(child, depth + 1);
         }
     };
-    copy(source, target);
-    while (!pending.empty())
+    if (tree.isList())
     {
-        const auto [from, to] = pending.back();
-        pending.pop_back();
-        if (from->isList())
-        {
-            to->convertToList();
-            PropertyTree::List& list = to->getList();
-            list.resize(from->getList().size());
-            for (std::size_t i = 0; i < list.size(); ++i)
-            {
-                copy(from->getList()[i], list[i]);
-            }
-        }
-        else
-        {
-            to->convertToMap();
-            for (const auto& [key, child] : from->getMap())
-            {
-                copy(child, to->getMap()[key]);
-            }
-        }
+        PropertyTree::List& list = tree.getList();
+        std::for_each(list.begin(), list.end(), emptyChild);
+        list.clear();
+    }
+    else
+    {
+        PropertyTree::Map& map = tree.getMap();
+        std::for_each(map.begin(), map.end(), [&emptyChild](auto& entry) { emptyChild(entry.second); });
+        map.clear();
     }
 }
+
+class Comparison
+{
+public:
+    bool AreEqual(const PropertyTree& a, const PropertyTree& b)
+    {
+        bool areEqual = AreEqual(a, b, 0);
+        while (areEqual && !m_pending.empty())
+        {
+            const auto [left, right] = m_pending.back();
+            m_pending.pop_back();
+            areEqual = AreEqual(*left, *right, 0);
+        }
+        return areEqual;
+    }
+
+private:
+    bool AreEqual(const PropertyTree& a, const PropertyTree& b, int depth)
+    {
+        if (a.isScalar())
+        {
+            return b.isScalar() && a.getScalar() == b.getScalar();
+        }
+        if (a.isNull() || b.isNull() || b.isScalar() || a.isList() != b.isList())
+        {
+            return a.isNull() && b.isNull();
+        }
+        if (ChildCount(a) != ChildCount(b))
+        {
+            return false;
+        }
+        if (depth == RECURSION_LIMIT)
+        {
+            m_pending.emplace_back(&a, &b);
+            return true;
+        }
+        if (a.isList())
+        {
+            return std::equal(a.getList().begin(), a.getList().end(), b.getList().begin(),
+                              [&](const auto& left, const auto& right) { return AreEqual(left, right, depth + 1); });
+        }
+        return std::equal(a.getMap().begin(), a.getMap().end(), b.getMap().begin(),
+                          [&](const auto& left, const auto& right)
+                          { return left.first == right.first && AreEqual(left.second, right.second, depth + 1); });
+    }
+
+    std::vector<std::pair<const PropertyTree*, const PropertyTree*>> m_pending;
+};
 
 } // namespace
 
-PropertyTree::PropertyTree() noexcept = default;
+class PropertyTree::Copying
+{
+public:
+    /// @param target null; holds a part of the copy after a failure
+    void Copy(const PropertyTree& source, PropertyTree& target)
+    {
+        Copy(source, target, 0);
+        while (!m_pending.empty())
+        {
+            const auto [from, to] = m_pending.back();
+            m_pending.pop_back();
+            Copy(*from, *to, 0);
+        }
+    }
+
+private:
+    // The places of what is pending do not move, since every container has room for all its children from the beginning.
+    void Copy(const PropertyTree& source, PropertyTree& target, int depth)
+    {
+        if (source.isScalar())
+        {
+            target = source.m_scalar;
+        }
+        else if (!source.isNull() && depth == RECURSION_LIMIT)
+        {
+            m_pending.emplace_back(&source, &target);
+        }
+        else if (source.isList())
+        {
+            List& list = target.makeList(source.m_list.content.size());
+            for (const PropertyTree& child : source.m_list.content)
+            {
+                Copy(child, list.emplace_back(), depth + 1);
+            }
+        }
+        else if (source.IsMap())
+        {
+            Map& map = target.makeMap(source.m_map.content.size());
+            for (const auto& [key, child] : source.m_map.content)
+            {
+                Copy(child, map.Append(key), depth + 1);
+            }
+        }
+    }
+
+    std::vector<std::pair<const PropertyTree*, PropertyTree*>> m_pending;
+};
 
 PropertyTree::PropertyTree(const PropertyTree& other) : PropertyTree()
 {
-    CopyChildren(other, *this); // the delegated-to constructor is done, so a failure in here runs the destructor
-}
-
-PropertyTree::PropertyTree(PropertyTree&& other) noexcept
-{
-    m_content.swap(other.m_content);
-}
-
-PropertyTree::PropertyTree(PropertyTreeScalar scalar) noexcept : m_content(std::move(scalar)) {}
-
-PropertyTree::~PropertyTree()
-{
-    // A tree of one level needs no care, and most trees are of one level.
-    if (!AllChildren(*this, [](const PropertyTree& child) { return ChildCount(child) == 0; }))
-    {
-        Dismantle(*this);
-    }
+    Copying().Copy(other, *this); // the delegated-to constructor is done, so a failure in here runs the destructor
 }
 
 PropertyTree& PropertyTree::operator=(const PropertyTree& other)
 {
-    PropertyTree(other).swap(*this);
-    return *this;
+    return *this = PropertyTree(other);
 }
 
 PropertyTree& PropertyTree::operator=(PropertyTree&& other) noexcept
 {
-    PropertyTree(std::move(other)).swap(*this);
+    PropertyTree taken(std::move(other)); // first, since it may stand in this tree
+    Clear();
+    Take(taken);
     return *this;
 }
 
 void PropertyTree::swap(PropertyTree& other) noexcept
 {
-    m_content.swap(other.m_content);
+    PropertyTree held(std::move(other));
+    other.Take(*this);
+    Take(held);
 }
 
 bool PropertyTree::contains(std::string_view key) const noexcept
 {
-    const Map* map = std::get_if<Map>(&m_content);
-    return map && map->contains(key);
+    return IsMap() && m_map.content.contains(key);
 }
 
 PropertyTree& PropertyTree::operator[](std::string_view key)
@@ -219,62 +262,11 @@ const PropertyTree& PropertyTree::operator[](std::string_view key) const
     return getMap().at(key);
 }
 
-PropertyTree::Map& PropertyTree::getMap()
-{
-    Map* map = std::get_if<Map>(&m_content);
-    if (!map)
-    {
-        ThrowState("a map", *this);
-    }
-    return *map;
-}
-
-const PropertyTree::Map& PropertyTree::getMap() const
-{
-    const Map* map = std::get_if<Map>(&m_content);
-    if (!map)
-    {
-        ThrowState("a map", *this);
-    }
-    return *map;
-}
-
-PropertyTree::List& PropertyTree::getList()
-{
-    List* list = std::get_if<List>(&m_content);
-    if (!list)
-    {
-        ThrowState("a list", *this);
-    }
-    return *list;
-}
-
-const PropertyTree::List& PropertyTree::getList() const
-{
-    const List* list = std::get_if<List>(&m_content);
-    if (!list)
-    {
-        ThrowState("a list", *this);
-    }
-    return *list;
-}
-
-const PropertyTreeScalar& PropertyTree::getScalar() const
-{
-    const PropertyTreeScalar* scalar = std::get_if<PropertyTreeScalar>(&m_content);
-    if (!scalar)
-    {
-        ThrowState("a scalar", *this);
-    }
-    return *scalar;
-}
-
 void PropertyTree::convertToMap() noexcept
 {
-    if (!std::holds_alternative<Map>(m_content))
+    if (!IsMap())
     {
-        PropertyTree old(std::move(*this));
-        m_content.emplace<Map>();
+        SetMap(Map());
     }
 }
 
@@ -282,9 +274,24 @@ void PropertyTree::convertToList() noexcept
 {
     if (!isList())
     {
-        PropertyTree old(std::move(*this));
-        m_content.emplace<List>();
+        SetList(List());
     }
+}
+
+PropertyTree::Map& PropertyTree::makeMap(std::size_t count)
+{
+    Map map;
+    map.reserve(count);
+    SetMap(std::move(map));
+    return m_map.content;
+}
+
+PropertyTree::List& PropertyTree::makeList(std::size_t count)
+{
+    List list;
+    list.reserve(count);
+    SetList(std::move(list));
+    return m_list.content;
 }
 
 void PropertyTree::append(PropertyTree element)
@@ -298,54 +305,64 @@ void PropertyTree::append(PropertyTree element)
 
 bool operator==(const PropertyTree& a, const PropertyTree& b)
 {
-    std::vector<std::pair<const PropertyTree*, const PropertyTree*>> pending;
-    const auto differ = [&pending](const PropertyTree& left, const PropertyTree& right)
+    return Comparison().AreEqual(a, b);
+}
+
+void PropertyTree::Refuse(const char* expected) const
+{
+    throw std::invalid_argument(std::string("tree: expected ") + expected + ", found " + NameOf(*this));
+}
+
+void PropertyTree::SetMap(Map&& map) noexcept
+{
+    Clear();
+    ::new (static_cast<void*>(&m_map)) MapNode{STATE_MAP, std::move(map)};
+}
+
+void PropertyTree::SetList(List&& list) noexcept
+{
+    Clear();
+    ::new (static_cast<void*>(&m_list)) ListNode{STATE_LIST, std::move(list)};
+}
+
+// Moves the content of `other` into this tree, which must be null.
+void PropertyTree::Take(PropertyTree& other) noexcept
+{
+    if (other.isScalar())
     {
-        if (left.m_content.index() != right.m_content.index())
-        {
-            return true;
-        }
-        if (IsContainer(left))
-        {
-            pending.emplace_back(&left, &right);
-            return false;
-        }
-        return left.isScalar() && !(left.getScalar() == right.getScalar());
-    };
-    if (differ(a, b))
-    {
-        return false;
+        std::construct_at(&m_scalar, std::move(other.m_scalar));
+        std::destroy_at(&other.m_scalar);
     }
-    while (!pending.empty())
+    else if (other.IsMap())
     {
-        const auto [left, right] = pending.back();
-        pending.pop_back();
-        if (ChildCount(*left) != ChildCount(*right))
-        {
-            return false;
-        }
-        if (left->isList())
-        {
-            for (std::size_t i = 0; i < left->getList().size(); ++i)
-            {
-                if (differ(left->getList()[i], right->getList()[i]))
-                {
-                    return false;
-                }
-            }
-            continue;
-        }
-        auto other = right->getMap().begin();
-        for (const auto& [key, child] : left->getMap())
-        {
-            if (key != other->first || differ(child, other->second))
-            {
-                return false;
-            }
-            ++other;
-        }
+        SetMap(std::move(other.m_map.content));
+        std::destroy_at(&other.m_map);
     }
-    return true;
+    else if (other.isList())
+    {
+        SetList(std::move(other.m_list.content));
+        std::destroy_at(&other.m_list);
+    }
+    std::construct_at(&other.m_null);
+}
+
+// Destroys the content and leaves the tree without any.
+void PropertyTree::Release() noexcept
+{
+    if (isScalar())
+    {
+        std::destroy_at(&m_scalar);
+        return;
+    }
+    Empty(*this, 0);
+    if (isList())
+    {
+        std::destroy_at(&m_list);
+    }
+    else
+    {
+        std::destroy_at(&m_map);
+    }
 }
 
 } // namespace Ombrel

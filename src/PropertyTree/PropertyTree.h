@@ -6,10 +6,12 @@
 #include "PropertyTree/PropertyTreeScalar.h"
 
 #include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <string_view>
 #include <type_traits>
 #include <utility>
-#include <variant>
 #include <vector>
 
 namespace Ombrel
@@ -30,30 +32,55 @@ public:
     using Map = PropertyTreeMap;
     using List = std::vector<PropertyTree>;
 
-    PropertyTree() noexcept;
+    PropertyTree() noexcept : m_null{STATE_NULL} {}
     PropertyTree(const PropertyTree& other);
-    PropertyTree(PropertyTree&& other) noexcept;
-    PropertyTree(PropertyTreeScalar scalar) noexcept;
+
+    PropertyTree(PropertyTree&& other) noexcept : PropertyTree()
+    {
+        if (!other.isNull())
+        {
+            Take(other);
+        }
+    }
+
+    PropertyTree(PropertyTreeScalar scalar) noexcept : m_scalar(std::move(scalar)) {}
 
     /// Anything that makes a scalar makes a scalar tree: `tree["radius"] = 3`.
     template <class T>
     requires(std::constructible_from<PropertyTreeScalar, T> && !std::same_as<std::remove_cvref_t<T>, PropertyTree> &&
              !std::same_as<std::remove_cvref_t<T>, PropertyTreeScalar>) PropertyTree(T&& value)
-        : PropertyTree(PropertyTreeScalar(std::forward<T>(value)))
+        : m_scalar(std::forward<T>(value))
     {
     }
 
-    ~PropertyTree();
+    ~PropertyTree()
+    {
+        if (HoldsMemory())
+        {
+            Release();
+        }
+    }
 
     PropertyTree& operator=(const PropertyTree& other);
     PropertyTree& operator=(PropertyTree&& other) noexcept;
 
+    template <class T>
+    requires(std::constructible_from<PropertyTreeScalar, T> &&
+             !std::same_as<std::remove_cvref_t<T>, PropertyTree>) PropertyTree&
+    operator=(T&& value)
+    {
+        PropertyTreeScalar scalar(std::forward<T>(value)); // first, since it may stand in this tree
+        Clear();
+        std::construct_at(&m_scalar, std::move(scalar));
+        return *this;
+    }
+
     void swap(PropertyTree& other) noexcept;
     friend void swap(PropertyTree& a, PropertyTree& b) noexcept { a.swap(b); }
 
-    bool isNull() const noexcept { return std::holds_alternative<std::monostate>(m_content); }
-    bool isScalar() const noexcept { return std::holds_alternative<PropertyTreeScalar>(m_content); }
-    bool isList() const noexcept { return std::holds_alternative<List>(m_content); }
+    bool isNull() const noexcept { return State() == STATE_NULL; }
+    bool isScalar() const noexcept { return State() != STATE_NULL && State() <= STATE_TEXT; }
+    bool isList() const noexcept { return State() == STATE_LIST; }
 
     /// True if the tree is a map that holds `key`; false in any other state.
     bool contains(std::string_view key) const noexcept;
@@ -69,23 +96,54 @@ public:
 
     /// The map itself. The reference lives until the tree is assigned, converted or destroyed; so with the two below.
     /// @throws std::invalid_argument on anything but a map
-    Map& getMap();
-    const Map& getMap() const;
+    Map& getMap()
+    {
+        if (!IsMap())
+        {
+            Refuse("a map");
+        }
+        return m_map.content;
+    }
+
+    const Map& getMap() const { return const_cast<PropertyTree&>(*this).getMap(); }
 
     /// The list itself.
     /// @throws std::invalid_argument on anything but a list
-    List& getList();
-    const List& getList() const;
+    List& getList()
+    {
+        if (!isList())
+        {
+            Refuse("a list");
+        }
+        return m_list.content;
+    }
+
+    const List& getList() const { return const_cast<PropertyTree&>(*this).getList(); }
 
     /// The scalar itself.
     /// @throws std::invalid_argument on anything but a scalar
-    const PropertyTreeScalar& getScalar() const;
+    const PropertyTreeScalar& getScalar() const
+    {
+        if (!isScalar())
+        {
+            Refuse("a scalar");
+        }
+        return m_scalar;
+    }
 
     /// Makes the tree a map: a map keeps its entries, any other state becomes an empty map.
     void convertToMap() noexcept;
 
     /// Makes the tree a list: a list keeps its elements, any other state becomes an empty list.
     void convertToList() noexcept;
+
+    /// Makes the tree an empty map with room for `count` entries, whatever it held.
+    /// @throws std::length_error as `Map::reserve`; the tree is then unchanged, as it is when memory is missing
+    Map& makeMap(std::size_t count = 0);
+
+    /// Makes the tree an empty list with room for `count` elements, whatever it held.
+    /// @throws std::length_error as `List::reserve`; the tree is then unchanged, as it is when memory is missing
+    List& makeList(std::size_t count = 0);
 
     /// Adds `element` at the end of the list; a null tree first becomes an empty list.
     /// @throws std::invalid_argument on a scalar or a map
@@ -95,7 +153,60 @@ public:
     friend OMBREL_API bool operator==(const PropertyTree& a, const PropertyTree& b);
 
 private:
-    std::variant<std::monostate, PropertyTreeScalar, Map, List> m_content;
+    class Copying;
+
+    // A scalar's states are the numbers of its kinds.
+    static constexpr std::uint8_t STATE_NULL = 0;
+    static constexpr std::uint8_t STATE_TEXT = static_cast<std::uint8_t>(PropertyTreeScalar::Kind::String);
+    static constexpr std::uint8_t STATE_MAP = STATE_TEXT + 1;
+    static constexpr std::uint8_t STATE_LIST = STATE_TEXT + 2;
+
+    struct Null
+    {
+        std::uint8_t state;
+    };
+
+    struct MapNode
+    {
+        std::uint8_t state;
+        Map content;
+    };
+
+    struct ListNode
+    {
+        std::uint8_t state;
+        List content;
+    };
+
+    // Every member begins with the state, which may therefore be read through any of them.
+    std::uint8_t State() const noexcept { return m_null.state; }
+    bool IsMap() const noexcept { return State() == STATE_MAP; }
+    bool HoldsMemory() const noexcept { return State() >= STATE_TEXT; }
+
+    [[noreturn]] void Refuse(const char* expected) const;
+
+    // Makes the tree null.
+    void Clear() noexcept
+    {
+        if (HoldsMemory())
+        {
+            Release();
+        }
+        std::construct_at(&m_null);
+    }
+
+    void SetMap(Map&& map) noexcept;
+    void SetList(List&& list) noexcept;
+    void Take(PropertyTree& other) noexcept;
+    void Release() noexcept;
+
+    union
+    {
+        Null m_null;
+        PropertyTreeScalar m_scalar;
+        MapNode m_map;
+        ListNode m_list;
+    };
 };
 
 } // namespace Ombrel

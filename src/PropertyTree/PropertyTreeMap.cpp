@@ -1,27 +1,45 @@
 #include "PropertyTree/PropertyTreeMap.h"
 
 #include "PropertyTree/PropertyTree.h"
+#include "PropertyTree/PropertyTreeMapIndex.h"
 
 #include <algorithm>
+#include <limits>
+#include <memory>
+#include <new>
 #include <stdexcept>
 
 namespace Ombrel
 {
-
-PropertyTreeMap::PropertyTreeMap() noexcept = default;
-
-PropertyTreeMap::PropertyTreeMap(const PropertyTreeMap& other)
+namespace
 {
-    m_entries.reserve(other.m_entries.size());
-    for (const Entry& entry : other.m_entries)
+
+constexpr std::size_t FIRST_CAPACITY = 4; // of a map that has reserved nothing
+
+} // namespace
+
+PropertyTreeMap::Root* PropertyTreeMap::Root::Make(size_type capacity)
+{
+    constexpr size_type headBytes = sizeof(std::uint64_t);
+    constexpr size_type bytesPerEntry = sizeof(value_type) + headBytes + sizeof(value_type*) + sizeof(Leaf); // mostly less
+    if (capacity > std::numeric_limits<difference_type>::max() / bytesPerEntry - bytesPerEntry)
     {
-        m_entries.push_back(std::make_unique<value_type>(*entry));
+        throw std::length_error("tree: a map of so many entries cannot be");
     }
+    void* memory = ::operator new(sizeof(Root) + capacity * (sizeof(value_type) + headBytes) + Index::BytesFor(capacity));
+    value_type* slots = Behind<value_type>(memory, sizeof(Root));
+    std::uint64_t* heads = Behind<std::uint64_t>(slots, capacity * sizeof(value_type));
+    return ::new (memory) Root{0, capacity, slots, heads, slots, nullptr, nullptr};
 }
 
-PropertyTreeMap::PropertyTreeMap(PropertyTreeMap&& other) noexcept = default;
-
-PropertyTreeMap::~PropertyTreeMap() = default;
+PropertyTreeMap::PropertyTreeMap(const PropertyTreeMap& other) : PropertyTreeMap()
+{
+    reserve(other.size()); // the delegated-to constructor is done, so a failure in here runs the destructor
+    for (const auto& [key, child] : other)
+    {
+        Append(key) = child;
+    }
+}
 
 PropertyTreeMap& PropertyTreeMap::operator=(const PropertyTreeMap& other)
 {
@@ -35,21 +53,45 @@ PropertyTreeMap& PropertyTreeMap::operator=(PropertyTreeMap&& other) noexcept
     return *this;
 }
 
-void PropertyTreeMap::swap(PropertyTreeMap& other) noexcept
+void PropertyTreeMap::reserve(size_type count)
 {
-    m_entries.swap(other.m_entries);
+    if (empty())
+    {
+        if (count != 0 && (!m_root || m_root->index || m_root->capacity < count))
+        {
+            Root* root = Root::Make(count);
+            clear();
+            m_root = root;
+        }
+        return;
+    }
+    if (count > m_root->capacity && count <= Index::LEAF_MAX)
+    {
+        Index* index = m_root->index ? m_root->index : Index::Make(*m_root);
+        const size_type capacity = index->SingleCapacity();
+        if (capacity != 0 && capacity < count)
+        {
+            index->Widen(count - capacity, m_root->blocks);
+            m_root->index = index;
+        }
+    }
 }
 
 PropertyTreeMap::iterator PropertyTreeMap::find(std::string_view key) noexcept
 {
-    const size_type index = LowerBound(key);
-    return HoldsAt(index, key) ? iterator(m_entries.data() + index) : end();
+    const Where where = Search(key);
+    return where.isThere ? At<iterator>(where) : end();
 }
 
 PropertyTreeMap::const_iterator PropertyTreeMap::find(std::string_view key) const noexcept
 {
-    const size_type index = LowerBound(key);
-    return HoldsAt(index, key) ? const_iterator(m_entries.data() + index) : end();
+    const Where where = Search(key);
+    return where.isThere ? At<const_iterator>(where) : end();
+}
+
+bool PropertyTreeMap::contains(std::string_view key) const noexcept
+{
+    return Search(key).isThere;
 }
 
 PropertyTree& PropertyTreeMap::at(std::string_view key)
@@ -59,31 +101,32 @@ PropertyTree& PropertyTreeMap::at(std::string_view key)
 
 const PropertyTree& PropertyTreeMap::at(std::string_view key) const
 {
-    const const_iterator found = find(key);
-    if (found == end())
+    const Where where = Search(key);
+    if (!where.isThere)
     {
         throw std::out_of_range("invalid map<K, T> key");
     }
-    return found->second;
+    return At<const_iterator>(where)->second;
 }
 
 PropertyTree& PropertyTreeMap::operator[](std::string_view key)
 {
-    return try_emplace(key, PropertyTree()).first->second;
+    if (const std::uint64_t head = HeadOf(key); HasRoomAtEnd(key, head))
+    {
+        return Append(key, head);
+    }
+    return At<iterator>(Insert(key))->second;
 }
 
 std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::try_emplace(std::string_view key, PropertyTree&& value)
 {
-    const size_type index = LowerBound(key);
-    if (HoldsAt(index, key))
+    const Where where = Insert(key);
+    const iterator position = At<iterator>(where);
+    if (!where.isThere)
     {
-        return {iterator(m_entries.data() + index), false};
+        position->second = std::move(value);
     }
-    Entry entry = std::make_unique<value_type>(key, PropertyTree());
-    PropertyTree& child = entry->second;
-    const iterator inserted = InsertAt(index, std::move(entry));
-    child = std::move(value); // only now can nothing fail any more
-    return {inserted, true};
+    return {position, !where.isThere};
 }
 
 std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::insert(value_type entry)
@@ -93,55 +136,154 @@ std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::insert(value_type en
 
 PropertyTreeMap::iterator PropertyTreeMap::erase(const_iterator position) noexcept
 {
-    const auto index = position.m_position - m_entries.data();
-    m_entries.erase(m_entries.begin() + index);
-    return iterator(m_entries.data() + index);
+    if (m_root->index)
+    {
+        return EraseAt({static_cast<size_type>(position.m_leaf - FirstLeaf()), position.m_place});
+    }
+    return EraseAt({0, static_cast<size_type>(position.m_entry - m_root->slots)});
 }
 
 PropertyTreeMap::size_type PropertyTreeMap::erase(std::string_view key) noexcept
 {
-    const iterator found = find(key);
-    if (found == end())
+    const Where where = Search(key);
+    if (!where.isThere)
     {
         return 0;
     }
-    erase(found);
+    EraseAt(where);
     return 1;
-}
-
-void PropertyTreeMap::clear() noexcept
-{
-    m_entries.clear();
 }
 
 bool operator==(const PropertyTreeMap& a, const PropertyTreeMap& b)
 {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](const auto& left, const auto& right)
-                      { return left.first == right.first && left.second == right.second; });
+    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
+                                              [](const auto& left, const auto& right)
+                                              { return left.first == right.first && left.second == right.second; });
 }
 
-PropertyTreeMap::size_type PropertyTreeMap::LowerBound(std::string_view key) const noexcept
+const PropertyTreeMap::Leaf* PropertyTreeMap::FirstLeaf() const noexcept
 {
-    // Trees are mostly written in key order: then the new key belongs at the end.
-    if (m_entries.empty() || m_entries.back()->first < key)
+    return m_root->index->FirstLeaf();
+}
+
+const PropertyTreeMap::Leaf* PropertyTreeMap::EndLeaf() const noexcept
+{
+    return m_root->index->EndLeaf();
+}
+
+PropertyTreeMap::Where PropertyTreeMap::Search(std::string_view key) const noexcept
+{
+    if (!m_root)
     {
-        return m_entries.size();
+        return {};
     }
-    const auto found = std::lower_bound(m_entries.begin(), m_entries.end(), key,
-                                        [](const Entry& entry, std::string_view wanted) { return entry->first < wanted; });
-    return static_cast<size_type>(found - m_entries.begin());
+    if (m_root->index)
+    {
+        return m_root->index->Find(key);
+    }
+    const auto [place, isThere] =
+        PlaceAmong(m_root->heads, m_root->size, key, [this](size_type i) { return m_root->slots + i; });
+    return {0, place, isThere};
 }
 
-bool PropertyTreeMap::HoldsAt(size_type index, std::string_view key) const noexcept
+template <class It> It PropertyTreeMap::At(const Where& where) const noexcept
 {
-    return index < m_entries.size() && m_entries[index]->first == key;
+    return m_root->index ? It(m_root->index->LeafAt(where), where.place) : It(m_root->slots + where.place);
 }
 
-PropertyTreeMap::iterator PropertyTreeMap::InsertAt(size_type index, Entry entry)
+// Whether `Append` can take it.
+bool PropertyTreeMap::HasRoomAtEnd(std::string_view key, std::uint64_t head) const noexcept
 {
-    const auto inserted = m_entries.insert(m_entries.begin() + static_cast<difference_type>(index), std::move(entry));
-    return iterator(std::to_address(inserted));
+    if (!m_root || m_root->index || m_root->size == m_root->capacity)
+    {
+        return false;
+    }
+    if (m_root->size == 0)
+    {
+        return true;
+    }
+    const std::uint64_t last = m_root->heads[m_root->size - 1];
+    return last < head || (last == head && m_root->end[-1].first < key);
+}
+
+PropertyTree& PropertyTreeMap::Append(std::string_view key, std::uint64_t head)
+{
+    value_type* entry = std::construct_at(m_root->end, key, PropertyTree());
+    m_root->heads[m_root->size] = head;
+    ++m_root->end;
+    ++m_root->size;
+    return entry->second;
+}
+
+PropertyTree& PropertyTreeMap::Append(std::string_view key)
+{
+    return Append(key, HeadOf(key));
+}
+
+// Finds the entry, or makes it with a null tree.
+PropertyTreeMap::Where PropertyTreeMap::Insert(std::string_view key)
+{
+    if (!m_root)
+    {
+        PropertyTreeMap first;
+        first.m_root = Root::Make(FIRST_CAPACITY);
+        first.Append(key);
+        swap(first);
+        return {};
+    }
+    if (const std::uint64_t head = HeadOf(key); HasRoomAtEnd(key, head))
+    {
+        Append(key, head);
+        return {0, m_root->size - 1};
+    }
+    Where where = Search(key);
+    if (!where.isThere)
+    {
+        std::string text(key); // first, so that nothing is left to fail once there is room
+        Index* index = m_root->index;
+        if (!index)
+        {
+            index = Index::Make(*m_root);
+            where = index->Find(where.place);
+        }
+        index->MakeRoom(where, m_root->blocks);
+        m_root->index = index;
+        index->Insert(where, std::move(text));
+        ++m_root->size;
+    }
+    return where;
+}
+
+// Erases the entry and finds the next.
+PropertyTreeMap::iterator PropertyTreeMap::EraseAt(Where where) noexcept
+{
+    if (!m_root->index)
+    {
+        if (where.place + 1 == m_root->size)
+        {
+            std::destroy_at(--m_root->end);
+            --m_root->size;
+            return end();
+        }
+        m_root->index = Index::Make(*m_root);
+        where = m_root->index->Find(where.place);
+    }
+    m_root->index->Erase(where);
+    --m_root->size;
+    return At<iterator>(where);
+}
+
+void PropertyTreeMap::Release() noexcept
+{
+    for (value_type& entry : *this)
+    {
+        std::destroy_at(&entry);
+    }
+    while (m_root->blocks)
+    {
+        ::operator delete(std::exchange(m_root->blocks, m_root->blocks->next));
+    }
+    ::operator delete(std::exchange(m_root, nullptr));
 }
 
 } // namespace Ombrel

@@ -32,17 +32,18 @@ const char* NameOf(PropertyTreeScalar::Kind kind)
 
 std::int64_t PropertyTreeScalar::toInt() const
 {
-    if (const auto* integer = std::get_if<std::int64_t>(&m_value))
+    if (kind() == Kind::Integer)
     {
-        return *integer;
+        return Integer();
     }
-    if (const auto* real = std::get_if<double>(&m_value))
+    if (kind() == Kind::Float)
     {
         // Both bounds are exact as doubles; the upper one is the first value that does not fit. A NaN fails both.
         constexpr double lowest = -9223372036854775808.0;
-        if (*real >= lowest && *real < -lowest)
+        const double value = Float();
+        if (value >= lowest && value < -lowest)
         {
-            return static_cast<std::int64_t>(*real);
+            return static_cast<std::int64_t>(value);
         }
         throw std::out_of_range("scalar: the float is no number or does not fit a 64-bit integer");
     }
@@ -51,22 +52,22 @@ std::int64_t PropertyTreeScalar::toInt() const
 
 double PropertyTreeScalar::toDouble() const
 {
-    if (const auto* real = std::get_if<double>(&m_value))
+    if (kind() == Kind::Float)
     {
-        return *real;
+        return Float();
     }
-    if (const auto* integer = std::get_if<std::int64_t>(&m_value))
+    if (kind() == Kind::Integer)
     {
-        return static_cast<double>(*integer);
+        return static_cast<double>(Integer());
     }
     ThrowKind("a number", kind());
 }
 
 const std::string& PropertyTreeScalar::toString() const
 {
-    if (const auto* text = std::get_if<std::string>(&m_value))
+    if (IsText())
     {
-        return *text;
+        return m_text;
     }
     ThrowKind("a string", kind());
 }
@@ -78,17 +79,33 @@ const char* PropertyTreeScalar::toCString() const
 
 void PropertyTreeScalar::convertTo(bool& value) const
 {
-    const auto* flag = std::get_if<bool>(&m_value);
-    if (!flag)
+    if (kind() != Kind::Bool)
     {
         ThrowKind("a bool", kind());
     }
-    value = *flag;
+    value = m_bits != 0;
 }
 
 void PropertyTreeScalar::convertTo(std::string& value) const
 {
     value = toString();
+}
+
+bool operator==(const PropertyTreeScalar& a, const PropertyTreeScalar& b) noexcept
+{
+    if (a.m_kind != b.m_kind)
+    {
+        return false;
+    }
+    switch (a.kind())
+    {
+    case PropertyTreeScalar::Kind::String:
+        return a.m_text == b.m_text;
+    case PropertyTreeScalar::Kind::Float:
+        return a.Float() == b.Float();
+    default:
+        return a.m_bits == b.m_bits;
+    }
 }
 
 } // namespace Ombrel

@@ -3,11 +3,12 @@
 
 #include "Export.h"
 
+#include <bit>
 #include <concepts>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <utility>
-#include <variant>
 
 namespace Ombrel
 {
@@ -28,22 +29,45 @@ public:
         String = 4,
     };
 
-    PropertyTreeScalar(std::same_as<bool> auto value) noexcept : m_value(value) {}
+    PropertyTreeScalar(std::same_as<bool> auto value) noexcept : m_kind(Number(Kind::Bool)), m_bits(value) {}
 
     /// Widens to 64 bits: sign-extended from a signed type, zero-extended from an unsigned one. An unsigned 64-bit value
     /// above the signed range stands as the negative integer of the same bits.
     template <std::integral T>
     requires(!std::same_as<T, bool>) PropertyTreeScalar(T value)
-    noexcept : m_value(static_cast<std::int64_t>(value)) {}
+    noexcept : m_kind(Number(Kind::Integer)), m_bits(static_cast<std::uint64_t>(value)) {}
 
-    PropertyTreeScalar(std::floating_point auto value) noexcept : m_value(static_cast<double>(value)) {}
+    PropertyTreeScalar(std::floating_point auto value) noexcept
+        : m_kind(Number(Kind::Float)), m_bits(std::bit_cast<std::uint64_t>(static_cast<double>(value)))
+    {
+    }
 
-    PropertyTreeScalar(std::string value) noexcept : m_value(std::move(value)) {}
+    PropertyTreeScalar(std::string value) noexcept : m_kind(Number(Kind::String)), m_text(std::move(value)) {}
 
     /// Copies up to the terminating zero; `text` must not be null.
-    PropertyTreeScalar(const char* text) : m_value(std::string(text)) {}
+    PropertyTreeScalar(const char* text) : PropertyTreeScalar(std::string(text)) {}
 
-    Kind kind() const noexcept { return static_cast<Kind>(m_value.index() + 1); }
+    PropertyTreeScalar(const PropertyTreeScalar& other) : PropertyTreeScalar(other, other.m_text) {}
+    PropertyTreeScalar(PropertyTreeScalar&& other) noexcept : PropertyTreeScalar(other, std::move(other.m_text)) {}
+
+    ~PropertyTreeScalar()
+    {
+        if (IsText())
+        {
+            std::destroy_at(&m_text);
+        }
+    }
+
+    PropertyTreeScalar& operator=(const PropertyTreeScalar& other) { return *this = PropertyTreeScalar(other); }
+
+    PropertyTreeScalar& operator=(PropertyTreeScalar&& other) noexcept
+    {
+        PropertyTreeScalar value(std::move(other)); // first, since the two may be one
+        std::destroy_at(this);
+        return *std::construct_at(this, std::move(value));
+    }
+
+    Kind kind() const noexcept { return static_cast<Kind>(m_kind); }
 
     /// The integer; a float is truncated towards zero.
     /// @throws std::out_of_range if a float is NaN or does not fit 64 bits
@@ -71,11 +95,36 @@ public:
     void convertTo(std::string& value) const;
 
     /// Equal kind and equal value: the integer 1 is not the float 1.0, -0.0 is 0.0, and a NaN equals nothing.
-    friend bool operator==(const PropertyTreeScalar&, const PropertyTreeScalar&) = default;
+    friend OMBREL_API bool operator==(const PropertyTreeScalar& a, const PropertyTreeScalar& b) noexcept;
 
 private:
-    // The order of the alternatives is the order of Kind.
-    std::variant<bool, std::int64_t, double, std::string> m_value;
+    static constexpr std::uint8_t Number(Kind kind) { return static_cast<std::uint8_t>(kind); }
+
+    // `text` is that of `other`, if it has one.
+    template <class Text> PropertyTreeScalar(const PropertyTreeScalar& other, Text&& text) : m_kind(other.m_kind)
+    {
+        if (IsText())
+        {
+            std::construct_at(&m_text, std::forward<Text>(text));
+        }
+        else
+        {
+            m_bits = other.m_bits;
+        }
+    }
+
+    bool IsText() const noexcept { return m_kind == Number(Kind::String); }
+
+    std::int64_t Integer() const noexcept { return static_cast<std::int64_t>(m_bits); }
+    double Float() const noexcept { return std::bit_cast<double>(m_bits); }
+
+    // The kind's number stands first and as a plain byte: a tree reads its own state from the same place.
+    std::uint8_t m_kind;
+    union
+    {
+        std::uint64_t m_bits; // of a bool, an integer or a float, so that copying need not tell them apart
+        std::string m_text;
+    };
 };
 
 } // namespace Ombrel

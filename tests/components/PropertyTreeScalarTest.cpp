@@ -128,6 +128,31 @@ TEST(PropertyTreeScalar, EqualityLooksAtKindAndValue)
     EXPECT_FALSE(PropertyTreeScalar(std::nan("")) == PropertyTreeScalar(std::nan("")));
 }
 
+TEST(PropertyTreeScalar, EveryKindIsAssignedToEveryKind)
+{
+    const std::string text(100, 'x');
+    const PropertyTreeScalar scalars[] = {true, 5, 2.5, "short", text};
+    for (const PropertyTreeScalar& source : scalars)
+    {
+        for (PropertyTreeScalar target : scalars)
+        {
+            target = source;
+            EXPECT_EQ(target, source);
+            PropertyTreeScalar& self = target;
+            target = std::as_const(self);
+            EXPECT_EQ(target, source);
+            target = std::move(self);
+            EXPECT_EQ(target, source);
+            PropertyTreeScalar moved = std::move(target);
+            EXPECT_EQ(moved, source);
+            target = std::move(moved);
+            EXPECT_EQ(target, source);
+        }
+    }
+    static_assert(std::is_nothrow_move_constructible_v<PropertyTreeScalar>);
+    static_assert(std::is_nothrow_move_assignable_v<PropertyTreeScalar>);
+}
+
 TEST(PropertyTreeScalar, PointersMakeNoScalar)
 {
     static_assert(!std::is_constructible_v<PropertyTreeScalar, int*>);

@@ -86,6 +86,29 @@ TEST(PropertyTree, ConvertingAnotherStateStartsEmpty)
     EXPECT_EQ(list, List({1}));
 }
 
+TEST(PropertyTree, MakingAContainerStartsEmptyWhateverItWas)
+{
+    for (PropertyTree tree : {PropertyTree(), PropertyTree("text"), List({1, 2}), Map({{"a", 1}})})
+    {
+        tree.makeMap(2)["b"] = 1;
+        EXPECT_EQ(tree, Map({{"b", 1}}));
+    }
+    for (PropertyTree tree : {PropertyTree(), PropertyTree("text"), List({1, 2}), Map({{"a", 1}})})
+    {
+        PropertyTree::List& list = tree.makeList(2);
+        EXPECT_GE(list.capacity(), 2u);
+        list.emplace_back(7);
+        EXPECT_EQ(tree, List({7}));
+    }
+}
+
+TEST(PropertyTree, IsNoLargerThanAScalar)
+{
+    static_assert(sizeof(PropertyTree) == sizeof(PropertyTreeScalar) && sizeof(PropertyTree::Map) == sizeof(void*));
+    const PropertyTree tree("text");
+    EXPECT_EQ(static_cast<const void*>(&tree.getScalar()), &tree);
+}
+
 TEST(PropertyTree, CopiesAreDeep)
 {
     const PropertyTree first = Map({{"x", 1}});
@@ -188,6 +211,13 @@ TEST(PropertyTree, AssignsFromItsOwnParts)
 
     tree = original;
     tree = tree["a"]["b"].getList()[2].getScalar();
+    EXPECT_EQ(tree, PropertyTree("text"));
+
+    tree = original;
+    tree = tree["a"]["b"].getList()[2].getScalar().toString();
+    EXPECT_EQ(tree, PropertyTree("text"));
+    tree = tree.getScalar();
+    tree = tree.getScalar().toCString();
     EXPECT_EQ(tree, PropertyTree("text"));
 
     tree = original;

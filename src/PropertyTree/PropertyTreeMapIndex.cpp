@@ -1,0 +1,228 @@
+#include "PropertyTree/PropertyTreeMapIndex.h"
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <new>
+
+namespace Ombrel
+{
+namespace
+{
+
+using Entry = PropertyTreeMap::value_type;
+
+// Nothing that is put behind something else in a block needs a gap.
+static_assert(alignof(Entry) == alignof(void*) && sizeof(Entry) % alignof(void*) == 0);
+
+// Makes the places point to the slots in order.
+void PointTo(Entry* slot, std::size_t count, Entry** places)
+{
+    std::generate_n(places, count, [slot]() mutable { return slot++; });
+}
+
+} // namespace
+
+PropertyTreeMap::Block* PropertyTreeMap::Block::Make(size_type bytes, Block*& blocks)
+{
+    blocks = ::new (::operator new(sizeof(Block) + bytes)) Block{blocks};
+    return blocks;
+}
+
+std::size_t PropertyTreeMap::Index::LeavesFor(size_type capacity) noexcept
+{
+    return std::max(capacity / LEAF_MIN, size_type{1});
+}
+
+std::size_t PropertyTreeMap::Index::BytesFor(size_type capacity) noexcept
+{
+    return sizeof(Index) + (LeavesFor(capacity) + 1) * sizeof(Leaf) + capacity * sizeof(value_type*);
+}
+
+PropertyTreeMap::Index* PropertyTreeMap::Index::Make(const Root& root) noexcept
+{
+    void* memory = root.heads + root.capacity;
+    const size_type total = LeavesFor(root.capacity);
+    Leaf* leaves = Behind<Leaf>(memory, sizeof(Index));
+    value_type** places = Behind<value_type*>(leaves, (total + 1) * sizeof(Leaf));
+    PointTo(root.slots, root.capacity, places);
+    Index* index = ::new (memory) Index(leaves, total);
+    for (size_type i = 0; i < total; ++i)
+    {
+        const size_type begin = i * root.capacity / total;
+        const size_type end = (i + 1) * root.capacity / total;
+        const size_type count = std::clamp(root.size, begin, end) - begin;
+        leaves[i] = {places + begin, root.heads + begin, count, end - begin};
+        index->m_used += count == 0 ? 0 : 1;
+    }
+    leaves[total] = {};
+    return index;
+}
+
+PropertyTreeMap::Where PropertyTreeMap::Index::Find(size_type place) const noexcept
+{
+    size_type leaf = 0;
+    while (leaf + 1 < m_used && place >= m_leaves[leaf].count)
+    {
+        place -= m_leaves[leaf].count;
+        ++leaf;
+    }
+    return {leaf, place};
+}
+
+PropertyTreeMap::Where PropertyTreeMap::Index::Find(std::string_view key) const noexcept
+{
+    const auto comesAfter = [key, head = HeadOf(key)](const Leaf& leaf)
+    { return head != leaf.heads[0] ? head < leaf.heads[0] : key < leaf.places[0]->first; };
+    // The last leaf that begins with this key or one before it, else the first.
+    const Leaf* next = std::partition_point(m_leaves, m_leaves + m_used, std::not_fn(comesAfter));
+    const Leaf& leaf = next == m_leaves ? *next : next[-1];
+    const auto [place, isThere] = PlaceAmong(leaf.heads, leaf.count, key, [&leaf](size_type i) { return leaf.places[i]; });
+    return {static_cast<size_type>(&leaf - m_leaves), place, isThere};
+}
+
+void PropertyTreeMap::Index::MakeRoom(Where& where, Block*& blocks)
+{
+    const Leaf& leaf = m_leaves[where.leaf];
+    if (m_used == 0)
+    {
+        m_used = 1;
+    }
+    else if (leaf.count == leaf.capacity)
+    {
+        if (m_total == 1 && leaf.capacity < LEAF_MIN)
+        {
+            Widen(leaf.capacity, blocks);
+            return;
+        }
+        AddLeaf(blocks);
+        Split(where);
+    }
+}
+
+void PropertyTreeMap::Index::Widen(size_type more, Block*& blocks)
+{
+    const Leaf narrow = m_leaves[0];
+    m_leaves[0] = MakeLeaf(narrow.capacity + more, more, blocks);
+    m_leaves[0].count = narrow.count;
+    std::copy_n(narrow.heads, narrow.count, m_leaves[0].heads);
+    std::copy_n(narrow.places, narrow.capacity, m_leaves[0].places);
+}
+
+// A leaf whose last places point to new slots.
+PropertyTreeMap::Leaf PropertyTreeMap::Index::MakeLeaf(size_type capacity, size_type slotCount, Block*& blocks)
+{
+    const size_type bytes = slotCount * sizeof(value_type) + capacity * (sizeof(std::uint64_t) + sizeof(value_type*));
+    value_type* slots = Behind<value_type>(Block::Make(bytes, blocks), sizeof(Block));
+    std::uint64_t* heads = Behind<std::uint64_t>(slots, slotCount * sizeof(value_type));
+    value_type** places = Behind<value_type*>(heads, capacity * sizeof(std::uint64_t));
+    PointTo(slots, slotCount, places + (capacity - slotCount));
+    return {places, heads, 0, capacity};
+}
+
+// Sees to it that there is an empty leaf.
+void PropertyTreeMap::Index::AddLeaf(Block*& blocks)
+{
+    if (m_used < m_total)
+    {
+        return;
+    }
+    if (m_total == m_room)
+    {
+        Leaf* row = Behind<Leaf>(Block::Make((2 * m_room + 1) * sizeof(Leaf), blocks), sizeof(Block));
+        std::copy_n(m_leaves, m_total + 1, row);
+        m_leaves = row;
+        m_room *= 2;
+    }
+    m_leaves[m_total] = MakeLeaf(LEAF_MAX, LEAF_MAX, blocks);
+    m_leaves[++m_total] = {};
+}
+
+// Puts an empty leaf beside the full one and half of the entries into it; none where keys come in rising or in falling order,
+// so that the leaves that they leave behind are full.
+void PropertyTreeMap::Index::Split(Where& where) noexcept
+{
+    Leaf& full = m_leaves[where.leaf];
+    Leaf& empty = m_leaves[m_used];
+    const bool isFirst = where.leaf == 0 && where.place == 0;
+    const bool isLast = where.leaf + 1 == m_used && where.place == full.count;
+    if (!isFirst && !isLast)
+    {
+        MoveEntries(full, full.count - full.count / 2, empty);
+    }
+    const size_type kept = full.count;
+    const size_type target = isFirst ? 0 : where.leaf + 1;
+    std::rotate(m_leaves + target, m_leaves + m_used, m_leaves + m_used + 1);
+    ++m_used;
+    if (isLast || where.place > kept)
+    {
+        where = {target, where.place - kept};
+    }
+}
+
+void PropertyTreeMap::Index::Insert(const Where& where, std::string&& key) noexcept
+{
+    Leaf& leaf = m_leaves[where.leaf];
+    value_type** place = leaf.places + where.place;
+    std::uint64_t* head = leaf.heads + where.place;
+    std::rotate(place, leaf.places + leaf.count, leaf.places + leaf.count + 1);
+    std::copy_backward(head, leaf.heads + leaf.count, leaf.heads + leaf.count + 1);
+    ++leaf.count;
+    *head = HeadOf(key);
+    std::construct_at(*place, std::move(key), PropertyTree());
+}
+
+void PropertyTreeMap::Index::Erase(Where& where) noexcept
+{
+    Leaf& leaf = m_leaves[where.leaf];
+    value_type** place = leaf.places + where.place;
+    std::uint64_t* head = leaf.heads + where.place;
+    std::destroy_at(*place);
+    std::rotate(place, place + 1, leaf.places + leaf.count);
+    std::copy(head + 1, leaf.heads + leaf.count, head);
+    --leaf.count;
+    if (leaf.count == 0)
+    {
+        Drop(where.leaf);
+    }
+    else if (CanJoin(where.leaf))
+    {
+        Join(where.leaf);
+    }
+    else if (where.leaf != 0 && CanJoin(where.leaf - 1))
+    {
+        where = {where.leaf - 1, where.place + m_leaves[where.leaf - 1].count};
+        Join(where.leaf);
+    }
+}
+
+// Moves the entries from `first` on behind those of `to`, and as many free slots back.
+void PropertyTreeMap::Index::MoveEntries(Leaf& from, size_type first, Leaf& to) noexcept
+{
+    const size_type count = from.count - first;
+    std::swap_ranges(from.places + first, from.places + from.count, to.places + to.count);
+    std::copy_n(from.heads + first, count, to.heads + to.count);
+    to.count += count;
+    from.count = first;
+}
+
+// Whether the leaf and the next one are so empty that both fit into one with much room left.
+bool PropertyTreeMap::Index::CanJoin(size_type leaf) const noexcept
+{
+    return leaf + 1 < m_used && m_leaves[leaf].count + m_leaves[leaf + 1].count <= LEAF_MIN / 2;
+}
+
+void PropertyTreeMap::Index::Join(size_type leaf) noexcept
+{
+    MoveEntries(m_leaves[leaf + 1], 0, m_leaves[leaf]);
+    Drop(leaf + 1);
+}
+
+// Puts a leaf that has become empty behind those in use.
+void PropertyTreeMap::Index::Drop(size_type leaf) noexcept
+{
+    std::rotate(m_leaves + leaf, m_leaves + leaf + 1, m_leaves + m_used);
+    --m_used;
+}
+
+} // namespace Ombrel

@@ -1,0 +1,263 @@
+#include "PropertyTree/PropertyTree.h"
+#include "support/FailingMemory.h"
+#include "support/TreeText.h"
+
+#include <gtest/gtest.h>
+
+#include <new>
+#include <stdexcept>
+
+namespace
+{
+
+using Ombrel::PropertyTree;
+using Map = PropertyTree::Map;
+
+constexpr const char* KEYS[] = {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j",
+                                "k", "l", "m", "n", "o", "p", "q", "r", "s", "fifteen letters"};
+
+template <class Work> std::size_t AllocationsOf(Work work)
+{
+    const std::size_t before = Support::AllocationCount();
+    work();
+    return Support::AllocationCount() - before;
+}
+
+// So many entries with keys that differ from the first character on or far behind.
+Map Sample(int count)
+{
+    Map map;
+    for (int i = 0; i < count; ++i)
+    {
+        map[std::to_string(i * 7919 % count)] = i;
+        map["a key that does not fit into a string " + std::to_string(i * 7919 % count)].append("a text that does not either");
+    }
+    return map;
+}
+
+TEST(PropertyTreeMapMemory, AnEmptyMapNeedsNone)
+{
+    EXPECT_EQ(AllocationsOf(
+                  []
+                  {
+                      Map map;
+                      map.reserve(0);
+                      Map copy = map;
+                      copy = map;
+                      map.clear();
+                      map.erase("a");
+                      EXPECT_FALSE(copy.contains("a"));
+                      EXPECT_EQ(map.begin(), map.end());
+                      PropertyTree tree;
+                      tree.convertToMap();
+                      tree.makeMap();
+                      EXPECT_TRUE(tree.getMap().empty());
+                  }),
+              0u);
+}
+
+TEST(PropertyTreeMapMemory, WhatIsReservedIsOneBlock)
+{
+    EXPECT_EQ(AllocationsOf(
+                  []
+                  {
+                      Map map;
+                      map.reserve(20);
+                      for (const char* key : KEYS)
+                      {
+                          map[key] = 1.0;
+                      }
+                      EXPECT_EQ(map.size(), 20u);
+                  }),
+              1u);
+}
+
+TEST(PropertyTreeMapMemory, AnEntryOutOfOrderTakesReservedRoomToo)
+{
+    PropertyTree tree;
+    EXPECT_EQ(AllocationsOf(
+                  [&]
+                  {
+                      Map& map = tree.makeMap(4);
+                      map["blur"] = 1;
+                      map["radius"] = 2;
+                      map["sigma"] = 3;
+                      const PropertyTree& radius = map.at("radius");
+                      tree["name"] = "EFFECT";
+                      EXPECT_EQ(&radius, &map.at("radius"));
+                  }),
+              1u);
+    EXPECT_EQ(tree, Support::Map({{"blur", 1}, {"name", "EFFECT"}, {"radius", 2}, {"sigma", 3}}));
+}
+
+TEST(PropertyTreeMapMemory, ALongKeyIsOneMore)
+{
+    Map map;
+    map.reserve(3);
+    EXPECT_EQ(AllocationsOf([&] { map["a key that does not fit into a string"] = 1; }), 1u);
+    EXPECT_EQ(AllocationsOf([&] { map["Short"] = 1; }), 0u);
+    EXPECT_EQ(AllocationsOf([&] { map["A key that does not fit into a string"] = 1; }), 1u);
+}
+
+TEST(PropertyTreeMapMemory, ACopyIsOneBlock)
+{
+    Map map;
+    for (const char* key : KEYS)
+    {
+        map[key] = 1.0;
+    }
+    map["b"] = PropertyTree();
+    map["between"] = 5;
+    map.erase("c");
+    Map copy;
+    EXPECT_EQ(AllocationsOf([&] { copy = map; }), 1u);
+    const PropertyTree tree = Support::Map({{"a", Support::Map({{"b", 1}})}, {"c", Support::List({1, 2})}});
+    EXPECT_EQ(AllocationsOf([&] { EXPECT_EQ(PropertyTree(tree), tree); }), 3u);
+}
+
+TEST(PropertyTreeMapMemory, FindingErasingAndClearingNeedNone)
+{
+    for (const int count : {1, 10, 1000, 3000})
+    {
+        for (const std::size_t reserved : {0u, 8000u})
+        {
+            Map map;
+            map.reserve(reserved);
+            map.try_emplace("", 5);
+            for (const auto& [key, child] : Sample(count))
+            {
+                map[key] = child;
+            }
+            const Support::FailingMemory failing;
+            EXPECT_TRUE(map.contains(""));
+            for (int i = 0; i < count; i += 2)
+            {
+                EXPECT_EQ(map.erase(std::string_view(std::to_string(i))), 1u);
+            }
+            while (map.size() > static_cast<std::size_t>(count))
+            {
+                map.erase(map.begin());
+            }
+            Map moved = std::move(map);
+            moved.swap(map);
+            map.clear();
+            EXPECT_FALSE(failing.HasFailed());
+        }
+    }
+}
+
+TEST(PropertyTreeMapMemory, ErasedEntriesLeaveTheirRoom)
+{
+    Map map;
+    map.reserve(9);
+    for (int i = 0; i < 8; ++i)
+    {
+        map[std::to_string(i)] = i;
+    }
+    EXPECT_EQ(AllocationsOf(
+                  [&]
+                  {
+                      for (int i = 0; i < 1000; ++i)
+                      {
+                          map.erase(map.begin());
+                          map[std::to_string(i % 77)] = i;
+                          map["z"] = i;
+                          map.erase("z");
+                      }
+                  }),
+              0u);
+}
+
+// A key that comes in between and one that comes last, while each allocation in turn is refused.
+TEST(PropertyTreeMapMemory, AFailedInsertLeavesAllAsItWas)
+{
+    for (const int count : {0, 1, 2, 4, 8, 128, 256, 257, 512, 2048})
+    {
+        for (const char* key : {"0 comes early and is no short text", "5", "~"})
+        {
+            const Map sample = Sample(count);
+            for (std::size_t successes = 0;; ++successes)
+            {
+                Map map = sample;
+                const auto position = map.begin();
+                Support::FailingMemory failing(successes, Support::FailingMemory::Mode::Once);
+                try
+                {
+                    map[key] = 1;
+                    break; // there was enough
+                }
+                catch (const std::bad_alloc&)
+                {
+                    EXPECT_TRUE(failing.HasFailed());
+                    ASSERT_EQ(map, sample) << count << ' ' << key << ' ' << successes;
+                    ASSERT_EQ(std::distance(position, map.end()), std::distance(sample.begin(), sample.end()));
+                }
+            }
+        }
+    }
+}
+
+TEST(PropertyTreeMapMemory, AFailedTryEmplaceKeepsTheValue)
+{
+    Map map;
+    PropertyTree value("a text that does not fit into the string itself");
+    {
+        const Support::FailingMemory failing;
+        EXPECT_THROW(map.try_emplace("a", std::move(value)), std::bad_alloc);
+    }
+    EXPECT_EQ(value, PropertyTree("a text that does not fit into the string itself"));
+    EXPECT_TRUE(map.empty());
+}
+
+// Whatever the failed copy had made is gone: the leak check of a sanitizer sees to that.
+TEST(PropertyTreeMapMemory, AFailedCopyLeavesAllAsItWas)
+{
+    const Map source = Sample(20);
+    Map target = Sample(3);
+    const Map before = target;
+    std::size_t failures = 0;
+    for (bool isDone = false; !isDone; ++failures)
+    {
+        try
+        {
+            const Support::FailingMemory failing(failures, Support::FailingMemory::Mode::Once);
+            target = source;
+            isDone = true;
+        }
+        catch (const std::bad_alloc&)
+        {
+            ASSERT_EQ(target, before) << failures;
+        }
+    }
+    EXPECT_EQ(target, source);
+    EXPECT_GT(failures, 60u); // a block, 20 long keys, 20 lists and their texts
+}
+
+TEST(PropertyTreeMapMemory, ReserveIsAllOrNothing)
+{
+    Map map;
+    EXPECT_THROW(map.reserve(static_cast<std::size_t>(-1)), std::length_error);
+    EXPECT_THROW(map.reserve(static_cast<std::size_t>(-1) / 64), std::length_error);
+    EXPECT_THROW(PropertyTree("kept").makeMap(static_cast<std::size_t>(-1)), std::length_error);
+    map["a"] = 1;
+    {
+        const Support::FailingMemory failing;
+        EXPECT_THROW(map.reserve(20), std::bad_alloc);
+    }
+    const PropertyTree* child = &map.at("a");
+    EXPECT_EQ(AllocationsOf([&] { map.reserve(20); }), 1u);
+    EXPECT_EQ(&map.at("a"), child);
+    EXPECT_EQ(AllocationsOf(
+                  [&]
+                  {
+                      for (const char* key : KEYS)
+                      {
+                          map[key] = 2;
+                      }
+                      map.reserve(10);
+                  }),
+              0u);
+    EXPECT_EQ(map.size(), 20u);
+}
+
+} // namespace

@@ -1,0 +1,334 @@
+#include "PropertyTree/PropertyTree.h"
+#include "support/TreeText.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <iterator>
+#include <map>
+#include <ostream>
+#include <random>
+#include <tuple>
+
+// The map and std::map get the same random steps and must hold the same after each.
+
+namespace
+{
+
+using Ombrel::PropertyTree;
+using Map = PropertyTree::Map;
+using Random = std::mt19937;
+
+struct Run
+{
+    const char* name;
+    std::function<std::string(Random&)> key;
+    int steps;
+};
+
+void PrintTo(const Run& run, std::ostream* out)
+{
+    *out << run.name;
+}
+
+std::string Bytes(Random& random)
+{
+    std::string key(random() % 11, '\0');
+    for (char& character : key)
+    {
+        character = "\0ab\xff"[random() % 4];
+    }
+    return key;
+}
+
+const Run RUNS[] = {
+    {"a few keys", [](Random& random) { return std::to_string(random() % 12); }, 20'000},
+    {"one leaf", [](Random& random) { return "key " + std::to_string(random() % 300); }, 40'000},
+    {"several leaves", [](Random& random) { return std::to_string(random() % 9000); }, 120'000},
+    {"one long beginning", [](Random& random) { return "settings of effect " + std::to_string(random() % 5000); }, 80'000},
+    {"any bytes", Bytes, 120'000},
+};
+
+class Twins
+{
+public:
+    explicit Twins(Random& random) : m_random(random) {}
+
+    void Insert(const std::string& key, int value)
+    {
+        const bool isNew = !m_expected.contains(key);
+        switch (m_random() % 3)
+        {
+        case 0:
+            EXPECT_EQ(m_map[key].isNull(), isNew) << key;
+            m_map[key] = value;
+            m_expected[key] = value;
+            break;
+        case 1:
+            EXPECT_EQ(m_map.try_emplace(key, value).second, isNew) << key;
+            m_expected.try_emplace(key, value);
+            break;
+        default:
+            EXPECT_EQ(m_map.insert({key, value}).first->first, key);
+            m_expected.insert({key, value});
+            break;
+        }
+        m_entries.try_emplace(key, &*m_map.find(key));
+    }
+
+    void Erase(const std::string& key)
+    {
+        const auto expected = m_expected.find(key);
+        const auto found = m_map.find(key);
+        ASSERT_EQ(found == m_map.end(), expected == m_expected.end()) << key;
+        if (expected == m_expected.end() || m_random() % 2 == 0)
+        {
+            EXPECT_EQ(m_map.erase(key), m_expected.erase(key)) << key;
+        }
+        else
+        {
+            const auto next = m_map.erase(found);
+            const auto expectedNext = m_expected.erase(expected);
+            ASSERT_EQ(next == m_map.end(), expectedNext == m_expected.end()) << key;
+            EXPECT_TRUE(next == m_map.end() || next->first == expectedNext->first) << key;
+            EXPECT_TRUE(next == m_map.begin() || std::prev(next)->first == std::prev(expectedNext)->first) << key;
+        }
+        m_entries.erase(key);
+    }
+
+    void Find(const std::string& key)
+    {
+        const auto expected = m_expected.find(key);
+        EXPECT_EQ(m_map.contains(key), expected != m_expected.end()) << key;
+        if (expected != m_expected.end())
+        {
+            EXPECT_EQ(std::as_const(m_map).find(key)->first, key);
+            EXPECT_EQ(m_map.at(key), PropertyTree(expected->second)) << key;
+        }
+    }
+
+    // What concerns the map as a whole.
+    void Handle()
+    {
+        Map other;
+        switch (m_random() % 6)
+        {
+        case 0: // the entries of the copy are other ones
+            other = m_map;
+            EXPECT_EQ(other, m_map);
+            m_map = other;
+            NoteEntries();
+            break;
+        case 1:
+            other = std::move(m_map);
+            EXPECT_TRUE(m_map.empty());
+            m_map = Map(std::move(other));
+            break;
+        case 2:
+            other["other"] = 1;
+            swap(m_map, other);
+            EXPECT_EQ(m_map.size(), 1u);
+            m_map.swap(other);
+            break;
+        case 3:
+            m_map.reserve(m_random() % 2000);
+            break;
+        case 4: // from both ends, as many as half
+            for (auto count = m_map.size() / 4; count != 0; --count)
+            {
+                Erase(std::string(m_map.begin()->first));
+                Erase(std::string(std::prev(m_map.end())->first));
+            }
+            break;
+        default:
+            if (m_random() % 4 == 0)
+            {
+                m_map.clear();
+                m_expected.clear();
+                m_entries.clear();
+            }
+            break;
+        }
+    }
+
+    void Compare() const
+    {
+        ASSERT_EQ(m_map.size(), m_expected.size());
+        auto position = m_map.begin();
+        for (const auto& [key, value] : m_expected)
+        {
+            ASSERT_NE(position, m_map.end()) << key;
+            ASSERT_EQ(position->first, key);
+            ASSERT_EQ(position->second, PropertyTree(value)) << key;
+            ASSERT_EQ(&*position, m_entries.at(key)) << key << " has moved";
+            ++position;
+        }
+        ASSERT_EQ(position, m_map.end());
+        for (auto expected = m_expected.rbegin(); expected != m_expected.rend(); ++expected)
+        {
+            --position;
+            ASSERT_EQ(position->first, expected->first);
+        }
+        ASSERT_EQ(position, m_map.begin());
+    }
+
+private:
+    void NoteEntries()
+    {
+        for (auto& entry : m_map)
+        {
+            m_entries.at(entry.first) = &entry;
+        }
+    }
+
+    Random& m_random;
+    Map m_map;
+    std::map<std::string, int> m_expected;
+    std::map<std::string, const Map::value_type*> m_entries;
+};
+
+class PropertyTreeMapModel : public testing::TestWithParam<Run>
+{
+};
+
+TEST_P(PropertyTreeMapModel, HoldsWhatStdMapHolds)
+{
+    for (const unsigned seed : {1u, 2u, 3u})
+    {
+        SCOPED_TRACE(testing::Message() << "seed " << seed);
+        Random random(seed);
+        Twins twins(random);
+        Random::result_type insertsInTen = 7;
+        for (int step = 0; step < GetParam().steps && !testing::Test::HasFailure(); ++step)
+        {
+            const std::string key = GetParam().key(random);
+            const auto choice = random() % 10;
+            choice < insertsInTen ? twins.Insert(key, step) : choice < 9 ? twins.Erase(key) : twins.Find(key);
+            if (step % 3000 == 2999)
+            {
+                insertsInTen = 2 + random() % 7; // now the map grows, now it shrinks
+                twins.Compare();
+                twins.Handle();
+                twins.Compare();
+            }
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Runs, PropertyTreeMapModel, testing::ValuesIn(RUNS));
+
+enum class Order
+{
+    Rising,
+    Falling,
+    Shuffled,
+    FromBothEnds,
+    FromTheMiddle,
+};
+
+void PrintTo(Order order, std::ostream* out)
+{
+    constexpr const char* names[] = {"rising", "falling", "shuffled", "from both ends", "from the middle"};
+    *out << names[static_cast<int>(order)];
+}
+
+std::vector<int> Numbers(int count, Order order)
+{
+    std::vector<int> numbers(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+    {
+        const int inward = i % 2 == 0 ? i / 2 : count - 1 - i / 2;
+        const int number = order == Order::Falling         ? count - 1 - i
+                           : order == Order::FromBothEnds  ? inward
+                           : order == Order::FromTheMiddle ? (i % 2 == 0 ? count / 2 + i / 2 : count / 2 - 1 - i / 2)
+                                                           : i;
+        numbers[static_cast<std::size_t>(i)] = number;
+    }
+    if (order == Order::Shuffled)
+    {
+        std::shuffle(numbers.begin(), numbers.end(), Random(11));
+    }
+    return numbers;
+}
+
+// Of one length, so that they have the order of the numbers.
+std::string KeyOf(int number)
+{
+    return "key " + std::to_string(1'000'000 + number);
+}
+
+void KeepsAllThroughGrowingAndShrinking(int count, Order inserting, Order erasing, bool isReserved)
+{
+    Map map;
+    if (isReserved)
+    {
+        map.reserve(static_cast<std::size_t>(count));
+    }
+    std::vector<const PropertyTree*> children(static_cast<std::size_t>(count));
+    for (const int number : Numbers(count, inserting))
+    {
+        PropertyTree& child = map[KeyOf(number)];
+        child = number;
+        children[static_cast<std::size_t>(number)] = &child;
+    }
+    ASSERT_EQ(map.size(), static_cast<std::size_t>(count));
+    int number = 0;
+    for (const auto& [key, child] : map)
+    {
+        ASSERT_EQ(key, KeyOf(number));
+        ASSERT_EQ(&child, children[static_cast<std::size_t>(number)]) << key;
+        ++number;
+    }
+    for (const int erased : Numbers(count, erasing))
+    {
+        const auto found = map.find(KeyOf(erased));
+        ASSERT_NE(found, map.end()) << erased;
+        ASSERT_EQ(found->second, PropertyTree(erased));
+        map.erase(found);
+    }
+    EXPECT_TRUE(map.empty());
+    EXPECT_EQ(map.begin(), map.end());
+    map["again"] = 1;
+    EXPECT_EQ(map.begin()->first, "again");
+}
+
+constexpr Order ORDERS[] = {Order::Rising, Order::Falling, Order::Shuffled, Order::FromBothEnds, Order::FromTheMiddle};
+
+TEST(PropertyTreeMapOrder, OfAnySizeIsKept)
+{
+    for (const int count : {1, 2, 4, 5, 255, 256, 511, 512, 513, 3000})
+    {
+        for (const Order inserting : ORDERS)
+        {
+            for (const Order erasing : ORDERS)
+            {
+                for (const bool isReserved : {false, true})
+                {
+                    SCOPED_TRACE(testing::Message() << count << ' ' << testing::PrintToString(inserting) << ", erased "
+                                                    << testing::PrintToString(erasing) << (isReserved ? ", reserved" : ""));
+                    ASSERT_NO_FATAL_FAILURE(KeepsAllThroughGrowingAndShrinking(count, inserting, erasing, isReserved));
+                }
+            }
+        }
+    }
+}
+
+class PropertyTreeMapMillion : public testing::TestWithParam<std::tuple<Order, Order, bool>>
+{
+};
+
+// A shift of all that follows, or a search through all that is there, would take minutes.
+TEST_P(PropertyTreeMapMillion, TakesSeconds)
+{
+    const auto [inserting, erasing, isReserved] = GetParam();
+    KeepsAllThroughGrowingAndShrinking(1'000'000, inserting, erasing, isReserved);
+}
+
+INSTANTIATE_TEST_SUITE_P(Orders, PropertyTreeMapMillion,
+                         testing::Values(std::tuple(Order::Rising, Order::Rising, true),
+                                         std::tuple(Order::Falling, Order::Falling, false),
+                                         std::tuple(Order::Shuffled, Order::Shuffled, false),
+                                         std::tuple(Order::FromTheMiddle, Order::FromBothEnds, false)));
+
+} // namespace
