@@ -2,6 +2,9 @@
 
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
 namespace Ombrel::Benchmarks
 {
 
@@ -18,6 +21,14 @@ nlohmann::json Canonical(const nlohmann::json& value)
 nlohmann::json Canonical(const PropertyTree& tree)
 {
     return Canonical(WriteJson(tree));
+}
+
+nlohmann::json Canonical(const rapidjson::Document& document)
+{
+    rapidjson::StringBuffer text;
+    rapidjson::Writer<rapidjson::StringBuffer> writer(text);
+    document.Accept(writer);
+    return nlohmann::json::parse(text.GetString());
 }
 
 nlohmann::json Canonical(const std::string& text)

@@ -5,6 +5,7 @@
 #include "PropertyTree/PropertyTree.h"
 
 #include <nlohmann/json.hpp>
+#include <rapidjson/document.h>
 
 #include <memory>
 #include <string>
@@ -18,6 +19,7 @@ namespace Ombrel::Benchmarks
 nlohmann::json Canonical(bool value);
 nlohmann::json Canonical(const nlohmann::json& value);
 nlohmann::json Canonical(const PropertyTree& tree);
+nlohmann::json Canonical(const rapidjson::Document& document);
 
 /// What the JSON text says.
 nlohmann::json Canonical(const std::string& text);

@@ -16,6 +16,7 @@ namespace Ombrel::Benchmarks
 inline constexpr const char* LIBRARY = "library";
 inline constexpr const char* HAND_WRITTEN = "hand-written";
 inline constexpr const char* NLOHMANN = "nlohmann";
+inline constexpr const char* RAPIDJSON = "rapidjson"; // of few
 inline constexpr const char* ALLOCATIONS = "allocations";
 
 /// Ends the program with a message unless the two results are the same.

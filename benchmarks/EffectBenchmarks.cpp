@@ -1,6 +1,7 @@
 #include "Comparison.h"
 
 #include "HandWritten.h"
+#include "HandWrittenRecords.h"
 #include "Proc/EffectSettings/AdjusterSettings.h"
 #include "Samples.h"
 
@@ -80,6 +81,33 @@ void AddRead(const std::string& title, const SettingsEffectAdjuster& record)
         });
 }
 
+// RapidJSON takes part with the record alone, without a base class or an interface around it.
+void AddRapid(const std::string& writeTitle, const std::string& readTitle, const SettingsEffectAdjuster& record)
+{
+    const auto write = [record]
+    {
+        rapidjson::Document document(rapidjson::kObjectType);
+        WriteFields(RapidMap{&document, &document.GetAllocator()}, record);
+        return document;
+    };
+    const std::string writeName = writeTitle + '/' + RAPIDJSON;
+    const nlohmann::json expected = Canonical(write());
+    PropertyTree tree;
+    MakeEffect(record)->Serialize(tree);
+    RequireSame(writeName, expected, Canonical(tree));
+    AddVariant(writeName, write);
+
+    const auto target = std::make_shared<SettingsEffectAdjuster>(FullAdjuster(1));
+    const auto read = [target, document = std::make_shared<rapidjson::Document>(write())]() -> const SettingsEffectAdjuster&
+    {
+        ReadFields(static_cast<const rapidjson::Value&>(*document), *target);
+        return *target;
+    };
+    const std::string readName = readTitle + '/' + RAPIDJSON;
+    RequireSame(readName, Canonical(MakeEffect(read())), Canonical(MakeEffect(record)));
+    AddVariant(readName, read);
+}
+
 void AddPropertyAccess()
 {
     // The access is asked for once: what is measured is the way to one property through it.
@@ -137,6 +165,8 @@ void AddWholeEffect()
         [id] {
             return nlohmann::json{{"name", id}};
         });
+    AddVariant(std::string("make_shared of the class/") + LIBRARY,
+               []() -> std::shared_ptr<IEffectSettings> { return std::make_shared<PhotoCore::AdjusterSettings>(); });
 }
 
 } // namespace
@@ -149,6 +179,7 @@ void AddEffectComparisons()
     AddRead("read, 20 of 20 changed", FullAdjuster());
     AddRead("read, 2 of 20 changed", SparseAdjuster());
     AddRead("read, none changed", SettingsEffectAdjuster());
+    AddRapid("write, 20 of 20 changed", "read, 20 of 20 changed", FullAdjuster());
     AddPropertyAccess();
     AddWholeEffect();
 }

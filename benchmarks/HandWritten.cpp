@@ -22,8 +22,8 @@ public:
 
     void Serialize(PropertyTree& tree) const override
     {
-        tree = PropertyTree();
-        tree.convertToMap();
+        constexpr std::size_t others = 1; // the class id
+        tree.makeMap(Same(m_record, Record()) ? 0 : FIELD_COUNT<Record> + others);
         WriteBase(tree.getMap());
         WriteFields(tree.getMap(), m_record);
     }

@@ -7,20 +7,44 @@
 #include "PropertyTree/PropertyTree.h"
 
 #include <nlohmann/json.hpp>
+#include <rapidjson/document.h>
 
 #include <concepts>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
-/// Every key and default of every record by hand, in key order, which is the order in which both maps grow fastest. What is
-/// called `Map` is the map of a tree or the object of a DOM.
+/// Every key and default of every record by hand, in key order, which is the order in which the maps grow fastest. What is
+/// called `Map` is the map of a tree or the object of a DOM; RapidJSON's needs its document's allocator beside it.
 namespace Ombrel::Benchmarks
 {
 
 using Dom = nlohmann::json;
 using DomMap = Dom::object_t;
 using TreeMap = PropertyTree::Map;
+
+struct RapidMap
+{
+    rapidjson::Value* object;
+    rapidjson::Document::AllocatorType* allocator;
+};
+
+inline rapidjson::Value::StringRefType TextOf(std::string_view text)
+{
+    return {text.data(), static_cast<rapidjson::SizeType>(text.size())};
+}
+
+// How many fields the record has, which is what its map has room for.
+template <class Record> inline constexpr std::size_t FIELD_COUNT = 0;
+template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectAcid> = 2;
+template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectAdjuster> = 20;
+template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectColorBalance> = 9;
+template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectColorBalanceAuto> = 3;
+template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectDetailsEnhance> = 1;
+template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectEmpty> = 1;
+template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectSmartBlur> = 8;
+template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectVibrance> = 1;
 
 template <class Value> void Put(TreeMap& map, std::string_view key, const Value& value, const Value& fallback)
 {
@@ -38,16 +62,36 @@ template <class Value> void Put(DomMap& map, std::string_view key, const Value& 
     }
 }
 
-inline TreeMap& PutMap(TreeMap& map, std::string_view key)
+template <class Value> void Put(RapidMap& map, std::string_view key, const Value& value, const Value& fallback)
 {
-    PropertyTree& child = map[key];
-    child.convertToMap();
-    return child.getMap();
+    if (value == fallback)
+    {
+        return;
+    }
+    if constexpr (std::is_arithmetic_v<Value>)
+    {
+        map.object->AddMember(TextOf(key), value, *map.allocator);
+    }
+    else
+    {
+        map.object->AddMember(TextOf(key), rapidjson::Value(TextOf(value), *map.allocator), *map.allocator);
+    }
 }
 
-inline DomMap& PutMap(DomMap& map, std::string_view key)
+inline TreeMap& PutMap(TreeMap& map, std::string_view key, std::size_t fieldCount)
+{
+    return map[key].makeMap(fieldCount);
+}
+
+inline DomMap& PutMap(DomMap& map, std::string_view key, std::size_t)
 {
     return map.emplace_hint(map.end(), key, Dom::object())->second.get_ref<DomMap&>();
+}
+
+inline RapidMap PutMap(RapidMap& map, std::string_view key, std::size_t)
+{
+    map.object->AddMember(TextOf(key), rapidjson::Value(rapidjson::kObjectType), *map.allocator);
+    return {&(map.object->MemberEnd() - 1)->value, map.allocator};
 }
 
 template <class Value> Value Decode(const PropertyTree& child)
@@ -78,6 +122,18 @@ template <class Value> Value Decode(const Dom& child)
     return child.get<Value>();
 }
 
+template <class Value> Value Decode(const rapidjson::Value& child)
+{
+    if constexpr (std::is_arithmetic_v<Value>)
+    {
+        return child.Get<Value>();
+    }
+    else
+    {
+        return {child.GetString(), child.GetStringLength()};
+    }
+}
+
 inline const TreeMap& MapOf(const PropertyTree& child)
 {
     return child.getMap();
@@ -88,15 +144,33 @@ inline const DomMap& MapOf(const Dom& child)
     return child.get_ref<const DomMap&>();
 }
 
-template <class Map, class Value> Value Take(const Map& map, std::string_view key, Value fallback)
+inline const rapidjson::Value& MapOf(const rapidjson::Value& child)
+{
+    return child;
+}
+
+// The value under the key, or null.
+template <class Map> auto Find(const Map& map, std::string_view key)
 {
     const auto found = map.find(key);
-    return found == map.end() ? fallback : Decode<Value>(found->second);
+    return found == map.end() ? nullptr : &found->second;
+}
+
+inline const rapidjson::Value* Find(const rapidjson::Value& map, std::string_view key)
+{
+    const auto found = map.FindMember(rapidjson::Value(TextOf(key)));
+    return found == map.MemberEnd() ? nullptr : &found->value;
+}
+
+template <class Map, class Value> Value Take(const Map& map, std::string_view key, Value fallback)
+{
+    const auto* child = Find(map, key);
+    return child ? Decode<Value>(*child) : fallback;
 }
 
 // EFFECT_ACID
 
-template <class Map> void WriteFields(Map& map, const Proc::SettingsEffectAcid& record)
+template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectAcid& record)
 {
     Put(map, "radius", record.radius, 0);
     Put(map, "sigma", record.sigma, 0.5);
@@ -115,7 +189,7 @@ inline bool Same(const Proc::SettingsEffectAcid& a, const Proc::SettingsEffectAc
 
 // EFFECT_COLOR_BALANCE
 
-template <class Map> void WriteFields(Map& map, const Proc::SettingsEffectColorBalance& record)
+template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectColorBalance& record)
 {
     Put(map, "brightness", record.GetBrightness(), 0);
     Put(map, "contrast", record.GetContrast(), 0);
@@ -151,7 +225,7 @@ inline bool Same(const Proc::SettingsEffectColorBalance& a, const Proc::Settings
 
 // EFFECT_COLOR_BALANCE_AUTO
 
-template <class Map> void WriteFields(Map& map, const Proc::SettingsEffectColorBalanceAuto& record)
+template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectColorBalanceAuto& record)
 {
     Put(map, "exposure", record.m_exposure, 0);
     Put(map, "lightBalance", record.m_lightBalance, false);
@@ -172,7 +246,7 @@ inline bool Same(const Proc::SettingsEffectColorBalanceAuto& a, const Proc::Sett
 
 // EFFECT_DETAILS
 
-template <class Map> void WriteFields(Map& map, const Proc::SettingsEffectDetailsEnhance& record)
+template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectDetailsEnhance& record)
 {
     Put(map, "strength", record.m_strength, 0);
 }
@@ -189,7 +263,7 @@ inline bool Same(const Proc::SettingsEffectDetailsEnhance& a, const Proc::Settin
 
 // EFFECT_EMPTY
 
-template <class Map> void WriteFields(Map& map, const Proc::SettingsEffectEmpty& record)
+template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectEmpty& record)
 {
     if (!record.m_value.empty())
     {
@@ -209,7 +283,7 @@ inline bool Same(const Proc::SettingsEffectEmpty&, const Proc::SettingsEffectEmp
 
 // EFFECT_SMART_BLUR
 
-template <class Map> void WriteFields(Map& map, const Proc::SettingsEffectSmartBlur& record)
+template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectSmartBlur& record)
 {
     Put(map, "chromaBlur", record.GetChromaBlur(), 0);
     Put(map, "chromaRadius", record.GetChromaRadius(), 0);
@@ -243,7 +317,7 @@ inline bool Same(const Proc::SettingsEffectSmartBlur& a, const Proc::SettingsEff
 
 // EFFECT_VIBRANCE
 
-template <class Map> void WriteFields(Map& map, const Proc::SettingsEffectVibrance& record)
+template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectVibrance& record)
 {
     Put(map, "strength", record.m_strength, 0);
 }
@@ -282,16 +356,15 @@ template <class Map, class Record> void PutRecord(Map& map, std::string_view key
 {
     if (!Same(record, fallback))
     {
-        WriteFields(PutMap(map, key), record);
+        WriteFields(PutMap(map, key, FIELD_COUNT<Record>), record);
     }
 }
 
 template <class Map, class Record> void TakeRecord(const Map& map, std::string_view key, Record& record, const Record& fallback)
 {
-    const auto found = map.find(key);
-    if (found != map.end())
+    if (const auto* child = Find(map, key))
     {
-        ReadFields(MapOf(found->second), record);
+        ReadFields(MapOf(*child), record);
     }
     else
     {
@@ -299,7 +372,7 @@ template <class Map, class Record> void TakeRecord(const Map& map, std::string_v
     }
 }
 
-template <class Map> void WriteFields(Map& map, const Proc::SettingsEffectAdjuster& record)
+template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectAdjuster& record)
 {
     Put(map, "brightness", record.m_brightness, 0.0);
     PutRecord(map, "colorBalance", record.m_colorBalance, ADJUSTER_DEFAULTS.colorBalance);

@@ -113,6 +113,9 @@ void AddListComparisons()
         "read 1,000 effects", [tree] { return ReadEffects(tree); }, [tree] { return HandReadEffects(tree); },
         [dom] { return ReadEffectsDom(dom); });
     AddComparison(
+        "copy tree of 1,000 effects", [tree] { return PropertyTree(tree); }, [tree] { return PropertyTree(tree); },
+        [dom] { return nlohmann::json(dom); });
+    AddComparison(
         "JSON text of 1,000 effects", [tree] { return WriteJson(tree); }, [tree] { return HandWriteJson(tree); },
         [dom] { return dom.dump(); });
     AddComparison(

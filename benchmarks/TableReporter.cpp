@@ -1,6 +1,7 @@
 #include "TableReporter.h"
 
 #include "Comparison.h"
+#include "Goals.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -141,15 +142,22 @@ void TableReporter::Finalize()
     std::vector<std::pair<std::string, Line>> lines(m_lines.begin(), m_lines.end());
     std::ranges::sort(lines, {}, [](const auto& entry) { return entry.second.place; });
 
-    std::vector<Row> rows{{"operation", LIBRARY, HAND_WRITTEN, NLOHMANN, "library / hand-written", "nlohmann / library",
-                           "allocations: library", HAND_WRITTEN, NLOHMANN}};
+    std::vector<Row> rows{{"operation", LIBRARY, HAND_WRITTEN, NLOHMANN, RAPIDJSON, "library / hand-written",
+                           "nlohmann / library", "RapidJSON / library", "allocations: library", HAND_WRITTEN, NLOHMANN}};
+    std::map<std::string, Figure> figures;
     for (const auto& [title, line] : lines)
     {
         Row& row = rows.emplace_back(CellsOf(line));
         row.insert(row.begin(), title);
+        for (const auto& [variant, result] : line.variants)
+        {
+            figures[title + '/' + variant] = {Median(result.nanoseconds), result.allocations};
+        }
     }
     PrintRounds();
     Print(GetOutputStream(), rows);
+    GetOutputStream() << '\n';
+    PrintGoals(GetOutputStream(), figures);
 }
 
 const TableReporter::Result* TableReporter::Line::Find(const std::string& variant) const
@@ -169,15 +177,19 @@ std::vector<std::string> TableReporter::CellsOf(const Line& line) const
 {
     Row times;
     Row allocations;
-    for (const char* variant : {LIBRARY, HAND_WRITTEN, NLOHMANN})
+    for (const char* variant : {LIBRARY, HAND_WRITTEN, NLOHMANN, RAPIDJSON})
     {
         const Result* result = line.Find(variant);
         times.push_back(result ? TimeText(Median(result->nanoseconds)) : UNKNOWN);
-        allocations.push_back(result ? Formatted("%.0f", result->allocations) : UNKNOWN);
+        if (variant != RAPIDJSON) // it has an allocator of its own, which is not counted
+        {
+            allocations.push_back(result ? Formatted("%.0f", result->allocations) : UNKNOWN);
+        }
     }
     Row cells = std::move(times);
     cells.push_back(line.Ratio(LIBRARY, HAND_WRITTEN));
     cells.push_back(line.Ratio(NLOHMANN, LIBRARY));
+    cells.push_back(line.Ratio(RAPIDJSON, LIBRARY));
     cells.insert(cells.end(), allocations.begin(), allocations.end());
     return cells;
 }

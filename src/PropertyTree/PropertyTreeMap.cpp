@@ -8,6 +8,7 @@
 #include <memory>
 #include <new>
 #include <stdexcept>
+#include <tuple>
 
 namespace Ombrel
 {
@@ -192,7 +193,7 @@ template <class It> It PropertyTreeMap::At(const Where& where) const noexcept
 }
 
 // Whether `Append` can take it.
-bool PropertyTreeMap::HasRoomAtEnd(std::string_view key, std::uint64_t head) const noexcept
+inline bool PropertyTreeMap::HasRoomAtEnd(std::string_view key, std::uint64_t head) const noexcept
 {
     if (!m_root || m_root->index || m_root->size == m_root->capacity)
     {
@@ -206,12 +207,14 @@ bool PropertyTreeMap::HasRoomAtEnd(std::string_view key, std::uint64_t head) con
     return last < head || (last == head && m_root->end[-1].first < key);
 }
 
-PropertyTree& PropertyTreeMap::Append(std::string_view key, std::uint64_t head)
+inline PropertyTree& PropertyTreeMap::Append(std::string_view key, std::uint64_t head)
 {
-    value_type* entry = std::construct_at(m_root->end, key, PropertyTree());
-    m_root->heads[m_root->size] = head;
-    ++m_root->end;
-    ++m_root->size;
+    Root& root = *m_root;
+    value_type* entry =
+        std::construct_at(root.end, std::piecewise_construct, std::forward_as_tuple(key), std::forward_as_tuple());
+    root.heads[root.size] = head;
+    ++root.end;
+    ++root.size;
     return entry->second;
 }
 

@@ -1,9 +1,11 @@
 #include "Samples.h"
+#include "support/FailingMemory.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <new>
 #include <stdexcept>
 
 namespace
@@ -196,6 +198,37 @@ TEST(Folds, WriteInDeclarationOrder)
     PropertyTree tree;
     EXPECT_THROW(Write(Stubborn(), tree, false), std::logic_error);
     EXPECT_EQ(tree, Map({{"m", 1}, {"z", 1}, {"a", PropertyTree()}})); // and not "b"
+
+    tree = Map({{"a", 2}, {"b", 3}, {"stray", 4}, {"z", 5}});
+    EXPECT_THROW(Write(Stubborn(), tree, false, false), std::logic_error);
+    EXPECT_EQ(tree, Map({{"m", 1}, {"z", 1}, {"a", 2}, {"b", 3}, {"stray", 4}}));
+}
+
+TEST(Folds, AWriteWithoutMemoryLeavesNoEmptyFields)
+{
+    const Everything record = Changed();
+    const PropertyTree whole = TreeOf(record);
+    std::size_t successes = 0;
+    for (bool isDone = false; !isDone; ++successes)
+    {
+        PropertyTree tree = Map({});
+        try
+        {
+            const Support::FailingMemory failing(successes, Support::FailingMemory::Mode::Once);
+            Write(record, tree);
+            isDone = true;
+        }
+        catch (const std::bad_alloc&)
+        {
+            std::size_t unfinished = 0; // the field in which the memory ran out
+            for (const auto& [key, child] : tree.getMap())
+            {
+                unfinished += child == whole[key] ? 0 : 1;
+            }
+            ASSERT_LE(unfinished, 1u) << successes;
+        }
+    }
+    EXPECT_GT(successes, 10u);
 }
 
 TEST(Folds, AFailureStopsWhereItStands)

@@ -50,9 +50,8 @@ EffectSettings::~EffectSettings() = default;
 void EffectSettings::Serialize(PropertyTree& tree) const
 {
     constexpr Proc::WriteFlags flags{.resetTargets = true, .omitDefaults = true};
-    tree = PropertyTree();
-    tree.convertToMap();
-    if (!(m_helperSettings == Proc::Reflected<HelperSettings>::Default()))
+    tree.makeMap();
+    if (!Proc::Reflected<HelperSettings>::Equal(m_helperSettings, Proc::Reflected<HelperSettings>::Default()))
     {
         Proc::Codec<HelperSettings>::Write(tree[StoredKeys::HELPER_SETTINGS], m_helperSettings, &flags);
     }

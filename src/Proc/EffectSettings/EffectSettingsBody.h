@@ -6,6 +6,7 @@
 #include "Proc/Reflection/PropertyAccessImpl.h"
 #include "Proc/Settings/Settings.h"
 
+#include <cstddef>
 #include <memory>
 #include <type_traits>
 
@@ -46,13 +47,14 @@ template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>:
     if constexpr (Derived::USES_FIELD_LIST)
     {
         constexpr Proc::WriteFlags flags{.resetTargets = false, .omitDefaults = true};
+        constexpr std::size_t others = 1; // the class id, where it is added
         if constexpr (StoresItself<Derived>)
         {
-            Proc::Reflected<Derived>::Write({static_cast<const Derived&>(*this), tree.getMap(), &flags});
+            Proc::Reflected<Derived>::Write({static_cast<const Derived&>(*this), tree.getMap(), &flags, others});
         }
         else
         {
-            Proc::Reflected<Record>::Write({settings, tree.getMap(), &flags});
+            Proc::Reflected<Record>::Write({settings, tree.getMap(), &flags, others});
         }
     }
 }

@@ -60,10 +60,9 @@ std::int32_t ReadEnum(const PropertyTree& child, const EnumNameTable& table)
 
 PropertyTree::List& WriteList(PropertyTree& child, std::size_t size)
 {
-    child = PropertyTree();
-    child.convertToList();
-    child.getList().resize(size);
-    return child.getList();
+    PropertyTree::List& list = child.makeList();
+    list.resize(size);
+    return list;
 }
 
 } // namespace Ombrel::Proc

@@ -3,6 +3,8 @@
 
 #include "PropertyTree/PropertyTree.h"
 
+#include <cstddef>
+
 namespace Ombrel::Proc
 {
 
@@ -31,6 +33,7 @@ template <class Record> struct WriteContext
     const Record& record;
     PropertyTree::Map& target;
     const WriteFlags* flags;
+    std::size_t others = 0; // entries that the caller will add to the map itself, so that it has room for them
 };
 
 } // namespace Ombrel::Proc

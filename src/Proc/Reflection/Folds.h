@@ -14,9 +14,10 @@
 //
 // Both ways go through the fields in declaration order, so that setters run and failures stop as the list says. A map holds its
 // keys in byte order, and so does a constant table that the compiler sorts for each record: a read walks the two side by side,
-// once and out of line, which gives each field its child or none, and then decodes. What depends on a value's type alone is one
-// routine per kind, also out of line: of a field only its key, its offset and the comparison with the default are code of its
-// own.
+// once and out of line, which gives each field its child or none, and then decodes. A write finds out which fields are to be
+// stored, appends their keys in byte order to a map with room for exactly so many, and then fills them. What depends on a
+// value's type alone is one routine per kind, also out of line: of a field only its key, its offset and the comparison with the
+// default are code of its own.
 namespace Ombrel::Proc
 {
 namespace ReflectedDetail
@@ -64,18 +65,22 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         (ReadOrReset<Descriptors>(children[Index], context, defaults), ...);
     }
 
-    template <class Descriptor> static void WriteOrOmit(const WriteContext<Record>& context, const Record* defaults)
+    template <class Descriptor> static void WriteOrOmit(PropertyTree* child, const WriteContext<Record>& context)
     {
-        if (!defaults || !Descriptor::Equal(context.record, *defaults))
+        if (child)
         {
-            Descriptor::Write(context.target[Descriptor::KEY], context.record, context.flags);
+            Descriptor::Write(*child, context.record, context.flags);
         }
     }
 
     static void Write(const WriteContext<Record>& context)
     {
         [[maybe_unused]] const Record* defaults = context.flags->omitDefaults ? &Reflected<Record>::Default() : nullptr;
-        (WriteOrOmit<Descriptors>(context, defaults), ...);
+        std::array<bool, List::SIZE> isWritten{(!defaults || !Descriptors::Equal(context.record, *defaults))...};
+        std::array<PropertyTree*, List::SIZE> children;
+        WriteTargets targets(SCHEMA, context.target, context.others, isWritten.data(), children.data());
+        (WriteOrOmit<Descriptors>(targets.Take(Index), context), ...);
+        targets.Finish();
     }
 
     static bool Equal(const Record& a, const Record& b) { return (Descriptors::Equal(a, b) && ...); }

@@ -36,7 +36,7 @@ template <class Record> struct Codec
     {
         if (flags->resetTargets)
         {
-            child = PropertyTree();
+            child.makeMap();
         }
         child.convertToMap();
         Reflected<Record>::Write({record, child.getMap(), flags});

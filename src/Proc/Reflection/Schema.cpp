@@ -47,6 +47,48 @@ void FindChildren(const RecordSchema& schema, const PropertyTree::Map& source, c
     }
 }
 
+WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, bool* isWritten,
+                           PropertyTree** children) noexcept
+    : m_schema(schema), m_map(map), m_isNew(isWritten), m_children(children)
+{
+    std::fill_n(children, schema.fields.size(), nullptr);
+}
+
+// The delegated-to constructor is done, so a failure in here runs the destructor.
+WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, bool* isWritten,
+                           PropertyTree** children)
+    : WriteTargets(schema, map, isWritten, children)
+{
+    const std::size_t size = schema.fields.size();
+    const auto count = static_cast<std::size_t>(std::count(isWritten, isWritten + size, true));
+    if (count == 0)
+    {
+        return;
+    }
+    std::size_t known = map.size();
+    map.reserve(known + count + others);
+    for (const std::uint16_t index : std::span(schema.keyOrder, size))
+    {
+        if (isWritten[index])
+        {
+            children[index] = &map[schema.fields[index].key];
+            isWritten[index] = map.size() != known;
+            known = map.size();
+        }
+    }
+}
+
+void WriteTargets::Withdraw() noexcept
+{
+    for (std::size_t index = 0; index != m_schema.fields.size(); ++index)
+    {
+        if (m_children[index] && m_isNew[index])
+        {
+            m_map.erase(m_schema.fields[index].key);
+        }
+    }
+}
+
 std::optional<std::size_t> FindField(const RecordSchema& schema, std::string_view key)
 {
     const std::span order(schema.keyOrder, schema.fields.size());

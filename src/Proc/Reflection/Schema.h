@@ -9,6 +9,7 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include <utility>
 
 namespace Ombrel::Proc
 {
@@ -77,6 +78,44 @@ OMBREL_API std::optional<std::size_t> FindField(const RecordSchema& schema, std:
 
 /// Points `children`, of which there is one per field, at the field's child in the map, or at nothing.
 OMBREL_API void FindChildren(const RecordSchema& schema, const PropertyTree::Map& source, const PropertyTree** children);
+
+/// The children that a write of a record fills. Those that the map lacks are made as null trees before the first is filled, in
+/// key order, which makes no more than one block for all of them. A write that fails takes those away that it has not come to.
+class OMBREL_API WriteTargets
+{
+public:
+    /// @param isWritten for each field, whether it is written; then, whether its child is new
+    /// @param others entries that there shall be room for beside the fields
+    WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, bool* isWritten,
+                 PropertyTree** children);
+
+    WriteTargets(const WriteTargets&) = delete;
+    WriteTargets& operator=(const WriteTargets&) = delete;
+
+    ~WriteTargets()
+    {
+        if (!m_isDone)
+        {
+            Withdraw();
+        }
+    }
+
+    /// The field's child the first time, if it is written, else null.
+    PropertyTree* Take(std::size_t index) noexcept { return std::exchange(m_children[index], nullptr); }
+
+    void Finish() noexcept { m_isDone = true; }
+
+private:
+    WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, bool* isWritten, PropertyTree** children) noexcept;
+
+    void Withdraw() noexcept;
+
+    const RecordSchema& m_schema;
+    PropertyTree::Map& m_map;
+    bool* m_isNew;
+    PropertyTree** m_children;
+    bool m_isDone = false;
+};
 
 } // namespace Ombrel::Proc
 
