@@ -43,11 +43,10 @@ AdjusterSettings FullAdjuster()
     record.m_vibrance.m_strength = 3;
     record.m_detailsEnhance.m_strength = 4;
     record.m_smartBlur.SetLumaBlur(5);
-    for (double* value :
-         {&record.m_colorizeHue, &record.m_colorizeSaturation, &record.m_colorizeLightness, &record.m_colorizeIntensity,
-          &record.m_temperature, &record.m_temperatureIntensity, &record.m_brightness, &record.m_contrast, &record.m_gamma,
-          &record.m_hue, &record.m_hueIntensity, &record.m_highlights, &record.m_highlightsIntensity, &record.m_shadows,
-          &record.m_shadowsIntensity})
+    for (double* value : {&record.m_colorizeHue, &record.m_colorizeSaturation, &record.m_colorizeLightness,
+                          &record.m_colorizeIntensity, &record.m_temperature, &record.m_temperatureIntensity,
+                          &record.m_brightness, &record.m_contrast, &record.m_gamma, &record.m_hue, &record.m_hueIntensity,
+                          &record.m_highlights, &record.m_highlightsIntensity, &record.m_shadows, &record.m_shadowsIntensity})
     {
         *value += 0.5;
     }

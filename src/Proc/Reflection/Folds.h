@@ -45,23 +45,23 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
     using List = FieldList<Descriptors...>;
 
     template <class Descriptor>
-    static void ReadOrReset(const PropertyTree* child, const ReadContext<Record>& context, const Record* defaults)
+    static void ReadOrReset(const PropertyTree* child, const ReadContext<Record>& context, const Record& defaults)
     {
         if (child)
         {
             Descriptor::Read(*child, context.record, context.flags);
         }
-        else if (defaults)
+        else if (context.flags->resetMissing)
         {
-            Descriptor::Reset(context.record, *defaults);
+            Descriptor::Reset(context.record, defaults);
         }
     }
 
-    static void Read(const ReadContext<Record>& context)
+    [[gnu::noinline]] static void Read(const ReadContext<Record>& context)
     {
         std::array<const PropertyTree*, List::SIZE> children;
         FindChildren(SCHEMA, context.source, children.data());
-        [[maybe_unused]] const Record* defaults = context.flags->resetMissing ? &Reflected<Record>::Default() : nullptr;
+        [[maybe_unused]] const Record& defaults = Reflected<Record>::Default();
         (ReadOrReset<Descriptors>(children[Index], context, defaults), ...);
     }
 
@@ -73,7 +73,7 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         }
     }
 
-    static void Write(const WriteContext<Record>& context)
+    [[gnu::noinline]] static void Write(const WriteContext<Record>& context)
     {
         [[maybe_unused]] const Record* defaults = context.flags->omitDefaults ? &Reflected<Record>::Default() : nullptr;
         std::array<bool, List::SIZE> isWritten{(!defaults || !Descriptors::Equal(context.record, *defaults))...};
@@ -91,12 +91,12 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
 
     static void ErasedRead(void* record, const PropertyTree::Map& source, const ReadFlags* flags)
     {
-        Reflected<Record>::Read({*static_cast<Record*>(record), source, flags});
+        Read({*static_cast<Record*>(record), source, flags});
     }
 
     static void ErasedWrite(const void* record, PropertyTree::Map& target, const WriteFlags* flags)
     {
-        Reflected<Record>::Write({*static_cast<const Record*>(record), target, flags});
+        Write({*static_cast<const Record*>(record), target, flags});
     }
 
     static void ReadField([[maybe_unused]] std::size_t index, [[maybe_unused]] void* record,

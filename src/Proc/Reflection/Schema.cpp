@@ -1,12 +1,46 @@
 #include "Proc/Reflection/Schema.h"
 
 #include <algorithm>
+#include <cstring>
 #include <string>
 
 namespace Ombrel::Proc
 {
 namespace
 {
+
+template <class Number> bool BeginAlike(const char* a, const char* b)
+{
+    Number left;
+    Number right;
+    std::memcpy(&left, a, sizeof(Number));
+    std::memcpy(&right, b, sizeof(Number));
+    return left == right;
+}
+
+template <class Number> bool AreAlike(std::string_view a, std::string_view b)
+{
+    const std::size_t last = a.size() - sizeof(Number); // overlaps with the beginning
+    return BeginAlike<Number>(a.data(), b.data()) && BeginAlike<Number>(a.data() + last, b.data() + last);
+}
+
+// As `==`: a call of `memcmp` would take longer than the rest of a step. Few keys have more than 16 characters.
+bool AreEqual(std::string_view a, std::string_view b)
+{
+    if (a.size() != b.size())
+    {
+        return false;
+    }
+    if (a.size() >= sizeof(std::uint64_t))
+    {
+        return AreAlike<std::uint64_t>(a, b) && (a.size() <= 2 * sizeof(std::uint64_t) || a == b);
+    }
+    if (a.size() >= sizeof(std::uint32_t))
+    {
+        return AreAlike<std::uint32_t>(a, b);
+    }
+    return std::ranges::equal(a, b);
+}
 
 // Most different keys differ in their first character already.
 bool IsBefore(std::string_view a, std::string_view b)
@@ -22,17 +56,17 @@ bool IsBefore(std::string_view a, std::string_view b)
 
 void FindChildren(const RecordSchema& schema, const PropertyTree::Map& source, const PropertyTree** children)
 {
-    const std::size_t size = schema.fields.size();
-    std::fill_n(children, size, nullptr);
-    auto entry = source.begin();
-    const auto end = source.end();
-    for (std::size_t place = 0; entry != end && place != size;)
+    const std::span fields = schema.fields;
+    std::fill_n(children, fields.size(), nullptr);
+    const std::uint16_t* place = schema.keyOrder;
+    const std::uint16_t* const endPlace = place + fields.size();
+    const auto endEntry = source.end();
+    for (auto entry = source.begin(); entry != endEntry && place != endPlace;)
     {
-        const std::size_t index = schema.keyOrder[place];
-        const std::string_view key = schema.fields[index].key;
-        if (entry->first == key)
+        const std::string_view key = fields[*place].key;
+        if (AreEqual(entry->first, key))
         {
-            children[index] = &entry->second;
+            children[*place] = &entry->second;
             ++entry;
             ++place;
         }
@@ -59,21 +93,20 @@ WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, s
                            PropertyTree** children)
     : WriteTargets(schema, map, isWritten, children)
 {
-    const std::size_t size = schema.fields.size();
-    const auto count = static_cast<std::size_t>(std::count(isWritten, isWritten + size, true));
+    const std::span fields = schema.fields;
+    const auto count = static_cast<std::size_t>(std::count(isWritten, isWritten + fields.size(), true));
     if (count == 0)
     {
         return;
     }
-    std::size_t known = map.size();
-    map.reserve(known + count + others);
-    for (const std::uint16_t index : std::span(schema.keyOrder, size))
+    const bool wasEmpty = map.empty();
+    map.reserve(map.size() + count + others);
+    for (const std::uint16_t index : std::span(schema.keyOrder, fields.size()))
     {
         if (isWritten[index])
         {
-            children[index] = &map[schema.fields[index].key];
-            isWritten[index] = map.size() != known;
-            known = map.size();
+            isWritten[index] = wasEmpty || !map.contains(fields[index].key);
+            children[index] = &map[fields[index].key];
         }
     }
 }
