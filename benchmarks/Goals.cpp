@@ -67,10 +67,9 @@ void PrintGoals(std::ostream& out, const std::map<std::string, Figure>& figures)
         {
             continue;
         }
-        const double value = isAlone ? subject->second.allocations
-                             : goal.measure == Measure::TimesAsLong
-                                 ? subject->second.nanoseconds / other->second.nanoseconds
-                                 : other->second.nanoseconds / subject->second.nanoseconds;
+        const double value = isAlone                                ? subject->second.allocations
+                             : goal.measure == Measure::TimesAsLong ? subject->second.nanoseconds / other->second.nanoseconds
+                                                                    : other->second.nanoseconds / subject->second.nanoseconds;
         const bool isMet = goal.measure == Measure::TimesAsFast ? value >= goal.limit : value <= goal.limit;
         out << "GOAL " << goal.name << ' ' << std::setprecision(3) << value
             << (goal.measure == Measure::TimesAsFast ? " >=" : " <=") << goal.limit << (isMet ? " ok\n" : " miss\n");
