@@ -180,6 +180,39 @@ TEST(Schema, ComparesKeysAsUnsignedBytes)
     EXPECT_EQ(weather.m_celsius.degrees, 25.5);
 }
 
+TEST(Schema, TellsKeysApartByEveryCharacter)
+{
+    for (std::size_t size = 0; size < 40; ++size)
+    {
+        const std::string key(size, 'k');
+        const FieldSchema field{key, &OTHER_VALUE};
+        constexpr std::uint16_t first = 0;
+        const RecordSchema schema{
+            .name = {},
+            .fields = {&field, 1},
+            .keyOrder = &first,
+            .defaults = nullptr,
+            .read = nullptr,
+            .write = nullptr,
+            .readField = nullptr,
+            .writeField = nullptr,
+        };
+        for (std::size_t changed = 0; changed <= size; ++changed)
+        {
+            std::string other = key;
+            other.resize(std::max(size, changed + 1)); // and by one more
+            other[changed] = changed % 2 == 0 ? 'a' : 'z';
+            PropertyTree tree = Map({{other, 1}});
+            const PropertyTree* child = &tree;
+            FindChildren(schema, tree.getMap(), &child);
+            EXPECT_EQ(child, nullptr) << size << ", " << changed;
+            tree[key] = 2;
+            FindChildren(schema, tree.getMap(), &child);
+            EXPECT_EQ(child, &tree[key]) << size << ", " << changed;
+        }
+    }
+}
+
 TEST(Schema, ReachesARecordWithoutItsType)
 {
     const RecordSchema& schema = Reflected<Pupil>::Schema();
