@@ -320,7 +320,8 @@ TEST(TileStub, IsEqualToAnyOtherAndToNoOtherRecord)
     EXPECT_THROW(stub.IsEqualTo(Ombrel::Proc::SettingsEffectAcid()), std::bad_cast);
     EXPECT_FALSE(stub.IsEmpty());
     const std::unique_ptr<Ombrel::Proc::Settings> clone(stub.Clone());
-    EXPECT_EQ(typeid(*clone), typeid(TileSettingsStub));
+    const auto& object = *clone;
+    EXPECT_EQ(typeid(object), typeid(TileSettingsStub));
 }
 
 } // namespace
