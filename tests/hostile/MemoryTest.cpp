@@ -55,10 +55,24 @@ template <class Work> void WithoutMemory(const std::string& what, Work work)
 class MemoryTest : public CatalogueTest
 {
 protected:
+    // With texts that do not fit into a string itself.
+    static PropertyTree LongForm()
+    {
+        PropertyTree tree = SampleForm();
+        for (const Field& field : GetParam().fields)
+        {
+            if (field.kind == Kind::String)
+            {
+                tree[field.key] = std::string(100, 'x');
+            }
+        }
+        return tree;
+    }
+
     static std::shared_ptr<IEffectSettings> MakeSample()
     {
         const auto effect = Make();
-        effect->Deserialize(SampleForm());
+        effect->Deserialize(LongForm());
         return effect;
     }
 };
@@ -76,7 +90,7 @@ TEST_P(MemoryTest, FailsInAWrite)
 
 TEST_P(MemoryTest, FailsInARead)
 {
-    const PropertyTree tree = SampleForm();
+    const PropertyTree tree = LongForm();
     const auto effect = Make();
     WithoutMemory("Deserialize", [&] { effect->Deserialize(tree); });
     // What is added at each try stands there several times.
