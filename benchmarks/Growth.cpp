@@ -1,9 +1,9 @@
 // Does one thing to so many elements and says how long an element took, so that its cost can be seen not to depend on how many
 // there are. Counted under callgrind, with `--toggle-collect=Measured*`, it gives the instructions of the thing alone.
 
+#include "EffectLists.h"
 #include "Proc/EffectSettings/AdjusterSettings.h"
 #include "Proc/EffectSettings/BlurRadialSettings.h"
-#include "Proc/EffectSettings/EffectSettings.h"
 #include "PropertyTree/PropertyTree.h"
 #include "Samples.h"
 
@@ -17,7 +17,8 @@
 #include <utility>
 
 using namespace Ombrel;
-using PhotoCore::EffectSettings;
+using Benchmarks::ReadEffects;
+using Benchmarks::WriteEffects;
 using PhotoCore::IEffectSettings;
 
 // Has its name in the program, by which the count is switched on and off.
@@ -39,24 +40,6 @@ IEffectSettings::List MakeEffects(std::size_t count)
     return effects;
 }
 
-void Write(const IEffectSettings::List& effects, PropertyTree& tree)
-{
-    PropertyTree::List& list = tree.makeList(effects.size());
-    for (const std::shared_ptr<IEffectSettings>& effect : effects)
-    {
-        EffectSettings::SerializePtr(list.emplace_back(), effect);
-    }
-}
-
-void Read(const PropertyTree& tree, IEffectSettings::List& effects)
-{
-    effects.reserve(tree.getList().size());
-    for (const PropertyTree& element : tree.getList())
-    {
-        EffectSettings::DeserializePtr(element, effects.emplace_back());
-    }
-}
-
 PhotoCore::BlurRadialSettings MakePoints(std::size_t count)
 {
     PhotoCore::BlurRadialSettings effect;
@@ -67,11 +50,8 @@ PhotoCore::BlurRadialSettings MakePoints(std::size_t count)
 // Does for the first time what would cost more then.
 void WarmUp()
 {
-    PropertyTree tree;
-    Write(MakeEffects(1), tree);
-    PropertyTree copy = tree;
-    IEffectSettings::List effects;
-    Read(copy, effects);
+    PropertyTree tree = WriteEffects(MakeEffects(1));
+    ReadEffects(PropertyTree(tree));
     PhotoCore::BlurRadialSettings points = MakePoints(1);
     points.Serialize(tree);
     points.Deserialize(tree);
@@ -114,7 +94,7 @@ int Run(std::string_view what, std::size_t count)
     }
     else if (!isOfDepth)
     {
-        Write(effects, tree);
+        tree = WriteEffects(effects);
     }
 
     PropertyTree target;
@@ -122,11 +102,11 @@ int Run(std::string_view what, std::size_t count)
     PhotoCore::BlurRadialSettings readPoints;
     if (what == "effects-write")
     {
-        return measure([&] { Write(effects, target); });
+        return measure([&] { target = WriteEffects(effects); });
     }
     if (what == "effects-read")
     {
-        return measure([&] { Read(tree, made); });
+        return measure([&] { made = ReadEffects(tree); });
     }
     if (what == "points-write")
     {

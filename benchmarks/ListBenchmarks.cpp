@@ -1,8 +1,8 @@
 #include "Comparison.h"
 
+#include "EffectLists.h"
 #include "HandWritten.h"
 #include "HandWrittenJson.h"
-#include "Proc/EffectSettings/EffectSettings.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 #include "Samples.h"
 
@@ -15,33 +15,9 @@ namespace Ombrel::Benchmarks
 namespace
 {
 
-using PhotoCore::EffectSettings;
 using PhotoCore::IEffectSettings;
 
 constexpr std::size_t EFFECT_COUNT = 1000;
-
-PropertyTree WriteEffects(const IEffectSettings::List& effects)
-{
-    PropertyTree tree;
-    tree.convertToList();
-    tree.getList().reserve(effects.size());
-    for (const std::shared_ptr<IEffectSettings>& effect : effects)
-    {
-        EffectSettings::SerializePtr(tree.getList().emplace_back(), effect);
-    }
-    return tree;
-}
-
-IEffectSettings::List ReadEffects(const PropertyTree& tree)
-{
-    IEffectSettings::List effects;
-    effects.reserve(tree.getList().size());
-    for (const PropertyTree& element : tree.getList())
-    {
-        EffectSettings::DeserializePtr(element, effects.emplace_back());
-    }
-    return effects;
-}
 
 PropertyTree HandWriteEffects(const HandWrittenEffect::List& effects)
 {

@@ -11,17 +11,11 @@ namespace
 {
 
 using Ombrel::PropertyTree;
+using Support::AllocationsOf;
 using Map = PropertyTree::Map;
 
 constexpr const char* KEYS[] = {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j",
                                 "k", "l", "m", "n", "o", "p", "q", "r", "s", "fifteen letters"};
-
-template <class Work> std::size_t AllocationsOf(Work work)
-{
-    const std::size_t before = Support::AllocationCount();
-    work();
-    return Support::AllocationCount() - before;
-}
 
 // So many entries with keys that differ from the first character on or far behind.
 Map Sample(int count)

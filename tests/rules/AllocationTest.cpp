@@ -16,14 +16,8 @@ namespace
 
 using namespace Ombrel::PhotoCore;
 using Ombrel::PropertyTree;
+using Support::AllocationsOf;
 using Support::Map;
-
-template <class Work> std::size_t AllocationsOf(Work work)
-{
-    const std::size_t before = Support::AllocationCount();
-    work();
-    return Support::AllocationCount() - before;
-}
 
 std::size_t AllocationsOfWriting(const IEffectSettings& effect)
 {

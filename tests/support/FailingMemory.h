@@ -29,6 +29,14 @@ public:
 /// How many allocations this thread has made so far.
 std::size_t AllocationCount();
 
+/// How many of them are made by `work()`.
+template <class Work> std::size_t AllocationsOf(Work work)
+{
+    const std::size_t before = AllocationCount();
+    work();
+    return AllocationCount() - before;
+}
+
 } // namespace Support
 
 #endif
