@@ -22,7 +22,7 @@ namespace Ombrel::PhotoCore
 enum class Registration : std::uint8_t
 {
     StartUpList, // built into the registry in one step
-    Factory,     // added by `IEffectSettings::RegisterFactory` after that
+    Factory,     // added after that, by the rule of `IEffectSettings::RegisterFactory`
     None,        // has a class id and cannot be made by it: trees of it can be written but not read back
 };
 

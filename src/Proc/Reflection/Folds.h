@@ -57,6 +57,8 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         }
     }
 
+    // Neither the read nor the write is inlined: each would stand in the code twice, for callers with and without the record's
+    // type. And the flag is asked for anew at each field: of what it knew beforehand the compiler would make two copies.
     [[gnu::noinline]] static void Read(const ReadContext<Record>& context)
     {
         std::array<const PropertyTree*, List::SIZE> children;
