@@ -70,7 +70,7 @@ install(FILES ${PROJECT_SOURCE_DIR}/src/Export.h DESTINATION ${CMAKE_INSTALL_INC
 ombrel_install_library(EffectSettings
   DESCRIPTION "${PROJECT_DESCRIPTION}"
   FOLDERS Conf Exception PhotoUtil Proc PropertyTree
-  PRIVATE_HEADERS PropertyTreeMapIndex.h ScaledInteger.h WrappingArithmetic.h)
+  PRIVATE_HEADERS PropertyTreeMapFiller.h PropertyTreeMapIndex.h ScaledInteger.h WrappingArithmetic.h)
 if(TARGET ombrel_PropertyTreeJson)
   ombrel_install_library(PropertyTreeJson
     DESCRIPTION "The stored form of effect settings as JSON text"

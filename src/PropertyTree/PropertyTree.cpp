@@ -1,7 +1,10 @@
 #include "PropertyTree/PropertyTree.h"
 
+#include "PropertyTree/PropertyTreeMapFiller.h"
+
 #include <algorithm>
 #include <iterator>
+#include <memory>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -96,30 +99,6 @@ void Dismantle(PropertyTree& top) noexcept
     }
 }
 
-// Empties a tree of any depth, so that destroying it goes no deeper.
-void Empty(PropertyTree& tree, int depth) noexcept
-{
-    const auto emptyChild = [depth](PropertyTree& child)
-    {
-        if (IsContainer(child))
-        {
-            depth == RECURSION_LIMIT ? Dismantle(child) : Empty(child, depth + 1);
-        }
-    };
-    if (tree.isList())
-    {
-        PropertyTree::List& list = tree.getList();
-        std::for_each(list.begin(), list.end(), emptyChild);
-        list.clear();
-    }
-    else
-    {
-        PropertyTree::Map& map = tree.getMap();
-        std::for_each(map.begin(), map.end(), [&emptyChild](auto& entry) { emptyChild(entry.second); });
-        map.clear();
-    }
-}
-
 class Comparison
 {
 public:
@@ -207,10 +186,10 @@ private:
         }
         else if (source.IsMap())
         {
-            Map& map = target.makeMap(source.m_map.content.size());
+            PropertyTreeMapFiller copy(target.makeMap(source.m_map.content.size()));
             for (const auto& [key, child] : source.m_map.content)
             {
-                Copy(child, map.Append(key), depth + 1);
+                Copy(child, copy.Append(key), depth + 1);
             }
         }
     }
@@ -346,21 +325,29 @@ void PropertyTree::Take(PropertyTree& other) noexcept
     std::construct_at(&other.m_null);
 }
 
-// Destroys the content and leaves the tree without any.
-void PropertyTree::Release() noexcept
+// Destroys the content and leaves the tree without any, not even null.
+void PropertyTree::Release(int depth) noexcept
 {
     if (isScalar())
     {
         std::destroy_at(&m_scalar);
         return;
     }
-    Empty(*this, 0);
+    if (depth == RECURSION_LIMIT)
+    {
+        Dismantle(*this);
+    }
     if (isList())
     {
+        for (PropertyTree& element : m_list.content)
+        {
+            element.Clear(depth + 1);
+        }
         std::destroy_at(&m_list);
     }
     else
     {
+        m_map.content.Release(depth);
         std::destroy_at(&m_map);
     }
 }

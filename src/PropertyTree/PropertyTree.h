@@ -8,7 +8,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <new>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -57,7 +57,7 @@ public:
     {
         if (HoldsMemory())
         {
-            Release();
+            Release(0);
         }
     }
 
@@ -71,7 +71,7 @@ public:
     {
         PropertyTreeScalar scalar(std::forward<T>(value)); // first, since it may stand in this tree
         Clear();
-        std::construct_at(&m_scalar, std::move(scalar));
+        ::new (static_cast<void*>(&m_scalar)) PropertyTreeScalar(std::move(scalar));
         return *this;
     }
 
@@ -153,6 +153,7 @@ public:
     friend OMBREL_API bool operator==(const PropertyTree& a, const PropertyTree& b);
 
 private:
+    friend Map;
     class Copying;
 
     // A scalar's states are the numbers of its kinds.
@@ -185,20 +186,20 @@ private:
 
     [[noreturn]] void Refuse(const char* expected) const;
 
-    // Makes the tree null.
-    void Clear() noexcept
+    // Makes the tree null. What it holds stands so many containers below the one that is given up as a whole.
+    void Clear(int depth = 0) noexcept
     {
         if (HoldsMemory())
         {
-            Release();
+            Release(depth);
         }
-        std::construct_at(&m_null);
+        ::new (static_cast<void*>(&m_null)) Null{STATE_NULL};
     }
 
     void SetMap(Map&& map) noexcept;
     void SetList(List&& list) noexcept;
     void Take(PropertyTree& other) noexcept;
-    void Release() noexcept;
+    void Release(int depth) noexcept;
 
     union
     {

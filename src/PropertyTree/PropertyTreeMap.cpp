@@ -1,6 +1,7 @@
 #include "PropertyTree/PropertyTreeMap.h"
 
 #include "PropertyTree/PropertyTree.h"
+#include "PropertyTree/PropertyTreeMapFiller.h"
 #include "PropertyTree/PropertyTreeMapIndex.h"
 
 #include <algorithm>
@@ -8,7 +9,6 @@
 #include <memory>
 #include <new>
 #include <stdexcept>
-#include <tuple>
 
 namespace Ombrel
 {
@@ -38,7 +38,7 @@ PropertyTreeMap::PropertyTreeMap(const PropertyTreeMap& other) : PropertyTreeMap
     reserve(other.size()); // the delegated-to constructor is done, so a failure in here runs the destructor
     for (const auto& [key, child] : other)
     {
-        Append(key) = child;
+        Append(key, HeadOf(key)) = child;
     }
 }
 
@@ -207,22 +207,6 @@ inline bool PropertyTreeMap::HasRoomAtEnd(std::string_view key, std::uint64_t he
     return last < head || (last == head && m_root->end[-1].first < key);
 }
 
-inline PropertyTree& PropertyTreeMap::Append(std::string_view key, std::uint64_t head)
-{
-    Root& root = *m_root;
-    value_type* entry =
-        std::construct_at(root.end, std::piecewise_construct, std::forward_as_tuple(key), std::forward_as_tuple());
-    root.heads[root.size] = head;
-    ++root.end;
-    ++root.size;
-    return entry->second;
-}
-
-PropertyTree& PropertyTreeMap::Append(std::string_view key)
-{
-    return Append(key, HeadOf(key));
-}
-
 // Finds the entry, or makes it with a null tree.
 PropertyTreeMap::Where PropertyTreeMap::Insert(std::string_view key)
 {
@@ -230,7 +214,7 @@ PropertyTreeMap::Where PropertyTreeMap::Insert(std::string_view key)
     {
         PropertyTreeMap first;
         first.m_root = Root::Make(FIRST_CAPACITY);
-        first.Append(key);
+        first.Append(key, HeadOf(key));
         swap(first);
         return {};
     }
@@ -276,10 +260,12 @@ PropertyTreeMap::iterator PropertyTreeMap::EraseAt(Where where) noexcept
     return At<iterator>(where);
 }
 
-void PropertyTreeMap::Release() noexcept
+// Destroys the children here and not by their destructors, which would not know how deep they stand.
+void PropertyTreeMap::Release(int depth) noexcept
 {
     for (value_type& entry : *this)
     {
+        entry.second.Clear(depth + 1);
         std::destroy_at(&entry);
     }
     while (m_root->blocks)

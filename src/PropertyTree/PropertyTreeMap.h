@@ -186,7 +186,7 @@ public:
     {
         if (m_root)
         {
-            Release();
+            Release(0);
         }
     }
 
@@ -195,6 +195,7 @@ public:
 
 private:
     friend PropertyTree;
+    friend class PropertyTreeMapFiller;
 
     struct Block;
     class Index;
@@ -237,10 +238,9 @@ private:
     template <class It> It At(const Where& where) const noexcept;
     bool HasRoomAtEnd(std::string_view key, std::uint64_t head) const noexcept;
     PropertyTree& Append(std::string_view key, std::uint64_t head);
-    PropertyTree& Append(std::string_view key);
     Where Insert(std::string_view key);
     iterator EraseAt(Where where) noexcept;
-    void Release() noexcept;
+    void Release(int depth) noexcept;
 
     Root* m_root = nullptr;
 };

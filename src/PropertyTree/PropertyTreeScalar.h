@@ -6,7 +6,7 @@
 #include <bit>
 #include <concepts>
 #include <cstdint>
-#include <memory>
+#include <new>
 #include <string>
 #include <utility>
 
@@ -54,7 +54,7 @@ public:
     {
         if (IsText())
         {
-            std::destroy_at(&m_text);
+            m_text.~basic_string();
         }
     }
 
@@ -63,8 +63,8 @@ public:
     PropertyTreeScalar& operator=(PropertyTreeScalar&& other) noexcept
     {
         PropertyTreeScalar value(std::move(other)); // first, since the two may be one
-        std::destroy_at(this);
-        return *std::construct_at(this, std::move(value));
+        this->~PropertyTreeScalar();
+        return *::new (static_cast<void*>(this)) PropertyTreeScalar(std::move(value));
     }
 
     Kind kind() const noexcept { return static_cast<Kind>(m_kind); }
@@ -105,7 +105,7 @@ private:
     {
         if (IsText())
         {
-            std::construct_at(&m_text, std::forward<Text>(text));
+            ::new (static_cast<void*>(&m_text)) std::string(std::forward<Text>(text));
         }
         else
         {

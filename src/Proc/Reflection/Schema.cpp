@@ -1,5 +1,7 @@
 #include "Proc/Reflection/Schema.h"
 
+#include "PropertyTree/PropertyTreeMapFiller.h"
+
 #include <algorithm>
 #include <cstring>
 #include <string>
@@ -99,13 +101,25 @@ WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, s
     {
         return;
     }
-    const bool wasEmpty = map.empty();
     map.reserve(map.size() + count + others);
-    for (const std::uint16_t index : std::span(schema.keyOrder, fields.size()))
+    const std::span order(schema.keyOrder, fields.size());
+    if (map.empty())
+    {
+        PropertyTreeMapFiller filler(map);
+        for (const std::uint16_t index : order)
+        {
+            if (isWritten[index])
+            {
+                children[index] = &filler.Append(fields[index].key);
+            }
+        }
+        return;
+    }
+    for (const std::uint16_t index : order)
     {
         if (isWritten[index])
         {
-            isWritten[index] = wasEmpty || !map.contains(fields[index].key);
+            isWritten[index] = !map.contains(fields[index].key);
             children[index] = &map[fields[index].key];
         }
     }

@@ -84,8 +84,9 @@ OMBREL_API void FindChildren(const RecordSchema& schema, const PropertyTree::Map
 class OMBREL_API WriteTargets
 {
 public:
-    /// @param isWritten for each field, whether it is written; then, whether its child is new. As `children`, one per field, it
-    ///                  belongs to the caller and must outlive this object.
+    /// @param isWritten for each field, whether it is written; then, whether its child is new. As `children`, it belongs to the
+    ///                  caller and must outlive this object.
+    /// @param children for each field, its child or null; the caller clears a place when the write comes to it
     /// @param others entries that there shall be room for beside the fields
     /// @throws std::bad_alloc, with the map as it was but for what room it has
     WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, bool* isWritten,
@@ -101,9 +102,6 @@ public:
             Withdraw();
         }
     }
-
-    /// The field's child the first time, if it is written, else null.
-    PropertyTree* Take(std::size_t index) noexcept { return std::exchange(m_children[index], nullptr); }
 
     /// Every child has been filled: none is taken away any more.
     void Finish() noexcept { m_isDone = true; }
