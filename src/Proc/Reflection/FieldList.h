@@ -4,13 +4,10 @@
 #include "Proc/Reflection/Codec.h"
 #include "Proc/Reflection/SpelledName.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <limits>
-#include <numeric>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -44,10 +41,31 @@ template <auto Member> struct FieldDescriptor
 /// A text as a template argument.
 template <std::size_t Size> struct KeyText
 {
-    consteval KeyText(const char (&text)[Size]) { std::copy_n(text, Size, value); }
+    consteval KeyText(const char (&text)[Size])
+    {
+        for (std::size_t i = 0; i != Size; ++i)
+        {
+            value[i] = text[i];
+        }
+    }
 
     char value[Size];
 };
+
+/// `std::invoke` of a function with the record it takes first or is a member of; <functional> would be half of the time that
+/// a record's file takes to compile.
+template <class Function, class Record, class... Arguments>
+constexpr decltype(auto) Invoke(Function function, Record& record, Arguments&&... arguments)
+{
+    if constexpr (std::is_member_function_pointer_v<Function>)
+    {
+        return (record.*function)(std::forward<Arguments>(arguments)...);
+    }
+    else
+    {
+        return function(record, std::forward<Arguments>(arguments)...);
+    }
+}
 
 /// A reflected property, reached through a setter and a getter: member functions of the record, or functions that take it
 /// first. The tree sees only what the getter says; the setter runs once per read, after the value is decoded.
@@ -61,22 +79,22 @@ template <KeyText Key, auto Setter, auto Getter> struct AccessorDescriptor
     {
         Value<Record> value{};
         Codec<Value<Record>>::Read(child, value, flags);
-        std::invoke(Setter, record, std::move(value));
+        Invoke(Setter, record, std::move(value));
     }
 
     template <class Record> static void Write(PropertyTree& child, const Record& record, const WriteFlags* flags)
     {
-        Codec<Value<Record>>::Write(child, std::invoke(Getter, record), flags);
+        Codec<Value<Record>>::Write(child, Invoke(Getter, record), flags);
     }
 
     template <class Record> static void Reset(Record& record, const Record& defaults)
     {
-        std::invoke(Setter, record, std::invoke(Getter, defaults));
+        Invoke(Setter, record, Invoke(Getter, defaults));
     }
 
     template <class Record> static bool Equal(const Record& a, const Record& b)
     {
-        return std::invoke(Getter, a) == std::invoke(Getter, b);
+        return Invoke(Getter, a) == Invoke(Getter, b);
     }
 };
 
@@ -86,20 +104,35 @@ template <class... Descriptors> struct FieldList
     static constexpr std::size_t SIZE = sizeof...(Descriptors);
     static constexpr std::array<std::string_view, SIZE> KEYS{Descriptors::KEY...};
 
-    /// The indices of the fields in the byte order of their keys.
+    /// The indices of the fields in the byte order of their keys. Sorted by hand, here and below: the compiler would take more
+    /// time for the standard's algorithms than for all else that there is of a record.
     static constexpr std::array<std::uint16_t, SIZE> KEY_ORDER = []
     {
         std::array<std::uint16_t, SIZE> order{};
-        std::iota(order.begin(), order.end(), std::uint16_t{0});
-        std::ranges::sort(order, {}, [](std::uint16_t index) { return KEYS[index]; });
+        for (std::size_t index = 0; index != SIZE; ++index)
+        {
+            std::size_t place = index;
+            for (; place != 0 && KEYS[index] < KEYS[order[place - 1]]; --place)
+            {
+                order[place] = order[place - 1];
+            }
+            order[place] = static_cast<std::uint16_t>(index);
+        }
         return order;
     }();
 
-    static consteval bool HasKey(std::string_view key) { return std::ranges::find(KEYS, key) != KEYS.end(); }
+    static consteval bool HasKey([[maybe_unused]] std::string_view key) { return ((Descriptors::KEY == key) || ...); }
 
     static consteval bool HasUniqueKeys()
     {
-        return std::ranges::adjacent_find(KEY_ORDER, {}, [](std::uint16_t index) { return KEYS[index]; }) == KEY_ORDER.end();
+        for (std::size_t place = 1; place < SIZE; ++place)
+        {
+            if (KEYS[KEY_ORDER[place - 1]] == KEYS[KEY_ORDER[place]])
+            {
+                return false;
+            }
+        }
+        return true;
     }
 
     static_assert(SIZE <= std::numeric_limits<std::uint16_t>::max());

@@ -4,7 +4,6 @@
 #include "Proc/Reflection/FieldList.h"
 #include "Proc/Reflection/Reflected.h"
 
-#include <algorithm>
 #include <array>
 #include <concepts>
 #include <cstddef>
@@ -28,7 +27,13 @@ template <class Record> consteval bool HasOwnKeys()
 {
     if constexpr (requires { Record::RESERVED_KEYS; })
     {
-        return std::ranges::none_of(Record::RESERVED_KEYS, &Fields<Record>::List::HasKey);
+        for (const std::string_view key : Record::RESERVED_KEYS)
+        {
+            if (Fields<Record>::List::HasKey(key))
+            {
+                return false;
+            }
+        }
     }
     return true;
 }
@@ -45,15 +50,15 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
     using List = FieldList<Descriptors...>;
 
     template <class Descriptor>
-    static void ReadOrReset(const PropertyTree* child, const ReadContext<Record>& context, const Record& defaults)
+    static void ReadOrReset(const PropertyTree* child, Record& record, const ReadFlags* flags, const Record& defaults)
     {
         if (child)
         {
-            Descriptor::Read(*child, context.record, context.flags);
+            Descriptor::Read(*child, record, flags);
         }
-        else if (context.flags->resetMissing)
+        else if (flags->resetMissing)
         {
-            Descriptor::Reset(context.record, defaults);
+            Descriptor::Reset(record, defaults);
         }
     }
 
@@ -64,24 +69,37 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         std::array<const PropertyTree*, List::SIZE> children;
         FindChildren(SCHEMA, context.source, children.data());
         [[maybe_unused]] const Record& defaults = Reflected<Record>::Default();
-        (ReadOrReset<Descriptors>(children[Index], context, defaults), ...);
+        [[maybe_unused]] Record& record = context.record;
+        [[maybe_unused]] const ReadFlags* flags = context.flags;
+        (ReadOrReset<Descriptors>(children[Index], record, flags, defaults), ...);
     }
 
-    template <class Descriptor> static void WriteOrOmit(PropertyTree* child, const WriteContext<Record>& context)
+    // A place that the write has come to is cleared, so that its child stays whatever happens.
+    template <class Descriptor> static void WriteOrOmit(PropertyTree*& place, const Record& record, const WriteFlags* flags)
     {
-        if (child)
+        if (PropertyTree* child = std::exchange(place, nullptr))
         {
-            Descriptor::Write(*child, context.record, context.flags);
+            Descriptor::Write(*child, record, flags);
         }
     }
 
     [[gnu::noinline]] static void Write(const WriteContext<Record>& context)
     {
-        [[maybe_unused]] const Record* defaults = context.flags->omitDefaults ? &Reflected<Record>::Default() : nullptr;
-        std::array<bool, List::SIZE> isWritten{(!defaults || !Descriptors::Equal(context.record, *defaults))...};
+        [[maybe_unused]] const Record& record = context.record;
+        const WriteFlags* flags = context.flags;
+        std::array<bool, List::SIZE> isWritten;
+        if (flags->omitDefaults)
+        {
+            [[maybe_unused]] const Record& defaults = Reflected<Record>::Default();
+            isWritten = {!Descriptors::Equal(record, defaults)...};
+        }
+        else
+        {
+            isWritten.fill(true);
+        }
         std::array<PropertyTree*, List::SIZE> children;
         WriteTargets targets(SCHEMA, context.target, context.others, isWritten.data(), children.data());
-        (WriteOrOmit<Descriptors>(targets.Take(Index), context), ...);
+        (WriteOrOmit<Descriptors>(children[Index], record, flags), ...);
         targets.Finish();
     }
 

@@ -14,14 +14,14 @@ namespace Ombrel::Proc
 template <class Record> struct Reflected
 {
     /// The record that missing keys are reset to and written values are compared with. Made on first use.
-    static const Record& Default();
+    [[gnu::noinline]] static const Record& Default();
 
     // Both go through the fields in declaration order.
     static void Read(const ReadContext<Record>& context);
     static void Write(const WriteContext<Record>& context);
 
     /// Field by field in declaration order, each by its own `==`.
-    static bool Equal(const Record& a, const Record& b);
+    [[gnu::noinline]] static bool Equal(const Record& a, const Record& b);
 
     /// The fields as constant data, with the way to each of them.
     static const RecordSchema& Schema() noexcept;

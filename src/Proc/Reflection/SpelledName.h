@@ -1,7 +1,6 @@
 #ifndef OMBREL_PROC_REFLECTION_SPELLED_NAME_H
 #define OMBREL_PROC_REFLECTION_SPELLED_NAME_H
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
@@ -60,7 +59,10 @@ static_assert(LastName(Spelling<Probe>()) == "Probe", "this compiler spells type
 template <std::size_t Size> consteval std::array<char, Size> CopyOf(std::string_view text)
 {
     std::array<char, Size> copy{};
-    std::ranges::copy(text, copy.begin());
+    for (std::size_t i = 0; i != Size; ++i)
+    {
+        copy[i] = text[i];
+    }
     return copy;
 }
 

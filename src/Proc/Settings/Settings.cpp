@@ -3,8 +3,6 @@
 namespace Ombrel::Proc
 {
 
-Settings::~Settings() = default;
-
 bool Settings::IsEmpty() const
 {
     return false;

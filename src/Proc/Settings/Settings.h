@@ -21,7 +21,7 @@ public:
 
     Settings(const Settings&) = default;
     Settings& operator=(const Settings&) = default;
-    virtual ~Settings();
+    virtual ~Settings() = default;
 
     /// A new copy, which the caller owns.
     virtual Settings* Clone() const = 0;
