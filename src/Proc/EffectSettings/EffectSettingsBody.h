@@ -22,7 +22,7 @@ concept StoresItself = requires
 
 template <class Record, class Derived> const Proc::RecordSchema* EffectSettingsImpl<Record, Derived>::GetSchema() noexcept
 {
-    if constexpr (!Derived::USES_FIELD_LIST)
+    if constexpr (!Derived::UsesFieldList())
     {
         return nullptr;
     }
@@ -44,7 +44,7 @@ template <class Record, class Derived> const std::string& EffectSettingsImpl<Rec
 template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>::Serialize(PropertyTree& tree) const
 {
     EffectSettings::Serialize(tree);
-    if constexpr (Derived::USES_FIELD_LIST)
+    if constexpr (Derived::UsesFieldList())
     {
         constexpr Proc::WriteFlags flags{.resetTargets = false, .omitDefaults = true};
         constexpr std::size_t others = 1; // the class id, where it is added
@@ -62,7 +62,7 @@ template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>:
 template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>::Deserialize(const PropertyTree& tree)
 {
     EffectSettings::Deserialize(tree);
-    if constexpr (Derived::USES_FIELD_LIST)
+    if constexpr (Derived::UsesFieldList())
     {
         constexpr Proc::ReadFlags flags{.resetMissing = true};
         if constexpr (StoresItself<Derived>)
@@ -87,7 +87,7 @@ EffectSettingsImpl<Record, Derived>::GetPropertyAccess() const
 template <class Record, class Derived>
 std::unique_ptr<PhotoUtil::ISerializableBase::IPropertyAccess> EffectSettingsImpl<Record, Derived>::GetPropertyAccess()
 {
-    if constexpr (Derived::USES_FIELD_LIST && !StoresItself<Derived>)
+    if constexpr (Derived::UsesFieldList() && !StoresItself<Derived>)
     {
         return std::make_unique<Proc::PropertyAccessImpl<Record>>(&settings);
     }

@@ -15,6 +15,19 @@ struct RecordSchema;
 namespace Ombrel::PhotoCore
 {
 
+/// A record without a default constructor says itself what its default is.
+template <class Record> Record MakeDefaultRecord()
+{
+    if constexpr (std::default_initializable<Record>)
+    {
+        return Record();
+    }
+    else
+    {
+        return Record::MakeDefault();
+    }
+}
+
 /// The settings class `Derived` around a record held by value. This and the layers below are declared here; their bodies stand
 /// in `EffectSettingsBody.h`, for the one file of each settings class that compiles them.
 template <class Record, class Derived> class OMBREL_API EffectSettingsImpl : public EffectSettings
@@ -22,7 +35,7 @@ template <class Record, class Derived> class OMBREL_API EffectSettingsImpl : pub
 public:
     using RecordType = Record;
 
-    EffectSettingsImpl() : settings(MakeDefaultRecord()) {}
+    EffectSettingsImpl() : settings(MakeDefaultRecord<Record>()) {}
     explicit EffectSettingsImpl(const Record& record) : settings(record) {}
 
     static std::shared_ptr<Derived> Create(const Record& record) { return std::make_shared<Derived>(record); }
@@ -56,23 +69,9 @@ public:
 
 protected:
     // Whether the stored form comes from a field list; the reflection layer says that it does.
-    static constexpr bool USES_FIELD_LIST = false;
+    static consteval bool UsesFieldList() { return false; }
 
     Record settings;
-
-private:
-    // A record without a default constructor says itself what its default is.
-    static Record MakeDefaultRecord()
-    {
-        if constexpr (std::default_initializable<Record>)
-        {
-            return Record();
-        }
-        else
-        {
-            return Record::MakeDefault();
-        }
-    }
 };
 
 /// Adds how many input images the effect takes.
@@ -96,7 +95,7 @@ public:
 protected:
     friend EffectSettingsImpl<Record, Derived>;
 
-    static constexpr bool USES_FIELD_LIST = true;
+    static consteval bool UsesFieldList() { return true; }
 };
 
 template <class Record, class Derived>
