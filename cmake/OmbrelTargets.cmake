@@ -5,10 +5,15 @@ include(CheckLinkerFlag)
 set(OMBREL_WARNINGS -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Woverloaded-virtual -Wnon-virtual-dtor)
 option(OMBREL_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
 
-# The library calls its own functions directly and packs its relocations, which makes it load several times faster. Only the
-# functions: a program that is not built as position-independent code holds the one copy of an exported object such as a
-# CLASS_ID, and a library bound to its own would leave that copy unconstructed.
-set(OMBREL_SHARED_LINK_OPTIONS -Wl,-Bsymbolic-functions)
+# The library is bound to itself and packs its relocations, which makes it load several times faster. What it must share with
+# the program stands in a list; a linker that knows no such list binds the functions only.
+set(OMBREL_SHARED_OBJECTS ${CMAKE_CURRENT_LIST_DIR}/shared-objects.list)
+check_linker_flag(CXX "-Wl,--dynamic-list=${OMBREL_SHARED_OBJECTS}" OMBREL_LINKER_TAKES_LISTS)
+if(OMBREL_LINKER_TAKES_LISTS)
+  set(OMBREL_SHARED_LINK_OPTIONS -Wl,--dynamic-list=${OMBREL_SHARED_OBJECTS})
+else()
+  set(OMBREL_SHARED_LINK_OPTIONS -Wl,-Bsymbolic-functions)
+endif()
 check_linker_flag(CXX "-Wl,-z,pack-relative-relocs,--fatal-warnings" OMBREL_LINKER_PACKS_RELOCATIONS)
 if(OMBREL_LINKER_PACKS_RELOCATIONS)
   list(APPEND OMBREL_SHARED_LINK_OPTIONS -Wl,-z,pack-relative-relocs)
@@ -31,6 +36,7 @@ function(ombrel_defaults target)
   get_target_property(type ${target} TYPE)
   if(type STREQUAL "SHARED_LIBRARY")
     target_link_options(${target} PRIVATE ${OMBREL_SHARED_LINK_OPTIONS})
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${OMBREL_SHARED_OBJECTS})
   endif()
 endfunction()
 
