@@ -1,6 +1,6 @@
 #include "HandWritten.h"
 
-#include "HandWrittenRecords.h"
+#include "HandWrittenLists.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
 #include <algorithm>
@@ -81,9 +81,12 @@ template <class Record> constexpr HandWrittenClass ClassOf()
 // So few are found fastest one by one, since most differ in length.
 constexpr std::array CLASSES{
     ClassOf<Proc::SettingsEffectAcid>(),           ClassOf<Proc::SettingsEffectAdjuster>(),
+    ClassOf<Proc::SettingsEffectBiColorToning>(),  ClassOf<Proc::SettingsEffectBlurRadial>(),
     ClassOf<Proc::SettingsEffectColorBalance>(),   ClassOf<Proc::SettingsEffectColorBalanceAuto>(),
     ClassOf<Proc::SettingsEffectDetailsEnhance>(), ClassOf<Proc::SettingsEffectEmpty>(),
-    ClassOf<Proc::SettingsEffectSmartBlur>(),      ClassOf<Proc::SettingsEffectVibrance>(),
+    ClassOf<Proc::SettingsEffectFaceThinning>(),   ClassOf<Proc::SettingsEffectGradient>(),
+    ClassOf<Proc::SettingsEffectNegateVideo>(),    ClassOf<Proc::SettingsEffectSmartBlur>(),
+    ClassOf<Proc::SettingsEffectVibrance>(),
 };
 
 bool IsDefault(const PhotoCore::HelperSettings& settings)

@@ -1,8 +1,14 @@
 #include "Samples.h"
 
 #include "Proc/Settings/SettingsEffectAcid.h"
+#include "Proc/Settings/SettingsEffectBiColorToning.h"
+#include "Proc/Settings/SettingsEffectBlurRadial.h"
 #include "Proc/Settings/SettingsEffectEmpty.h"
+#include "Proc/Settings/SettingsEffectFaceThinning.h"
+#include "Proc/Settings/SettingsEffectGradient.h"
+#include "Proc/Settings/SettingsEffectNegateVideo.h"
 
+#include <cstdint>
 #include <string>
 
 namespace Ombrel::Benchmarks
@@ -15,6 +21,64 @@ Proc::SettingsEffectAcid FullAcid(int seed)
     Proc::SettingsEffectAcid record;
     record.radius = 1 + seed;
     record.sigma = 0.75 + seed;
+    return record;
+}
+
+Proc::RgbaColor Color(int seed)
+{
+    const auto byte = [seed](int offset) { return static_cast<std::uint8_t>(offset + seed % 100); };
+    return {byte(7), byte(70), byte(140), byte(100)};
+}
+
+Proc::SettingsEffectBiColorToning FullBiColorToning(int seed)
+{
+    Proc::SettingsEffectBiColorToning record;
+    record.m_colorFirst = Color(seed);
+    record.m_colorSecond = Color(seed + 50);
+    return record;
+}
+
+Proc::SettingsEffectBlurRadial FullBlurRadial(int seed)
+{
+    Proc::SettingsEffectBlurRadial record;
+    record.m_mode = Proc::SettingsEffectBlurRadial::BlurRadialMode::Custom;
+    record.m_x = 0.25 + seed;
+    record.m_y = 0.75 + seed;
+    record.m_strength = 62.5 + seed;
+    record.m_angle = 30.5 + seed;
+    for (int i = 0; i != 10; ++i)
+    {
+        record.m_trace.push_back({40 * i + 1, 900 - 3 * i + seed});
+    }
+    return record;
+}
+
+Proc::SettingsEffectFaceThinning FullFaceThinning(int seed)
+{
+    Proc::SettingsEffectFaceThinning record;
+    for (int i = 0; i != 200; ++i)
+    {
+        record.m_faceOutline.m_contour.push_back({1000 + 2 * i, 500 + seed + i % 7});
+    }
+    record.m_strength = 0.625 + seed;
+    return record;
+}
+
+Proc::SettingsEffectGradient FullGradient(int seed)
+{
+    Proc::SettingsEffectGradient record;
+    for (int i = 0; i != 8; ++i)
+    {
+        record.m_gradient[static_cast<std::uint8_t>(36 * i)] = Color(seed + i);
+    }
+    return record;
+}
+
+Proc::SettingsEffectNegateVideo FullNegateVideo(int)
+{
+    using Channel = Proc::SettingsEffectNegateVideo::Channel;
+    Proc::SettingsEffectNegateVideo record;
+    record.SetMode({Channel::Red, Channel::Blue});
     return record;
 }
 
@@ -125,10 +189,15 @@ std::vector<std::unique_ptr<Proc::Settings>> FullRecords(std::size_t count)
     {
         records.push_back(Own(FullAcid(seed)));
         records.push_back(Own(FullAdjuster(seed)));
+        records.push_back(Own(FullBiColorToning(seed)));
+        records.push_back(Own(FullBlurRadial(seed)));
         records.push_back(Own(FullColorBalance(seed)));
         records.push_back(Own(FullColorBalanceAuto(seed)));
         records.push_back(Own(FullDetailsEnhance(seed)));
         records.push_back(Own(FullEmpty(seed)));
+        records.push_back(Own(FullFaceThinning(seed)));
+        records.push_back(Own(FullGradient(seed)));
+        records.push_back(Own(FullNegateVideo(seed)));
         records.push_back(Own(FullSmartBlur(seed)));
         records.push_back(Own(FullVibrance(seed)));
     }

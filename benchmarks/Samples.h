@@ -17,7 +17,8 @@ Proc::SettingsEffectAdjuster FullAdjuster(int seed = 0);
 /// Two plain values differ from their defaults.
 Proc::SettingsEffectAdjuster SparseAdjuster();
 
-/// Records of eight effects in turn, in which every value differs from its default.
+/// Records of thirteen effects in turn, with fields of every kind but effects, in which every value differs from its default:
+/// a gradient of 8 colours, a trace of 10 points, the outline of a face of 200.
 std::vector<std::unique_ptr<Proc::Settings>> FullRecords(std::size_t count);
 
 } // namespace Ombrel::Benchmarks
