@@ -4,6 +4,7 @@
 #include "Proc/Settings/Settings.h"
 #include "PropertyTree/PropertyTree.h"
 #include "support/TreeText.h"
+#include "support/WholeRecordAccess.h"
 
 #include <gtest/gtest.h>
 
@@ -25,53 +26,13 @@ using namespace Ombrel::Proc;
 using Ombrel::PropertyTree;
 using Support::List;
 using Support::Map;
+using Support::WholeRecordAccess;
 using IPropertyAccess = Ombrel::PhotoUtil::ISerializableBase::IPropertyAccess;
 
-class WholeRecordAccess final : public IPropertyAccess
+void* RecordOf(IEffectSettings& effect)
 {
-public:
-    WholeRecordAccess(const RecordSchema& schema, IEffectSettings& effect)
-        : m_schema(schema), m_record(dynamic_cast<void*>(&effect.GetEffectSettingsRef()))
-    {
-    }
-
-    PropertyTree GetProperty(const std::string& key) const override
-    {
-        const PropertyTree tree = WriteAll();
-        return tree.contains(key) ? tree[key] : PropertyTree();
-    }
-
-    void SetProperty(const std::string& key, const PropertyTree& value) override
-    {
-        constexpr ReadFlags flags{.resetMissing = false};
-        PropertyTree scratch;
-        scratch[key] = value;
-        m_schema.read(m_record, scratch.getMap(), &flags);
-    }
-
-    std::vector<std::string> ListProperties() const override
-    {
-        const PropertyTree tree = WriteAll();
-        std::vector<std::string> keys;
-        for (const auto& [key, child] : tree.getMap())
-        {
-            keys.push_back(key);
-        }
-        return keys;
-    }
-
-    PropertyTree WriteAll() const
-    {
-        constexpr WriteFlags flags{.resetTargets = true, .omitDefaults = false};
-        PropertyTree tree = Map({});
-        m_schema.write(m_record, tree.getMap(), &flags);
-        return tree;
-    }
-
-private:
-    const RecordSchema& m_schema;
-    void* m_record;
-};
+    return dynamic_cast<void*>(&effect.GetEffectSettingsRef());
+}
 
 // What came of setting a property: the failure, if any, and the whole record after it, as text, in which a NaN equals a NaN.
 struct Result
@@ -90,7 +51,7 @@ void PrintTo(const Result& result, std::ostream* out)
 Result ResultOfSetting(const EffectClass& effectClass, bool isWhole, const std::string& key, const PropertyTree& value)
 {
     const auto effect = effectClass.create();
-    WholeRecordAccess whole(*effectClass.getSchema(), *effect);
+    WholeRecordAccess whole(*effectClass.getSchema(), RecordOf(*effect));
     const auto single = effect->GetPropertyAccess();
     IPropertyAccess& access = isWhole ? static_cast<IPropertyAccess&>(whole) : *single;
     std::string failure;
@@ -144,7 +105,7 @@ TEST_P(PropertyAccessOfEveryClass, AnswersAsTheWholeRecord)
 {
     const auto effect = GetParam().create();
     const auto access = effect->GetPropertyAccess();
-    const WholeRecordAccess whole(*GetParam().getSchema(), *effect);
+    const WholeRecordAccess whole(*GetParam().getSchema(), RecordOf(*effect));
     EXPECT_EQ(access->ListProperties(), whole.ListProperties());
 
     std::vector<std::string> keys = whole.ListProperties();
