@@ -151,31 +151,6 @@ TEST(FacePackage, SetFacesWithItsOwnListDoesNothing)
     EXPECT_EQ(record.GetFaces()[0].effect, effect);
 }
 
-TEST(FacePackage, TakesFacesOutOfItsOwnEffect)
-{
-    const auto makeOuter = []
-    {
-        const auto inner = std::make_shared<FacePackageSettings>(
-            SettingsEffectFacePackage(5, {Item(FaceAt(1), Vibrance(3)), Item(FaceAt(2), Vibrance(4))}));
-        return Package({Item(FaceAt(9), inner), FaceItem(), FaceItem()});
-    };
-    const auto innerOf = [](const SettingsEffectFacePackage& outer) -> const SettingsEffectFacePackage&
-    { return dynamic_cast<const FacePackageSettings&>(*outer.GetFaces()[0].effect).GetTypedSettings(); };
-
-    SettingsEffectFacePackage given = makeOuter();
-    given.SetFaces(innerOf(given).GetFaces());
-    EXPECT_EQ(given.GetCurrentFace(), 0u);
-    SettingsEffectFacePackage assigned = makeOuter();
-    assigned = innerOf(assigned);
-    EXPECT_EQ(assigned.GetCurrentFace(), 5u);
-    for (const SettingsEffectFacePackage* package : {&given, &assigned})
-    {
-        ASSERT_EQ(package->GetFaces().size(), 2u);
-        EXPECT_TRUE(package->GetFaces()[0] == Item(FaceAt(1), Vibrance(3)));
-        EXPECT_TRUE(package->GetFaces()[1] == Item(FaceAt(2), Vibrance(4)));
-    }
-}
-
 TEST(FacePackage, NoTwoPackagesShareAnEffect)
 {
     const FacePackageSettings effect(Package({Item(FaceAt(1), Vibrance(3))}));

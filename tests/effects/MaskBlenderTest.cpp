@@ -81,16 +81,6 @@ TEST_P(MaskBlenderListTest, SettingItsOwnListDoesNothing)
     EXPECT_EQ(List().data(), data);
 }
 
-TEST_P(MaskBlenderListTest, TakesTheListOfAPackageInsideIt)
-{
-    const EffectList wanted{Vibrance(1), Acid(2)};
-    auto inner = std::make_shared<EffectsPackageWithBrushSettings>(Foreground(wanted));
-    const EffectList& list = inner->GetTypedSettings().GetForegroundEffects();
-    SetList({std::move(inner), nullptr});
-    SetList(list);
-    EXPECT_EQ(List(), wanted);
-}
-
 TEST_P(MaskBlenderListTest, FindsTheFirstOfItsId)
 {
     const EffectList effects{nullptr, Acid(1), Vibrance(2), Vibrance(3)};
@@ -328,23 +318,6 @@ TEST(MaskBlender, EveryCopySharesTheEffects)
     }
     const std::unique_ptr<Ombrel::Proc::Settings> record(effect.GetEffectSettings().Clone());
     EXPECT_EQ(dynamic_cast<const Record&>(*record).GetForegroundEffects(), effects);
-}
-
-TEST(MaskBlender, SurvivesItsAssignmentFromWithin)
-{
-    const EffectList wanted{Acid(1), Vibrance(2)};
-    auto inner = std::make_shared<EffectsPackageWithBrushSettings>(Background(wanted));
-    inner->GetTypedSettings().SetBlendingStrength(7);
-    const Record& innerRecord = inner->GetTypedSettings();
-    Record record = Foreground({std::move(inner), nullptr});
-    record = innerRecord;
-    EXPECT_TRUE(record.GetForegroundEffects().empty());
-    EXPECT_EQ(record.GetBackgroundEffects(), wanted);
-    EXPECT_EQ(record.GetBlendingStrength(), 7);
-
-    const Record& same = record;
-    record = same;
-    EXPECT_EQ(record.GetBackgroundEffects(), wanted);
 }
 
 TEST(MaskBlender, MovesAllOfItself)

@@ -179,14 +179,6 @@ TEST(Tile, SurvivesItsAssignmentToItself)
     EXPECT_EQ(tile.Pre()[0], effect);
 }
 
-TEST(Tile, TakesATileOutOfItself)
-{
-    TileSettings tile(1, 1);
-    tile.Pre() = {std::make_shared<TileSettings>(Sample())};
-    tile = dynamic_cast<const TileSettings&>(*tile.Pre()[0]);
-    EXPECT_TRUE(tile == Sample());
-}
-
 TEST(Tile, ComparesEveryListInItsPlace)
 {
     EXPECT_TRUE(Sample() == Sample());

@@ -1,3 +1,6 @@
+#include "Exception/Exception.h"
+#include "Proc/EffectSettings/AcidSettings.h"
+#include "Proc/EffectSettings/ResizeSettings.h"
 #include "catalogue/CatalogueFixture.h"
 #include "support/FailingMemory.h"
 
@@ -161,5 +164,71 @@ TEST_P(MemoryTest, IsNotNeededToDestroy)
 
 INSTANTIATE_TEST_SUITE_P(All, MemoryTest, testing::ValuesIn(Catalogue::All()),
                          [](const auto& row) { return row.param.className; });
+
+// Goes on with the next id where it gets through, since what is registered stays.
+TEST(MemoryRegistry, FailsInRegisterFactory)
+{
+    std::string id = std::string(100, 'x') + 'A';
+    const IEffectSettings::Factory factory = [text = std::string(100, 'y')] // too large to stand in the function itself
+    { return text.empty() ? nullptr : Ombrel::PhotoCore::AcidSettings::CreateBase(); };
+    WithoutMemory("RegisterFactory",
+                  [&]
+                  {
+                      IEffectSettings::RegisterFactory(id, factory);
+                      ++id.back();
+                  });
+    EXPECT_THROW(IEffectSettings::CreateEffectSettings(id), Ombrel::Exception) << "a failed attempt left something";
+    EXPECT_EQ(id.back(), 'D'); // once for each mode, and once more
+    for (--id.back(); id.back() >= 'A'; --id.back())
+    {
+        EXPECT_EQ(IEffectSettings::CreateEffectSettings(id)->GetClassId(), "EFFECT_ACID");
+    }
+}
+
+// Fails at a throw site, which says so in full or not at all.
+template <class Work> void ExpectFailure(const std::string& what, const std::string& description, Work work)
+{
+    WithoutMemory(what,
+                  [&]
+                  {
+                      try
+                      {
+                          work();
+                      }
+                      catch (const Ombrel::Exception& failure)
+                      {
+                          const std::string* text = boost::get_error_info<Ombrel::ErrorDescription>(failure);
+                          EXPECT_TRUE(text && *text == description) << what;
+                          EXPECT_TRUE(boost::get_error_info<Ombrel::ErrorCallStack>(failure)) << what;
+                          return;
+                      }
+                      ADD_FAILURE() << what << " did not fail";
+                  });
+}
+
+TEST(MemoryThrowSites, FailInTheRegistry)
+{
+    const std::string id(100, 'z');
+    const std::string unknown = "Unknown Effect Setting type (" + id + ")!";
+    ExpectFailure("CreateEffectSettings", unknown, [&] { IEffectSettings::CreateEffectSettings(id); });
+
+    const PropertyTree tree = Map({{"name", PropertyTree(id)}});
+    std::shared_ptr<IEffectSettings> effect;
+    ExpectFailure("DeserializePtr", unknown, [&] { EffectSettings::DeserializePtr(tree, effect); });
+    EXPECT_FALSE(effect);
+
+    IEffectSettings::RegisterFactory(id, &Ombrel::PhotoCore::AcidSettings::CreateBase);
+    ExpectFailure("RegisterFactory", "Duplicate class id (" + id + ")!",
+                  [&] { IEffectSettings::RegisterFactory(id, nullptr); });
+    EXPECT_TRUE(IEffectSettings::CreateEffectSettings(id)) << "the old factory is gone";
+}
+
+TEST(MemoryThrowSites, FailInTheResizer)
+{
+    using Resizer = Ombrel::Proc::SettingsResizer;
+    Ombrel::PhotoCore::ResizeSettings effect;
+    effect.GetTypedSettings().SetCustomMode(Resizer::CustomModes::Fit, {640, 480, 0, 0});
+    ExpectFailure("Deserialize", "Aspect is not specified", [&] { effect.Deserialize(Map({})); });
+}
 
 } // namespace Catalogue

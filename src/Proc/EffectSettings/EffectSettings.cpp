@@ -5,6 +5,7 @@
 #include "Proc/Settings/StoredKeys.h"
 
 #include <stdexcept>
+#include <utility>
 
 namespace Ombrel::PhotoCore
 {
@@ -37,6 +38,16 @@ private:
 };
 
 thread_local int NestingGuard::s_depth = 0;
+
+std::shared_ptr<IEffectSettings> Make(const std::string& id)
+{
+    std::shared_ptr<IEffectSettings> effect = IEffectSettings::CreateEffectSettings(id);
+    if (!effect)
+    {
+        throw std::logic_error("the factory of " + id + " made no effect");
+    }
+    return effect;
+}
 
 } // namespace
 
@@ -119,7 +130,8 @@ void EffectSettings::DeserializePtr(const PropertyTree& tree, std::shared_ptr<IE
         effect.reset();
         return;
     }
-    effect = CreateEffectSettings(tree.getMap().at(StoredKeys::CLASS_ID).getScalar().toString());
+    // The old effect goes last: the tree may be one that it holds.
+    const auto old = std::exchange(effect, Make(tree.getMap().at(StoredKeys::CLASS_ID).getScalar().toString()));
     effect->Deserialize(tree);
 }
 

@@ -85,7 +85,14 @@ SettingsEffectFacePackage& SettingsEffectFacePackage::operator=(const SettingsEf
     return *this;
 }
 
-SettingsEffectFacePackage& SettingsEffectFacePackage::operator=(SettingsEffectFacePackage&&) noexcept = default;
+SettingsEffectFacePackage& SettingsEffectFacePackage::operator=(SettingsEffectFacePackage&& other) noexcept
+{
+    m_currentFaceIndex = other.m_currentFaceIndex;
+    // The old faces go last: `other` may stand inside the effect of one.
+    const std::vector<FaceItem> old = std::exchange(m_facesEffects, std::move(other.m_facesEffects));
+    return *this;
+}
+
 SettingsEffectFacePackage::~SettingsEffectFacePackage() = default;
 
 bool SettingsEffectFacePackage::IsEmpty() const

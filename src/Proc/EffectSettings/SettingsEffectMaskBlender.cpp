@@ -75,7 +75,20 @@ SettingsEffectMaskBlender& SettingsEffectMaskBlender::operator=(const SettingsEf
     return *this = SettingsEffectMaskBlender(other); // copied before the old effects go: `other` may stand inside one
 }
 
-SettingsEffectMaskBlender& SettingsEffectMaskBlender::operator=(SettingsEffectMaskBlender&&) noexcept = default;
+SettingsEffectMaskBlender& SettingsEffectMaskBlender::operator=(SettingsEffectMaskBlender&& other) noexcept
+{
+    // The old effects go last: `other` may stand inside one.
+    const EffectList foreground = std::exchange(m_foregroundEffects, std::move(other.m_foregroundEffects));
+    const EffectList background = std::exchange(m_backgroundEffects, std::move(other.m_backgroundEffects));
+    m_optimizationMode = other.m_optimizationMode;
+    m_alpha = other.m_alpha;
+    m_useExternalMask = other.m_useExternalMask;
+    m_blendingStrength = other.m_blendingStrength;
+    m_swapFramesIfMaskFound = other.m_swapFramesIfMaskFound;
+    m_backgroundIndex = other.m_backgroundIndex;
+    return *this;
+}
+
 SettingsEffectMaskBlender::~SettingsEffectMaskBlender() = default;
 
 bool SettingsEffectMaskBlender::IsEmpty() const

@@ -1,9 +1,7 @@
 #include "PropertyTreeJson/PropertyTreeJson.h"
-
-#include <pthread.h>
+#include "support/SmallStack.h"
 
 #include <cstddef>
-#include <functional>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -11,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+// A text may nest as deep as it is long: neither reading nor failing may need more stack for it.
 namespace Ombrel
 {
 namespace
@@ -28,22 +27,6 @@ constexpr std::size_t STACK_SIZE = 1024 * 1024;
 #else
 constexpr std::size_t STACK_SIZE = 256 * 1024;
 #endif
-
-void RunOnSmallStack(std::function<void()> work)
-{
-    pthread_attr_t attributes;
-    ASSERT_EQ(pthread_attr_init(&attributes), 0);
-    ASSERT_EQ(pthread_attr_setstacksize(&attributes, STACK_SIZE), 0);
-    const auto run = [](void* argument) -> void*
-    {
-        (*static_cast<std::function<void()>*>(argument))();
-        return nullptr;
-    };
-    pthread_t thread;
-    ASSERT_EQ(pthread_create(&thread, &attributes, run, &work), 0);
-    ASSERT_EQ(pthread_join(thread, nullptr), 0);
-    ASSERT_EQ(pthread_attr_destroy(&attributes), 0);
-}
 
 std::string Nested(std::size_t levels, std::string_view open, std::string_view inner, std::string_view close)
 {
@@ -82,34 +65,34 @@ class JsonDepth : public testing::TestWithParam<DeepText>
 TEST_P(JsonDepth, MillionLevelsNeedNoStack)
 {
     const DeepText& shape = GetParam();
-    RunOnSmallStack(
-        [&shape]
-        {
-            const std::string text = Nested(shape.repetitions, shape.open, shape.inner, shape.close);
-            const PropertyTree tree = ReadJson(text, {.maxDepth = 2000000});
-            EXPECT_TRUE(WriteJson(tree) == text) << "the text changed";
-        });
+    Support::RunOnStack(STACK_SIZE,
+                        [&shape]
+                        {
+                            const std::string text = Nested(shape.repetitions, shape.open, shape.inner, shape.close);
+                            const PropertyTree tree = ReadJson(text, {.maxDepth = 2000000});
+                            EXPECT_TRUE(WriteJson(tree) == text) << "the text changed";
+                        });
 }
 
 // The text breaks off at its deepest point: the half-made tree and the path to the place have a million levels as well.
 TEST_P(JsonDepth, MillionLevelsNeedNoStackToFail)
 {
     const DeepText& shape = GetParam();
-    RunOnSmallStack(
-        [&shape]
-        {
-            const std::string text = Nested(shape.repetitions, shape.open, "x", "");
-            try
-            {
-                ReadJson(text, {.maxDepth = 2000000});
-                ADD_FAILURE() << "was read";
-            }
-            catch (const JsonError& error)
-            {
-                EXPECT_EQ(error.column(), text.size());
-                EXPECT_GE(error.path().size(), 1999999U);
-            }
-        });
+    Support::RunOnStack(STACK_SIZE,
+                        [&shape]
+                        {
+                            const std::string text = Nested(shape.repetitions, shape.open, "x", "");
+                            try
+                            {
+                                ReadJson(text, {.maxDepth = 2000000});
+                                ADD_FAILURE() << "was read";
+                            }
+                            catch (const JsonError& error)
+                            {
+                                EXPECT_EQ(error.column(), text.size());
+                                EXPECT_GE(error.path().size(), 1999999U);
+                            }
+                        });
 }
 
 INSTANTIATE_TEST_SUITE_P(Shapes, JsonDepth,

@@ -1,0 +1,249 @@
+#include "Exception/Exception.h"
+#include "Proc/Reflection/Schema.h"
+#include "catalogue/CatalogueFixture.h"
+
+#include <array>
+#include <barrier>
+#include <cstddef>
+#include <functional>
+#include <latch>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+// Different objects belong to different threads without any lock, and a tree or an effect that nobody changes belongs to all of
+// them. What the threads share behind their backs, the default records and the registry, must not show. A race that does no
+// harm to the values is for the thread sanitizer to see.
+namespace Catalogue
+{
+namespace
+{
+
+constexpr std::size_t THREADS = 8;
+
+// Runs `work` with the thread's number on all threads, which begin at the same moment.
+void OnAllThreads(const std::function<void(std::size_t)>& work)
+{
+    std::barrier start(THREADS);
+    std::vector<std::thread> threads;
+    for (std::size_t number = 0; number < THREADS; ++number)
+    {
+        threads.emplace_back(
+            [&, number]
+            {
+                start.arrive_and_wait();
+                work(number);
+            });
+    }
+    for (std::thread& thread : threads)
+    {
+        thread.join();
+    }
+}
+
+using EffectPtr = std::shared_ptr<IEffectSettings>;
+
+} // namespace
+
+class ThreadsTest : public CatalogueTest
+{
+protected:
+    static PropertyTree NamedSample()
+    {
+        PropertyTree tree = SampleForm();
+        tree["name"] = GetParam().classId;
+        return tree;
+    }
+
+    static void ExpectSample(const IEffectSettings& effect)
+    {
+        for (const Field& field : GetParam().fields)
+        {
+            EXPECT_EQ(Get(effect, field.key), Sample(field)) << GetParam().className << ", " << field.key;
+        }
+    }
+};
+
+// This test stands first and so runs before anything else that serialises: a default record is made when it is first asked for.
+TEST_P(ThreadsTest, RaceTheFirstUseOfEachDefaultRecord)
+{
+    std::array<EffectPtr, THREADS> effects;
+    std::ranges::generate(effects, &Make);
+    const PropertyTree sample = SampleForm();
+    const std::function<void(IEffectSettings&)> firstUses[] = {
+        [](IEffectSettings& effect) { EXPECT_EQ(StoredForm(effect), DefaultTree()); },
+        [](IEffectSettings& effect) { effect.Deserialize(Map({})); },
+        [&sample](IEffectSettings& effect) { effect.Deserialize(sample); },
+        [](IEffectSettings& effect)
+        {
+            for (const Field& field : GetParam().fields)
+            {
+                Set(effect, field.key, field.defaultValue);
+            }
+        },
+        [](IEffectSettings& effect)
+        {
+            for (const Field& field : GetParam().fields)
+            {
+                EXPECT_EQ(Get(effect, field.key), field.defaultValue) << field.key;
+            }
+        },
+        [](IEffectSettings& effect) { EXPECT_EQ(*effect.Clone() == effect, GetParam().equalsItsCopy); },
+        [](IEffectSettings& effect) { EXPECT_EQ(effect.GetEffectSettings().IsEmpty(), GetParam().isRecordEmpty); },
+        [](IEffectSettings&)
+        {
+            const auto* schema = FindClass(GetParam().className)->getSchema();
+            EXPECT_TRUE(!schema || schema->defaults());
+        },
+    };
+    static_assert(std::size(firstUses) == THREADS);
+    OnAllThreads([&](std::size_t number) { firstUses[number](*effects[number]); });
+    EXPECT_EQ(StoredForm(*Make()), DefaultTree());
+}
+
+TEST_P(ThreadsTest, UseDifferentObjects)
+{
+    OnAllThreads(
+        [](std::size_t)
+        {
+            const EffectPtr effect = Make();
+            effect->Deserialize(SampleForm());
+            ExpectSample(*effect);
+            const EffectPtr clone = effect->Clone();
+            ExpectSample(*clone);
+            EXPECT_EQ(StoredForm(*clone), StoredForm(*effect));
+            EXPECT_EQ(*clone == *effect, GetParam().equalsItsCopy);
+            clone->Add(*clone);
+            for (const Field& field : GetParam().fields)
+            {
+                Set(*clone, field.key, field.defaultValue);
+            }
+            EXPECT_EQ(StoredForm(*Make()), DefaultTree());
+        });
+}
+
+TEST_P(ThreadsTest, ReadOneTree)
+{
+    const PropertyTree tree = NamedSample();
+    const bool isRegistered = GetParam().place != Place::None;
+    OnAllThreads(
+        [&](std::size_t)
+        {
+            EffectPtr effect;
+            if (isRegistered)
+            {
+                EffectSettings::DeserializePtr(tree, effect);
+            }
+            else
+            {
+                effect = Make();
+                effect->Deserialize(tree);
+            }
+            ExpectSample(*effect);
+            EXPECT_EQ(PropertyTree(tree), tree);
+        });
+}
+
+// All but the resizer, which keeps what it has written last.
+TEST_P(ThreadsTest, AskOneEffect)
+{
+    if (GetParam().className == "ResizeSettings")
+    {
+        return;
+    }
+    const EffectPtr effect = Make();
+    effect->Deserialize(SampleForm());
+    const PropertyTree expected = StoredForm(*effect);
+    const IEffectSettings& shared = *effect;
+    OnAllThreads(
+        [&](std::size_t)
+        {
+            ExpectSample(shared);
+            EXPECT_EQ(StoredForm(shared), expected);
+            EXPECT_EQ(shared == *shared.Clone(), GetParam().equalsItsCopy);
+            EXPECT_EQ(IEffectSettings::Find(IEffectSettings::List{nullptr, effect}, GetParam().classId), effect);
+            static_cast<void>(shared.IsEmpty());
+            static_cast<void>(shared.GetEffectSettings().IsEmpty());
+        });
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ThreadsTest, testing::ValuesIn(Catalogue::All()),
+                         [](const auto& row) { return row.param.className; });
+
+// Of many entries that did not come in order, so that the map has an index.
+TEST(Threads, ReadOneLargeTree)
+{
+    PropertyTree tree;
+    for (int i = 0; i < 2000; ++i)
+    {
+        tree[std::to_string(i * 7919 % 2000)] = i;
+    }
+    const PropertyTree& shared = tree;
+    OnAllThreads(
+        [&](std::size_t)
+        {
+            for (int i = 0; i < 2000; ++i)
+            {
+                EXPECT_EQ(shared[std::to_string(i * 7919 % 2000)].getScalar().toInt(), i);
+            }
+            EXPECT_FALSE(shared.contains("2000"));
+            EXPECT_EQ(std::distance(shared.getMap().begin(), shared.getMap().end()), 2000);
+            EXPECT_EQ(PropertyTree(shared), shared);
+        });
+}
+
+// All threads wait for each other at their deepest point, where they have come deeper together than one of them may.
+TEST(Threads, NestEachByItself)
+{
+    std::latch deepest(THREADS);
+    IEffectSettings::RegisterFactory("waitsForTheOthers",
+                                     [&deepest]
+                                     {
+                                         deepest.arrive_and_wait();
+                                         return IEffectSettings::CreateEffectSettings("EFFECT_ACID");
+                                     });
+    PropertyTree tree = Map({{"name", "waitsForTheOthers"}});
+    for (int level = 1; level < 200; ++level)
+    {
+        tree = Map({{"foregroundEffects", Support::List({tree})}, {"name", "EffectsPackageOneInputWithBrush"}});
+    }
+    OnAllThreads(
+        [&](std::size_t number)
+        {
+            EffectPtr effect;
+            try
+            {
+                EffectSettings::DeserializePtr(tree, effect);
+            }
+            catch (const std::length_error& failure)
+            {
+                deepest.count_down();
+                ADD_FAILURE() << "thread " << number << ": " << failure.what();
+            }
+        });
+}
+
+TEST(Threads, FailEachByItself)
+{
+    OnAllThreads(
+        [](std::size_t number)
+        {
+            for (int round = 0; round < 100; ++round)
+            {
+                const std::string id = "EFFECT_NOTHING_" + std::to_string(number);
+                try
+                {
+                    IEffectSettings::CreateEffectSettings(id);
+                    ADD_FAILURE() << "was made";
+                }
+                catch (const Ombrel::Exception& failure)
+                {
+                    EXPECT_EQ(*boost::get_error_info<Ombrel::ErrorDescription>(failure),
+                              "Unknown Effect Setting type (" + id + ")!");
+                }
+            }
+        });
+}
+
+} // namespace Catalogue
