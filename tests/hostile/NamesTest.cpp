@@ -114,7 +114,7 @@ TEST(Names, FailByFixedTextsAndLeaveTheEffect)
     {
         EXPECT_EQ(Shown(FailureOf([&] { EffectSettings::DeserializePtr(each.tree, effect); })), Shown(each.failure));
         EXPECT_TRUE(FailureOf([&] { EffectSettings::DeserializePtr(each.tree, none); }) == each.failure);
-        EXPECT_EQ(effect, before) << Shown(each.failure);
+        ASSERT_EQ(effect, before) << Shown(each.failure);
         EXPECT_FALSE(none) << Shown(each.failure);
     }
     EXPECT_EQ(StoredForm(*effect), Map({{"strength", 3}}));

@@ -23,6 +23,7 @@ inline constexpr bool HAS_SANITIZER = false;
 #endif
 
 /// Runs `work` on a thread with a stack of `bytes`, so that a recursion as deep as its data ends the program.
+/// What `work` throws comes out here.
 void RunOnStack(std::size_t bytes, const std::function<void()>& work);
 
 } // namespace Support
