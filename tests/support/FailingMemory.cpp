@@ -1,5 +1,8 @@
 #include "support/FailingMemory.h"
 
+#include <malloc.h>
+
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 #include <new>
@@ -13,6 +16,8 @@ thread_local std::size_t t_successesLeft = UNLIMITED;
 thread_local bool t_onlyOnce = false;
 thread_local bool t_hasFailed = false;
 thread_local std::size_t t_count = 0;
+thread_local std::size_t t_held = 0;
+thread_local std::size_t t_peak = 0;
 
 void* Allocate(std::size_t size)
 {
@@ -32,9 +37,17 @@ void* Allocate(std::size_t size)
     }
     if (void* memory = std::malloc(size == 0 ? 1 : size))
     {
+        t_held += malloc_usable_size(memory);
+        t_peak = std::max(t_peak, t_held);
         return memory;
     }
     throw std::bad_alloc();
+}
+
+void Release(void* memory)
+{
+    t_held -= malloc_usable_size(memory); // 0 for a null pointer
+    std::free(memory);
 }
 
 } // namespace
@@ -51,22 +64,22 @@ void* operator new[](std::size_t size)
 
 void operator delete(void* memory) noexcept
 {
-    std::free(memory);
+    Release(memory);
 }
 
 void operator delete(void* memory, std::size_t) noexcept
 {
-    std::free(memory);
+    Release(memory);
 }
 
 void operator delete[](void* memory) noexcept
 {
-    std::free(memory);
+    Release(memory);
 }
 
 void operator delete[](void* memory, std::size_t) noexcept
 {
-    std::free(memory);
+    Release(memory);
 }
 
 namespace Support
@@ -92,6 +105,21 @@ bool FailingMemory::HasFailed() const
 std::size_t AllocationCount()
 {
     return t_count;
+}
+
+std::size_t HeldMemory()
+{
+    return t_held;
+}
+
+void NotePeakMemory()
+{
+    t_peak = t_held;
+}
+
+std::size_t PeakMemory()
+{
+    return t_peak;
 }
 
 } // namespace Support

@@ -37,6 +37,24 @@ template <class Work> std::size_t AllocationsOf(Work work)
     return AllocationCount() - before;
 }
 
+/// How many bytes the allocations hold that this thread has made and not given back.
+std::size_t HeldMemory();
+
+/// Starts to note the most that `HeldMemory` comes to, from what it is now.
+void NotePeakMemory();
+
+/// The most since then.
+std::size_t PeakMemory();
+
+/// How much more than before is held at most while `work()` runs.
+template <class Work> std::size_t PeakMemoryOf(Work work)
+{
+    const std::size_t before = HeldMemory();
+    NotePeakMemory();
+    work();
+    return PeakMemory() - before;
+}
+
 } // namespace Support
 
 #endif

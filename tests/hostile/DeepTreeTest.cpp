@@ -6,6 +6,7 @@
 
 #include <ostream>
 
+// Trees a million levels deep: whoever copies, compares or destroys what was stored must not be ended by its nesting.
 namespace
 {
 
