@@ -347,7 +347,7 @@ void PropertyTree::Release(int depth) noexcept
     }
     else
     {
-        m_map.content.Release(depth);
+        m_map.content.Clear(depth);
         std::destroy_at(&m_map);
     }
 }

@@ -20,8 +20,8 @@ namespace Ombrel
 /// The stored form of an object: a value that is null, a scalar, an ordered map or a list of trees.
 ///
 /// Copies are deep, a moved-from tree is null. Every assignment equals "copy or take the right side first, then assign", so
-/// a tree may be assigned from its own child. No operation recurses: trees may nest as deep as memory allows, and destroying
-/// one needs no memory. Copying has the strong guarantee.
+/// a tree may be assigned from its own child; it must not be moved, nor swapped, into a part of itself. No operation recurses:
+/// trees may nest as deep as memory allows, and destroying one needs no memory. Copying has the strong guarantee.
 ///
 /// An operation on a tree in the wrong state throws `std::invalid_argument`, which names what was expected and what is there.
 ///

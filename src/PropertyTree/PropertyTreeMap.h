@@ -182,13 +182,7 @@ public:
     size_type erase(std::string_view key) noexcept;
 
     /// Erases all entries and gives back all memory.
-    void clear() noexcept
-    {
-        if (m_root)
-        {
-            Release(0);
-        }
-    }
+    void clear() noexcept { Clear(0); }
 
     /// Equal keys with equal children.
     friend OMBREL_API bool operator==(const PropertyTreeMap& a, const PropertyTreeMap& b);
@@ -241,6 +235,15 @@ private:
     Where Insert(std::string_view key);
     iterator EraseAt(Where where) noexcept;
     void Release(int depth) noexcept;
+
+    // The map stands so many containers below the one that is given up as a whole.
+    void Clear(int depth) noexcept
+    {
+        if (m_root)
+        {
+            Release(depth);
+        }
+    }
 
     Root* m_root = nullptr;
 };
