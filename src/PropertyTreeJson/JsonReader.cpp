@@ -314,7 +314,7 @@ private:
     std::size_t IntegerEnd() const
     {
         std::size_t offset = NextToken();
-        offset += m_text[offset] == '-' ? 1 : 0;
+        offset += m_text[offset] == '-' ? 1U : 0U;
         return m_text[offset] == '0' ? offset + 1 : std::min(m_text.find_first_not_of("0123456789", offset), m_text.size());
     }
 

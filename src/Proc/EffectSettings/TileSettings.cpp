@@ -5,7 +5,8 @@
 #include "Proc/Reflection/Folds.h"
 
 #include <algorithm>
-#include <iterator>
+#include <cstddef>
+#include <limits>
 #include <utility>
 
 namespace Ombrel::Proc
@@ -42,12 +43,17 @@ namespace
 using List = IEffectSettings::List;
 using Row = TileSettings::Row;
 
+// Plain loops, here and in all that copies and compares: effects stand in tiles in tiles, and the standard's algorithms would
+// take more of the stack than all else.
+
 List Cloned(const List& effects)
 {
     List clones;
     clones.reserve(effects.size());
-    std::ranges::transform(effects, std::back_inserter(clones),
-                           [](const auto& effect) { return effect ? effect->Clone() : nullptr; });
+    for (const std::shared_ptr<IEffectSettings>& effect : effects)
+    {
+        clones.push_back(effect ? effect->Clone() : nullptr);
+    }
     return clones;
 }
 
@@ -55,7 +61,10 @@ Row Cloned(const Row& row)
 {
     Row clone;
     clone.m_cols.reserve(row.m_cols.size());
-    std::ranges::transform(row.m_cols, std::back_inserter(clone.m_cols), [](const List& cell) { return Cloned(cell); });
+    for (const List& cell : row.m_cols)
+    {
+        clone.m_cols.push_back(Cloned(cell));
+    }
     return clone;
 }
 
@@ -65,15 +74,22 @@ bool AreEqual(const std::shared_ptr<IEffectSettings>& a, const std::shared_ptr<I
     return a && b ? *a == *b : a == b;
 }
 
-// Lists, rows and grids of different size differ without a look at their effects.
-bool AreListsEqual(const List& a, const List& b)
+template <class Element> bool AreEqual(const std::vector<Element>& a, const std::vector<Element>& b);
+
+bool AreEqual(const Row& a, const Row& b)
 {
-    return std::ranges::equal(a, b, AreEqual);
+    return AreEqual(a.m_cols, b.m_cols);
 }
 
-bool AreRowsEqual(const Row& a, const Row& b)
+// Lists, rows and grids of different size differ without a look at their effects.
+template <class Element> bool AreEqual(const std::vector<Element>& a, const std::vector<Element>& b)
 {
-    return std::ranges::equal(a.m_cols, b.m_cols, AreListsEqual);
+    bool areEqual = a.size() == b.size();
+    for (std::size_t i = 0; areEqual && i != a.size(); ++i)
+    {
+        areEqual = AreEqual(a[i], b[i]);
+    }
+    return areEqual;
 }
 
 } // namespace
@@ -109,10 +125,11 @@ std::shared_ptr<TileSettings> TileSettings::Create(std::uint64_t width, std::uin
 
 void TileSettings::SetSize(std::uint64_t width, std::uint64_t height)
 {
-    std::vector<Row> rows(height);
+    constexpr std::uint64_t most = std::numeric_limits<std::size_t>::max(); // less than the numbers may be on 32-bit machines
+    std::vector<Row> rows(static_cast<std::size_t>(std::min(height, most)));
     for (Row& row : rows)
     {
-        row.m_cols.resize(width);
+        row.m_cols.resize(static_cast<std::size_t>(std::min(width, most)));
     }
     m_effectRows = std::move(rows);
 }
@@ -124,7 +141,10 @@ void TileSettings::CopyFrom(const TileSettings& other)
     List post = Cloned(other.m_post);
     std::vector<Row> rows;
     rows.reserve(other.m_effectRows.size());
-    std::ranges::transform(other.m_effectRows, std::back_inserter(rows), [](const Row& row) { return Cloned(row); });
+    for (const Row& row : other.m_effectRows)
+    {
+        rows.push_back(Cloned(row));
+    }
 
     std::swap(m_pre, pre);
     std::swap(m_post, post);
@@ -133,8 +153,7 @@ void TileSettings::CopyFrom(const TileSettings& other)
 
 bool TileSettings::operator==(const TileSettings& other) const
 {
-    return AreListsEqual(m_pre, other.m_pre) && AreListsEqual(m_post, other.m_post) &&
-           std::ranges::equal(m_effectRows, other.m_effectRows, AreRowsEqual);
+    return AreEqual(m_pre, other.m_pre) && AreEqual(m_post, other.m_post) && AreEqual(m_effectRows, other.m_effectRows);
 }
 
 } // namespace Ombrel::PhotoCore

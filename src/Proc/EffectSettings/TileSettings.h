@@ -4,8 +4,10 @@
 #include "Proc/EffectSettings/EffectSettingsImpl.h"
 #include "Proc/EffectSettings/TileSettingsStub.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace Ombrel::Proc
@@ -59,8 +61,12 @@ public:
     const List& Post() const { return m_post; }
 
     /// The effects of the cell in column `x` and row `y`, which must be within the grid.
-    List& Effect(std::uint64_t x, std::uint64_t y) { return m_effectRows[y].m_cols[x]; }
-    const List& Effect(std::uint64_t x, std::uint64_t y) const { return m_effectRows[y].m_cols[x]; }
+    List& Effect(std::uint64_t x, std::uint64_t y) { return const_cast<List&>(std::as_const(*this).Effect(x, y)); }
+
+    const List& Effect(std::uint64_t x, std::uint64_t y) const
+    {
+        return m_effectRows[static_cast<std::size_t>(y)].m_cols[static_cast<std::size_t>(x)];
+    }
 
     /// How many cells the first row has; 0 without rows.
     std::uint64_t GetWidth() const { return m_effectRows.empty() ? 0 : m_effectRows.front().m_cols.size(); }
@@ -75,6 +81,12 @@ public:
     /// The same shape, and equal effects at each place of each list: two nulls are equal, two effects compare by their `==`.
     /// @throws what the comparison of two effects throws
     bool operator==(const TileSettings& other) const override;
+
+    /// Lets the left effect answer. Without it the compiler would turn the two round, since this class is an exact match.
+    friend bool operator==(const IEffectSettings& a, const TileSettings& b)
+    {
+        return a.operator==(static_cast<const IEffectSettings&>(b));
+    }
 
 private:
     template <class> friend struct Proc::Fields;
