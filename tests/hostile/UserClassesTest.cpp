@@ -1,7 +1,10 @@
 #include "Exception/Exception.h"
 #include "Proc/EffectSettings/AcidSettings.h"
+#include "Proc/EffectSettings/EffectSettingsSimple.h"
 #include "Proc/EffectSettings/EffectsPackageWithBrushSettings.h"
+#include "Proc/EffectSettings/EmptySettings.h"
 #include "Proc/EffectSettings/FacePackageSettings.h"
+#include "Proc/EffectSettings/ResizeSettings.h"
 #include "Proc/EffectSettings/TileSettings.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
 #include "hostile/UserEffects.h"
@@ -79,6 +82,20 @@ TEST(UserClasses, AForeignClassIdMeetsNoForeignObject)
 
     acid.SetEffectSettings(impostor->GetEffectSettings()); // the record is what it says
     EXPECT_EQ(acid.GetTypedSettings().radius, 0);
+}
+
+// Whatever the type on the right, the comparison is that of the effect on the left.
+TEST(UserClasses, TheLeftEffectAnswers)
+{
+    const EffectPtr user = Make({.isEqual = [] { return true; }});
+    const IEffectSettings& left = *user;
+    EXPECT_TRUE(left == AcidSettings());
+    EXPECT_TRUE(left == EffectSettingsSimple());
+    EXPECT_TRUE(left == EmptySettings());
+    EXPECT_TRUE(left == ResizeSettings());
+    EXPECT_TRUE(left == TileSettings());
+    EXPECT_FALSE(left != TileSettings());
+    EXPECT_FALSE(TileSettings() == left);
 }
 
 // A record that lies in the same way.

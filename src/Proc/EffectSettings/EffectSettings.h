@@ -37,10 +37,12 @@ public:
     static void SerializePtr(PropertyTree& tree, const std::shared_ptr<const IEffectSettings>& effect);
 
     /// Makes the effect that the tree names, assigns it to `effect` and reads it; a null tree is a null pointer. A failure
-    /// before the new object stands leaves `effect` alone; a failure in its read leaves it the new object, partly read.
+    /// before the new object stands leaves `effect` alone; a failure in its read leaves it the new object, partly read. The old
+    /// effect is kept until then, so that the tree may be one that it holds.
     /// @throws std::out_of_range "invalid map<K, T> key" if there is no "name"
     /// @throws std::invalid_argument if the tree is no map or "name" no string
     /// @throws Exception "Unknown Effect Setting type (...)!" for an unknown class id
+    /// @throws std::bad_function_call or std::logic_error if an empty function, or one that makes nothing, was registered
     /// @throws std::length_error if effects stand in effects more than 512 levels deep
     /// @throws what `Deserialize` throws
     static void DeserializePtr(const PropertyTree& tree, std::shared_ptr<IEffectSettings>& effect);

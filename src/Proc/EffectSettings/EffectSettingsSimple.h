@@ -47,6 +47,12 @@ public:
     bool operator==(const IEffectSettings& other) const override;
     virtual bool operator==(const EffectSettingsSimple& other) const;
 
+    /// Lets the left effect answer. Without it the compiler would turn the two round, since this class is an exact match.
+    friend bool operator==(const IEffectSettings& a, const EffectSettingsSimple& b)
+    {
+        return a.operator==(static_cast<const IEffectSettings&>(b));
+    }
+
     void SetInputType(InputType type);
     void SetImplName(const std::string& name);
 

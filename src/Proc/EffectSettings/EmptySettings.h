@@ -17,6 +17,12 @@ public:
 
     /// True: an effect that does nothing is like any other, whatever its value.
     bool operator==(const EmptySettings& other) const override;
+
+    /// Lets the left effect answer. Without it the compiler would turn the two round, since this class is an exact match.
+    friend bool operator==(const IEffectSettings& a, const EmptySettings& b)
+    {
+        return a.operator==(static_cast<const IEffectSettings&>(b));
+    }
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectEmpty, EmptySettings>;

@@ -78,11 +78,13 @@ public:
 
     bool operator!=(const IEffectSettings& other) const { return !operator==(other); }
 
-    /// Makes a factory known under a class id. Not to be run beside any other call that uses the registry.
+    /// Makes a factory known under a class id. Not to be run beside any other call that uses the registry on another thread;
+    /// a factory may register others and create other effects.
     /// @throws Exception "Duplicate class id (...)!" if the id is known; its factory stays
     static void RegisterFactory(const std::string& id, Factory factory);
 
-    /// What the factory of `id` returns. Any number of threads may call it at once.
+    /// What the factory of `id` returns, which for a caller's own may be null, or throws. Any number of threads may call it at
+    /// once.
     /// @throws Exception "Unknown Effect Setting type (...)!" if the id is not known
     /// @throws std::bad_function_call if an empty function was registered
     static std::shared_ptr<IEffectSettings> CreateEffectSettings(const std::string& id);

@@ -77,6 +77,12 @@ public:
     /// Equal records, and resolutions less than 1e-5 apart, where a NaN equals nothing; unit and mirrors play no part.
     bool operator==(const ResizeSettings& other) const override;
 
+    /// Lets the left effect answer. Without it the compiler would turn the two round, since this class is an exact match.
+    friend bool operator==(const IEffectSettings& a, const ResizeSettings& b)
+    {
+        return a.operator==(static_cast<const IEffectSettings&>(b));
+    }
+
 private:
     template <class> friend struct Proc::Fields;
 
