@@ -1,0 +1,2 @@
+// For a program that only compiles the headers of the tests.
+int main() {}
