@@ -2,7 +2,11 @@
 
 include(CheckLinkerFlag)
 
-set(OMBREL_WARNINGS -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Woverloaded-virtual -Wnon-virtual-dtor)
+set(OMBREL_WARNINGS -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Woverloaded-virtual
+    -Wnon-virtual-dtor)
+if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize") # what a sanitizer puts between confuses it
+  list(APPEND OMBREL_WARNINGS -Wnull-dereference)
+endif()
 option(OMBREL_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
 
 # The library is bound to itself and packs its relocations, which makes it load several times faster. What it must share with
@@ -24,6 +28,12 @@ if(OMBREL_LINKER_HAS_VERSION_SCRIPTS)
   list(APPEND OMBREL_SHARED_LINK_OPTIONS -Wl,--version-script=${OMBREL_EXPORTS})
 endif()
 
+# What is loaded into a program is bound at once and then read-only, and refers to nothing that no library on its list has.
+list(APPEND OMBREL_SHARED_LINK_OPTIONS -Wl,-z,relro -Wl,-z,now)
+if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+  list(APPEND OMBREL_SHARED_LINK_OPTIONS -Wl,-z,defs)
+endif()
+
 function(ombrel_defaults target)
   target_compile_features(${target} PUBLIC cxx_std_20)
   set_target_properties(${target} PROPERTIES
@@ -34,6 +44,7 @@ function(ombrel_defaults target)
   target_compile_options(${target} PRIVATE ${OMBREL_WARNINGS} $<$<BOOL:${OMBREL_WARNINGS_AS_ERRORS}>:-Werror>)
   # Without it a library that instantiates a template's static can never be unloaded.
   target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
+  target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-fstack-protector-strong>)
   # What is handed out names no folder of the machine that built it, in its debug information either.
   foreach(folder IN ITEMS ${PROJECT_BINARY_DIR} ${PROJECT_SOURCE_DIR})
     target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${folder}=.>)
