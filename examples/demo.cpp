@@ -171,7 +171,7 @@ void ShowEveryEffect(const std::filesystem::path& input)
     for (const auto& effect : effects)
     {
         clones.push_back(effect->Clone());
-        equalCount += *clones.back() == *effect ? 1 : 0;
+        equalCount += *clones.back() == *effect ? 1U : 0U;
     }
     Require(equalCount == effects.size() - 1, "more than one effect differs from its clone");
     Require(TextFromEffects(clones) == text, "the list came back as another text");

@@ -223,7 +223,7 @@ TEST(Folds, AWriteWithoutMemoryLeavesNoEmptyFields)
             std::size_t unfinished = 0; // the field in which the memory ran out
             for (const auto& [key, child] : tree.getMap())
             {
-                unfinished += child == whole[key] ? 0 : 1;
+                unfinished += child == whole[key] ? 0U : 1U;
             }
             ASSERT_LE(unfinished, 1u) << successes;
         }
