@@ -88,10 +88,11 @@ private:
             return;
         }
         WholeRecordAccess literal(m_schema, SubjectOf(*m_literal));
-        for (const auto& [key, value] : map)
+        for (const auto& entry : map)
         {
-            const auto failure = FailureOf([&, &key = key, &value = value] { access->SetProperty(key, value); });
-            const auto expected = FailureOf([&, &key = key, &value = value] { literal.SetProperty(key, value); });
+            const std::string& key = entry.first;
+            const auto failure = FailureOf([&] { access->SetProperty(key, entry.second); });
+            const auto expected = FailureOf([&] { literal.SetProperty(key, entry.second); });
             Require(failure == expected, "a property has another failure", key);
             RequireSame(literal.GetProperty(key), access->GetProperty(key), "a property is another: " + key);
         }

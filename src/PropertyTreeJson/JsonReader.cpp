@@ -3,9 +3,13 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <iterator>
 #include <limits>
+#include <locale.h>
+#include <stdlib.h>
+#include <string>
 #include <system_error>
 #include <vector>
 
@@ -60,7 +64,7 @@ bool IsFloat(std::string_view lexeme)
 
 // True for a number whose first significant digit stands before the point once the exponent is applied. `lexeme` must not be
 // zero.
-bool IsLarge(std::string_view lexeme)
+[[maybe_unused]] bool IsLarge(std::string_view lexeme)
 {
     const std::size_t exponentAt = std::min(lexeme.find_first_of("eE"), lexeme.size());
     const std::string_view mantissa = lexeme.substr(0, exponentAt);
@@ -280,6 +284,7 @@ private:
         {
             FailNumber("integer"); // the parser takes what no integer holds for a float
         }
+#ifdef __cpp_lib_to_chars
         double value = 0.0;
         const auto result = std::from_chars(lexeme.data(), lexeme.data() + lexeme.size(), value);
         if (result.ec == std::errc::result_out_of_range)
@@ -291,6 +296,15 @@ private:
             return lexeme.starts_with('-') ? -0.0 : 0.0;
         }
         return value;
+#else // a standard library that cannot do so yet
+        static const locale_t classic = newlocale(LC_ALL_MASK, "C", nullptr);
+        const double value = strtod_l(std::string(lexeme).c_str(), nullptr, classic);
+        if (std::isinf(value))
+        {
+            FailNumber("float");
+        }
+        return value;
+#endif
     }
 
     std::size_t SkipWhiteSpace(std::size_t offset) const
