@@ -8,6 +8,7 @@ for layout in shared-lib shared-arch static-lib static-arch; do
     # With debug information, which is where build paths would show, and without optimisation, which plays no part here.
     "$CMAKE" -S "$SOURCE_DIR" -B "$WORK_DIR/build" -G Ninja --log-level=WARNING \
         -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O0 -g1" \
+        -DCMAKE_UNITY_BUILD=ON \
         -DCMAKE_INSTALL_PREFIX=/opt/ombrel -DCMAKE_INSTALL_LIBDIR="$(libdir_of $layout)" -DBUILD_SHARED_LIBS="$shared" \
         -DOMBREL_BUILD_JSON=ON -DOMBREL_BUILD_TOOLS=OFF -DOMBREL_BUILD_TESTS=OFF -DOMBREL_BUILD_BENCHMARKS=OFF
     "$CMAKE" --build "$WORK_DIR/build"

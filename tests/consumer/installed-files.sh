@@ -40,3 +40,11 @@ if [[ $LAYOUT == shared-* ]]; then
     symbols=$(nm -DC --defined-only "$libdir/libombrel-effect-settings.so")
     [[ $symbols == *Ombrel::PhotoCore::IEffectSettings::CreateEffectSettings* ]] || fail "the factory is not exported"
 fi
+
+# What a program loads is bound before it runs and cannot be written to after that.
+if [[ $LAYOUT == shared-* ]]; then
+    for library in "$libdir"/*.so; do
+        readelf -dW "$library" | grep -q 'BIND_NOW\|Flags:.*NOW' || fail "$library is bound late"
+        readelf -lW "$library" | grep -q GNU_RELRO || fail "$library can be written to"
+    done
+fi
