@@ -147,8 +147,11 @@ void TableReporter::Finalize()
     std::map<std::string, Figure> figures;
     for (const auto& [title, line] : lines)
     {
-        Row& row = rows.emplace_back(CellsOf(line));
-        row.insert(row.begin(), title);
+        Row& row = rows.emplace_back(Row{title});
+        for (std::string& cell : CellsOf(line))
+        {
+            row.push_back(std::move(cell));
+        }
         for (const auto& [variant, result] : line.variants)
         {
             figures[title + '/' + variant] = {Median(result.nanoseconds), result.allocations};

@@ -39,8 +39,8 @@ void RequireCountedLibrary()
 int main(int argc, char** argv)
 {
     // What the caller says comes last and wins.
-    std::vector<std::string> options(DEFAULT_OPTIONS, std::end(DEFAULT_OPTIONS));
-    options.insert(options.begin(), argv[0]);
+    std::vector<std::string> options{argv[0]};
+    options.insert(options.end(), DEFAULT_OPTIONS, std::end(DEFAULT_OPTIONS));
     options.insert(options.end(), argv + 1, argv + argc);
     std::vector<char*> arguments;
     for (std::string& option : options)
