@@ -7,7 +7,7 @@ namespace Ombrel::Proc
 {
 
 /// The folds over a record's field list: everything that serialisation, comparison and property access do with a record is
-/// one of these, and a further algorithm is a further fold.
+/// one of these, and a further algorithm is a further fold. None is inlined, so that each exists once per record.
 ///
 /// Their bodies stand in `Folds.h`, for the one file that holds the list and compiles them: `template struct
 /// Reflected<Record>;`. Another file with a list that nests the record writes `extern template struct Reflected<Record>;`.
