@@ -15,18 +15,8 @@ namespace Ombrel
 namespace
 {
 
-#if defined(__has_feature)
-#define OMBREL_HAS_FEATURE(name) __has_feature(name)
-#else
-#define OMBREL_HAS_FEATURE(name) 0
-#endif
-
-// The checks of the sanitizer take stack of their own; a million levels of recursion would not fit this either.
-#if defined(__SANITIZE_ADDRESS__) || OMBREL_HAS_FEATURE(address_sanitizer)
-constexpr std::size_t STACK_SIZE = 1024 * 1024;
-#else
-constexpr std::size_t STACK_SIZE = 256 * 1024;
-#endif
+// The checks of the sanitizers take stack of their own; a million levels of recursion would not fit this either.
+constexpr std::size_t STACK_SIZE = (Support::HAS_SANITIZER ? 1024 : 256) * 1024;
 
 std::string Nested(std::size_t levels, std::string_view open, std::string_view inner, std::string_view close)
 {
