@@ -186,12 +186,22 @@ private:
         }
         else if (source.IsMap())
         {
-            PropertyTreeMapFiller copy(target.makeMap(source.m_map.content.size()));
-            for (const auto& [key, child] : source.m_map.content)
-            {
-                Copy(child, copy.Append(key), depth + 1);
-            }
+            CopyMap(source.m_map.content, target.makeMap(), depth + 1);
         }
+    }
+
+    void CopyMap(const Map& source, Map& target, int depth)
+    {
+        PropertyTreeMapFiller copy(target, source.size());
+        PropertyTreeMapWalk::Through(source,
+                                     [&](auto walk)
+                                     {
+                                         for (; !walk.IsAtEnd(); walk.Next())
+                                         {
+                                             const auto& [key, child] = *walk.entry;
+                                             Copy(child, copy.Append(key, walk.Head()), depth);
+                                         }
+                                     });
     }
 
     std::vector<std::pair<const PropertyTree*, PropertyTree*>> m_pending;

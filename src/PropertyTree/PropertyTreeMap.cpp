@@ -5,6 +5,7 @@
 #include "PropertyTree/PropertyTreeMapIndex.h"
 
 #include <algorithm>
+#include <bit>
 #include <limits>
 #include <memory>
 #include <new>
@@ -17,28 +18,53 @@ namespace
 
 constexpr std::size_t FIRST_CAPACITY = 4; // of a map that has reserved nothing
 
+constexpr std::uint32_t BitOf(std::size_t slot)
+{
+    return std::uint32_t{1} << slot;
+}
+
 } // namespace
 
 PropertyTreeMap::Root* PropertyTreeMap::Root::Make(size_type capacity)
 {
-    constexpr size_type headBytes = sizeof(std::uint64_t);
-    constexpr size_type bytesPerEntry = sizeof(value_type) + headBytes + sizeof(value_type*) + sizeof(Leaf); // mostly less
-    if (capacity > std::numeric_limits<difference_type>::max() / bytesPerEntry - bytesPerEntry)
+    constexpr size_type bytesPerEntry =
+        sizeof(value_type) + sizeof(std::uint64_t) + sizeof(value_type*) + sizeof(Leaf); // or less
+    if (capacity > std::numeric_limits<difference_type>::max() / bytesPerEntry - bytesPerEntry ||
+        capacity > std::numeric_limits<std::uint32_t>::max())
     {
         throw std::length_error("tree: a map of so many entries cannot be");
     }
-    void* memory = ::operator new(sizeof(Root) + capacity * (sizeof(value_type) + headBytes) + Index::BytesFor(capacity));
-    value_type* slots = Behind<value_type>(memory, sizeof(Root));
-    std::uint64_t* heads = Behind<std::uint64_t>(slots, capacity * sizeof(value_type));
-    return ::new (memory) Root{0, capacity, slots, heads, slots, nullptr, nullptr};
+    const size_type bytes = sizeof(Root) + capacity * (sizeof(std::uint64_t) + sizeof(value_type)) + Index::RoomFor(capacity);
+    Root* root = ::new (::operator new(bytes)) Root{0, static_cast<std::uint32_t>(capacity), 0, nullptr, nullptr, nullptr};
+    root->end = root->Slots();
+    return root;
+}
+
+PropertyTreeMap::size_type PropertyTreeMap::Root::SlotsInUse() const noexcept
+{
+    return gaps == 0 ? size : size + static_cast<size_type>(std::popcount(gaps));
+}
+
+// Gives up the last slot in use, and the gaps before it.
+void PropertyTreeMap::Root::DropLast() noexcept
+{
+    value_type* last = end - 1;
+    if (gaps != 0)
+    {
+        last = NotBehind(*this, last - 1) + 1;
+        gaps &= BitOf(static_cast<size_type>(last - Slots())) - 1;
+    }
+    std::destroy(last, end);
+    end = last;
+    --size;
 }
 
 PropertyTreeMap::PropertyTreeMap(const PropertyTreeMap& other) : PropertyTreeMap()
 {
-    reserve(other.size()); // the delegated-to constructor is done, so a failure in here runs the destructor
+    PropertyTreeMapFiller copy(*this, other.size()); // the delegated-to constructor is done: a failure runs the destructor
     for (const auto& [key, child] : other)
     {
-        Append(key, HeadOf(key)) = child;
+        copy.Append(key, HeadOf(key)) = child;
     }
 }
 
@@ -68,13 +94,9 @@ void PropertyTreeMap::reserve(size_type count)
     }
     if (count > m_root->capacity && count <= Index::LEAF_MAX)
     {
-        Index* index = m_root->index ? m_root->index : Index::Make(*m_root);
-        const size_type capacity = index->SingleCapacity();
-        if (capacity != 0 && capacity < count)
-        {
-            index->Widen(count - capacity, m_root->blocks);
-            m_root->index = index;
-        }
+        Index* index = m_root->index ? m_root->index : Index::Make(*m_root, count);
+        index->Widen(count, m_root->blocks);
+        m_root->index = index;
     }
 }
 
@@ -114,7 +136,7 @@ PropertyTree& PropertyTreeMap::operator[](std::string_view key)
 {
     if (const std::uint64_t head = HeadOf(key); HasRoomAtEnd(key, head))
     {
-        return Append(key, head);
+        return m_root->Append(head, m_root->SlotsInUse(), key).second;
     }
     return At<iterator>(Insert(key))->second;
 }
@@ -141,7 +163,7 @@ PropertyTreeMap::iterator PropertyTreeMap::erase(const_iterator position) noexce
     {
         return EraseAt({static_cast<size_type>(position.m_leaf - FirstLeaf()), position.m_place});
     }
-    return EraseAt({0, static_cast<size_type>(position.m_entry - m_root->slots)});
+    return EraseAt({0, static_cast<size_type>(position.m_entry - m_root->Slots())});
 }
 
 PropertyTreeMap::size_type PropertyTreeMap::erase(std::string_view key) noexcept
@@ -172,6 +194,19 @@ const PropertyTreeMap::Leaf* PropertyTreeMap::EndLeaf() const noexcept
     return m_root->index->EndLeaf();
 }
 
+PropertyTreeMap::value_type* PropertyTreeMap::NotBefore(Root& root, const value_type* slot) noexcept
+{
+    const auto place = static_cast<size_type>(slot - root.Slots());
+    const bool isLast = place == Index::GAPS_MAX; // behind all bits
+    return root.Slots() + place + (isLast ? 0 : std::countr_one(root.gaps >> place));
+}
+
+PropertyTreeMap::value_type* PropertyTreeMap::NotBehind(Root& root, const value_type* slot) noexcept
+{
+    const auto place = static_cast<size_type>(slot - root.Slots());
+    return root.Slots() + place - std::countl_one(root.gaps << (Index::GAPS_MAX - 1 - place));
+}
+
 PropertyTreeMap::Where PropertyTreeMap::Search(std::string_view key) const noexcept
 {
     if (!m_root)
@@ -182,56 +217,71 @@ PropertyTreeMap::Where PropertyTreeMap::Search(std::string_view key) const noexc
     {
         return m_root->index->Find(key);
     }
+    const value_type* slots = m_root->Slots();
     const auto [place, isThere] =
-        PlaceAmong(m_root->heads, m_root->size, key, [this](size_type i) { return m_root->slots + i; });
-    return {0, place, isThere};
+        PlaceAmong(m_root->Heads(), m_root->SlotsInUse(), key, [slots](size_type i) { return slots + i; });
+    const bool isGap = isThere && m_root->IsGap(place);
+    return {0, place, isThere && !isGap, isGap};
 }
 
 template <class It> It PropertyTreeMap::At(const Where& where) const noexcept
 {
-    return m_root->index ? It(m_root->index->LeafAt(where), where.place) : It(m_root->slots + where.place);
+    return m_root->index ? It(m_root->index->LeafAt(where), where.place)
+                         : It(m_root->Slots() + where.place, m_root->gaps == 0 ? nullptr : m_root);
 }
 
-// Whether `Append` can take it.
+// Whether an entry can be put behind the slots in use.
 inline bool PropertyTreeMap::HasRoomAtEnd(std::string_view key, std::uint64_t head) const noexcept
 {
-    if (!m_root || m_root->index || m_root->size == m_root->capacity)
+    if (!m_root || m_root->index)
     {
         return false;
     }
-    if (m_root->size == 0)
+    const size_type used = m_root->SlotsInUse();
+    if (used == m_root->capacity)
+    {
+        return false;
+    }
+    if (used == 0)
     {
         return true;
     }
-    const std::uint64_t last = m_root->heads[m_root->size - 1];
+    const std::uint64_t last = m_root->Heads()[used - 1];
     return last < head || (last == head && m_root->end[-1].first < key);
 }
 
 // Finds the entry, or makes it with a null tree.
 PropertyTreeMap::Where PropertyTreeMap::Insert(std::string_view key)
 {
+    const std::uint64_t head = HeadOf(key);
     if (!m_root)
     {
         PropertyTreeMap first;
         first.m_root = Root::Make(FIRST_CAPACITY);
-        first.Append(key, HeadOf(key));
+        first.m_root->Append(head, 0, key);
         swap(first);
         return {};
     }
-    if (const std::uint64_t head = HeadOf(key); HasRoomAtEnd(key, head))
+    if (HasRoomAtEnd(key, head))
     {
-        Append(key, head);
-        return {0, m_root->size - 1};
+        const size_type slot = m_root->SlotsInUse();
+        m_root->Append(head, slot, key);
+        return {0, slot};
     }
     Where where = Search(key);
-    if (!where.isThere)
+    if (where.isGap)
+    {
+        m_root->gaps &= ~BitOf(where.place);
+        ++m_root->size;
+    }
+    else if (!where.isThere)
     {
         std::string text(key); // first, so that nothing is left to fail once there is room
         Index* index = m_root->index;
         if (!index)
         {
-            index = Index::Make(*m_root);
-            where = index->Find(where.place);
+            index = Index::Make(*m_root, m_root->size + 1);
+            where = index->Find(key);
         }
         index->MakeRoom(where, m_root->blocks);
         m_root->index = index;
@@ -246,13 +296,20 @@ PropertyTreeMap::iterator PropertyTreeMap::EraseAt(Where where) noexcept
 {
     if (!m_root->index)
     {
-        if (where.place + 1 == m_root->size)
+        if (where.place + 1 == m_root->SlotsInUse())
         {
-            std::destroy_at(--m_root->end);
-            --m_root->size;
+            m_root->DropLast();
             return end();
         }
-        m_root->index = Index::Make(*m_root);
+        if (m_root->capacity <= Index::GAPS_MAX)
+        {
+            value_type* slot = m_root->Slots() + where.place;
+            slot->second = PropertyTree();
+            m_root->gaps |= BitOf(where.place);
+            --m_root->size;
+            return iterator(NotBefore(*m_root, slot), m_root);
+        }
+        m_root->index = Index::MakeInRoom(*m_root);
         where = m_root->index->Find(where.place);
     }
     m_root->index->Erase(where);
@@ -260,13 +317,47 @@ PropertyTreeMap::iterator PropertyTreeMap::EraseAt(Where where) noexcept
     return At<iterator>(where);
 }
 
+PropertyTree& PropertyTreeMapFiller::Insert(PropertyTreeMap& map, std::string_view key)
+{
+    using Entry = PropertyTreeMap::value_type;
+    map.reserve(1);
+    const PropertyTreeMap::Where where = map.Search(key);
+    PropertyTreeMap::Root& root = *map.m_root;
+    if (where.isThere || root.index || root.gaps != 0 || root.size == root.capacity)
+    {
+        return map[key];
+    }
+    std::string text(key);
+    Entry* const slot = root.Slots() + where.place;
+    for (Entry* last = root.end; last != slot; --last)
+    {
+        // The key is const for those who hold the entry, and nobody does.
+        std::construct_at(last, std::move(const_cast<std::string&>(last[-1].first)), std::move(last[-1].second));
+        std::destroy_at(last - 1);
+    }
+    std::uint64_t* const head = root.Heads() + where.place;
+    std::copy_backward(head, root.Heads() + root.size, root.Heads() + root.size + 1);
+    *head = HeadOf(key);
+    ++root.end;
+    ++root.size;
+    return std::construct_at(slot, std::move(text), PropertyTree())->second;
+}
+
 // Destroys the children here and not by their destructors, which would not know how deep they stand.
 void PropertyTreeMap::Release(int depth) noexcept
 {
-    for (value_type& entry : *this)
+    const auto destroy = [depth](value_type& entry)
     {
         entry.second.Clear(depth + 1);
         std::destroy_at(&entry);
+    };
+    if (m_root->index)
+    {
+        std::for_each(begin(), end(), destroy);
+    }
+    else
+    {
+        std::for_each(m_root->Slots(), m_root->end, destroy); // with the gaps
     }
     while (m_root->blocks)
     {

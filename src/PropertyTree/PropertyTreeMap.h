@@ -26,8 +26,8 @@ class PropertyTree;
 ///
 /// The entries stand side by side in one block as long as they come in key order and there is room for them, so that such a
 /// map costs one allocation, beside one for each key of more characters than a `std::string` keeps in itself (15 on
-/// libstdc++). An empty map costs none. The memory of an erased entry is used for the next one; it is given back by `clear`
-/// and by destroying the map.
+/// libstdc++). An empty map costs none. The memory of erased entries is kept for further ones; it is given back by `clear` and
+/// by destroying the map.
 ///
 /// Of n entries, finding one costs O(log n); inserting behind the last and erasing it O(1); inserting and erasing elsewhere
 /// O(log n) and the shift of a few hundred pointers, the first time O(n); copying, comparing and clearing O(n).
@@ -46,8 +46,9 @@ public:
 
 private:
     struct Leaf;
+    struct Root;
 
-    // Steps along the entries themselves as long as `m_leaf` is null, else along the pointers to them.
+    // Steps along the slots of the entries as long as `m_leaf` is null, else along the pointers to them.
     template <bool IsConst> class Iterator
     {
     public:
@@ -61,7 +62,7 @@ private:
 
         template <bool IsOtherConst>
         requires(IsConst && !IsOtherConst) Iterator(const Iterator<IsOtherConst>& other)
-        noexcept : m_entry(other.m_entry), m_leaf(other.m_leaf), m_place(other.m_place) {}
+        noexcept : m_entry(other.m_entry), m_leaf(other.m_leaf), m_place(other.m_place), m_gaps(other.m_gaps) {}
 
         reference operator*() const noexcept { return *m_entry; }
         pointer operator->() const noexcept { return m_entry; }
@@ -71,6 +72,10 @@ private:
             if (!m_leaf)
             {
                 ++m_entry;
+                if (m_gaps)
+                {
+                    m_entry = NotBefore(*m_gaps, m_entry);
+                }
                 return *this;
             }
             return *this = Iterator(m_leaf, m_place + 1);
@@ -88,6 +93,10 @@ private:
             if (!m_leaf)
             {
                 --m_entry;
+                if (m_gaps)
+                {
+                    m_entry = NotBehind(*m_gaps, m_entry);
+                }
                 return *this;
             }
             if (m_place == 0)
@@ -111,7 +120,7 @@ private:
         friend PropertyTreeMap;
         template <bool> friend class Iterator;
 
-        explicit Iterator(pointer entry) noexcept : m_entry(entry) {}
+        explicit Iterator(pointer entry, Root* gaps) noexcept : m_entry(entry), m_gaps(gaps) {}
 
         // Behind a leaf's last entry comes the first of the next leaf, and behind the last leaf one that holds none.
         Iterator(const Leaf* leaf, size_type place) noexcept : m_leaf(leaf), m_place(place)
@@ -127,6 +136,7 @@ private:
         pointer m_entry = nullptr;
         const Leaf* m_leaf = nullptr;
         size_type m_place = 0;
+        Root* m_gaps = nullptr; // if some of the slots are gaps
     };
 
 public:
@@ -155,7 +165,7 @@ public:
     const_iterator cend() const noexcept { return end(); }
 
     /// Makes room for `count` entries in one block, in an empty map for exactly so many: they will then cost no allocation
-    /// beside their keys, in whatever order they come. On a map that has entries it is a hint.
+    /// beside their keys, if they come in key order. On a map that has entries it is a hint.
     /// @throws std::length_error if so many can never be held
     void reserve(size_type count);
 
@@ -190,6 +200,7 @@ public:
 private:
     friend PropertyTree;
     friend class PropertyTreeMapFiller;
+    friend class PropertyTreeMapWalk;
 
     struct Block;
     class Index;
@@ -204,34 +215,59 @@ private:
         size_type capacity;
     };
 
-    // The head of the first block.
+    // The head of the first block. Behind it stand the heads of the keys, and behind these the slots.
     struct Root
     {
         static Root* Make(size_type capacity);
 
-        size_type size;     // entries
-        size_type capacity; // slots in this block
-        value_type* slots;
-        std::uint64_t* heads;
-        value_type* end; // of the entries, if they stand in order in the first slots
-        Index* index;    // null as long as they do
-        Block* blocks;   // what was allocated after this one
+        std::uint64_t* Heads() noexcept { return reinterpret_cast<std::uint64_t*>(this + 1); }
+        value_type* Slots() noexcept { return reinterpret_cast<value_type*>(Heads() + capacity); }
+        bool IsGap(size_type slot) const noexcept { return gaps != 0 && (gaps >> slot & 1) != 0; }
+        size_type SlotsInUse() const noexcept;
+        template <class... KeyArguments> value_type& Append(std::uint64_t head, size_type slot, const KeyArguments&... key);
+        void DropLast() noexcept;
+
+        size_type size;         // entries
+        std::uint32_t capacity; // slots in this block
+        std::uint32_t gaps;     // a bit for each slot whose entry was erased but for its key
+        value_type* end;        // of the slots in use, as long as there is no index
+        Index* index;           // null as long as the entries stand in order in the first slots
+        Block* blocks;          // what was allocated after this one
     };
 
     template <class It> It First() const noexcept
     {
-        return !m_root ? It() : m_root->index ? It(FirstLeaf(), 0) : It(m_root->slots);
+        if (!m_root)
+        {
+            return It();
+        }
+        if (m_root->index)
+        {
+            return It(FirstLeaf(), 0);
+        }
+        value_type* first = m_root->Slots();
+        return m_root->gaps == 0 ? It(first, nullptr) : It(NotBefore(*m_root, first), m_root);
     }
 
-    template <class It> It End() const noexcept { return !m_root ? It() : m_root->index ? It(EndLeaf(), 0) : It(m_root->end); }
+    template <class It> It End() const noexcept
+    {
+        if (!m_root)
+        {
+            return It();
+        }
+        return m_root->index ? It(EndLeaf(), 0) : It(m_root->end, m_root->gaps == 0 ? nullptr : m_root);
+    }
 
     const Leaf* FirstLeaf() const noexcept;
     const Leaf* EndLeaf() const noexcept;
 
+    // The nearest slot from this one on that is no gap.
+    static value_type* NotBefore(Root& root, const value_type* slot) noexcept;
+    static value_type* NotBehind(Root& root, const value_type* slot) noexcept;
+
     Where Search(std::string_view key) const noexcept;
     template <class It> It At(const Where& where) const noexcept;
     bool HasRoomAtEnd(std::string_view key, std::uint64_t head) const noexcept;
-    PropertyTree& Append(std::string_view key, std::uint64_t head);
     Where Insert(std::string_view key);
     iterator EraseAt(Where where) noexcept;
     void Release(int depth) noexcept;

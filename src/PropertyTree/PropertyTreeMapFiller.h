@@ -1,6 +1,7 @@
 #ifndef OMBREL_PROPERTY_TREE_PROPERTY_TREE_MAP_FILLER_H
 #define OMBREL_PROPERTY_TREE_PROPERTY_TREE_MAP_FILLER_H
 
+#include "PropertyTree/KeyHead.h"
 #include "PropertyTree/PropertyTreeMapIndex.h"
 
 #include <cstdint>
@@ -12,15 +13,15 @@
 namespace Ombrel
 {
 
-inline PropertyTree& PropertyTreeMap::Append(std::string_view key, std::uint64_t head)
+template <class... KeyArguments>
+PropertyTreeMap::value_type& PropertyTreeMap::Root::Append(std::uint64_t head, size_type slot, const KeyArguments&... key)
 {
-    Root& root = *m_root;
-    auto* entry = ::new (static_cast<void*>(root.end))
-        value_type(std::piecewise_construct, std::forward_as_tuple(key), std::forward_as_tuple());
-    root.heads[root.size] = head;
-    ++root.end;
-    ++root.size;
-    return entry->second;
+    auto* entry = ::new (static_cast<void*>(end))
+        value_type(std::piecewise_construct, std::forward_as_tuple(key...), std::forward_as_tuple());
+    Heads()[slot] = head;
+    ++end;
+    ++size;
+    return *entry;
 }
 
 /// Fills an empty map in key order. Whoever copies a map or has sorted the keys knows what `operator[]` finds out anew for
@@ -28,16 +29,83 @@ inline PropertyTree& PropertyTreeMap::Append(std::string_view key, std::uint64_t
 class PropertyTreeMapFiller
 {
 public:
-    /// @param map without entries and with room for all that will be appended, which nothing else changes meanwhile
-    explicit PropertyTreeMapFiller(PropertyTreeMap& map) noexcept : m_map(map) {}
+    /// @param map without entries; nothing else is added while it is filled
+    /// @param count how many entries there will be room for
+    /// @throws std::bad_alloc, std::length_error as `reserve`
+    PropertyTreeMapFiller(PropertyTreeMap& map, std::size_t count)
+    {
+        map.reserve(count);
+        m_root = map.m_root;
+    }
 
     /// Adds a null child.
     /// @param key comes after all that are there
+    /// @param head of the key
     /// @throws std::bad_alloc, without the child, if the key is too long for a `std::string` to keep in itself
-    PropertyTree& Append(std::string_view key) { return m_map.Append(key, HeadOf(key)); }
+    PropertyTree& Append(std::string_view key, std::uint64_t head) { return m_root->Append(head, m_root->size, key).second; }
+
+    /// The same for a key of at most SHORT_KEY characters, to which `text` is filled up with zeros: so many are copied faster
+    /// than any other number that is not a constant.
+    PropertyTree& AppendShort(const char* text, std::size_t size, std::uint64_t head)
+    {
+        auto& [key, child] = m_root->Append(head, m_root->size, text, SHORT_KEY);
+        const_cast<std::string&>(key).resize(size <= SHORT_KEY ? size : SHORT_KEY);
+        return child;
+    }
+
+    /// The same in a map that may have entries, as its `operator[]`, but moves those behind the new one where that saves
+    /// memory.
+    /// @param map to whose entries nobody holds a reference
+    static PropertyTree& Insert(PropertyTreeMap& map, std::string_view key);
 
 private:
-    PropertyTreeMap& m_map;
+    PropertyTreeMap::Root* m_root;
+};
+
+/// Calls `visit` with a walk through the entries of a map in key order: one that knows the heads of their keys and steps from
+/// slot to slot if the map is as it was filled, else one along its iterators.
+class PropertyTreeMapWalk
+{
+public:
+    template <class Visit> static void Through(const PropertyTreeMap& map, const Visit& visit)
+    {
+        PropertyTreeMap::Root* root = map.m_root;
+        if (root && !root->index && root->gaps == 0)
+        {
+            visit(InSlots{root->Slots(), root->end, root->Heads()});
+        }
+        else if (root)
+        {
+            visit(ByIterators{map.begin(), map.end()});
+        }
+    }
+
+private:
+    struct InSlots
+    {
+        bool IsAtEnd() const noexcept { return entry == end; }
+        std::uint64_t Head() const noexcept { return *head; }
+
+        void Next() noexcept
+        {
+            ++entry;
+            ++head;
+        }
+
+        const PropertyTreeMap::value_type* entry;
+        const PropertyTreeMap::value_type* end;
+        const std::uint64_t* head;
+    };
+
+    struct ByIterators
+    {
+        bool IsAtEnd() const noexcept { return entry == end; }
+        std::uint64_t Head() const noexcept { return HeadOf(entry->first); }
+        void Next() noexcept { ++entry; }
+
+        PropertyTreeMap::const_iterator entry;
+        PropertyTreeMap::const_iterator end;
+    };
 };
 
 } // namespace Ombrel

@@ -34,28 +34,73 @@ std::size_t PropertyTreeMap::Index::LeavesFor(size_type capacity) noexcept
     return std::max(capacity / LEAF_MIN, size_type{1});
 }
 
-std::size_t PropertyTreeMap::Index::BytesFor(size_type capacity) noexcept
+std::size_t PropertyTreeMap::Index::RoomFor(size_type capacity) noexcept
 {
-    return sizeof(Index) + (LeavesFor(capacity) + 1) * sizeof(Leaf) + capacity * sizeof(value_type*);
+    return capacity <= GAPS_MAX ? 0 : sizeof(Index) + (LeavesFor(capacity) + 1) * sizeof(Leaf) + capacity * sizeof(value_type*);
 }
 
-PropertyTreeMap::Index* PropertyTreeMap::Index::Make(const Root& root) noexcept
+PropertyTreeMap::Index* PropertyTreeMap::Index::Make(Root& root, size_type count)
 {
-    void* memory = root.heads + root.capacity;
+    if (root.capacity > GAPS_MAX)
+    {
+        return MakeInRoom(root);
+    }
+    return MakeBeside(root, count <= root.capacity ? root.capacity : std::max<size_type>(count, 2 * root.capacity));
+}
+
+PropertyTreeMap::Index* PropertyTreeMap::Index::MakeInRoom(Root& root) noexcept
+{
+    void* memory = root.Slots() + root.capacity;
     const size_type total = LeavesFor(root.capacity);
     Leaf* leaves = Behind<Leaf>(memory, sizeof(Index));
     value_type** places = Behind<value_type*>(leaves, (total + 1) * sizeof(Leaf));
-    PointTo(root.slots, root.capacity, places);
+    PointTo(root.Slots(), root.capacity, places);
     Index* index = ::new (memory) Index(leaves, total);
     for (size_type i = 0; i < total; ++i)
     {
         const size_type begin = i * root.capacity / total;
         const size_type end = (i + 1) * root.capacity / total;
         const size_type count = std::clamp(root.size, begin, end) - begin;
-        leaves[i] = {places + begin, root.heads + begin, count, end - begin};
+        leaves[i] = {places + begin, root.Heads() + begin, count, end - begin};
         index->m_used += count == 0 ? 0 : 1;
     }
     leaves[total] = {};
+    return index;
+}
+
+// In a second block, with the slots that the first one lacks.
+PropertyTreeMap::Index* PropertyTreeMap::Index::MakeBeside(Root& root, size_type capacity)
+{
+    const size_type indexBytes = sizeof(Index) + 2 * sizeof(Leaf);
+    const size_type slotBytes = (capacity - root.capacity) * sizeof(value_type);
+    const size_type headBytes = capacity * sizeof(std::uint64_t);
+    Block* block = Block::Make(indexBytes + slotBytes + headBytes + capacity * sizeof(value_type*), root.blocks);
+    Leaf* leaves = Behind<Leaf>(block, sizeof(Block) + sizeof(Index));
+    value_type* slots = Behind<value_type>(leaves, 2 * sizeof(Leaf));
+    std::uint64_t* heads = Behind<std::uint64_t>(slots, slotBytes);
+    value_type** places = Behind<value_type*>(heads, headBytes);
+    value_type** free = places + root.size;
+    leaves[0] = {places, heads, root.size, capacity};
+    leaves[1] = {};
+    for (size_type i = 0; i < root.capacity; ++i)
+    {
+        value_type* slot = root.Slots() + i;
+        if (slot < root.end && !root.IsGap(i))
+        {
+            *heads++ = root.Heads()[i];
+            *places++ = slot;
+            continue;
+        }
+        if (slot < root.end)
+        {
+            std::destroy_at(slot);
+        }
+        *free++ = slot;
+    }
+    PointTo(slots, capacity - root.capacity, free);
+    root.gaps = 0;
+    Index* index = ::new (static_cast<void*>(block + 1)) Index(leaves, 1);
+    index->m_used = 1;
     return index;
 }
 
@@ -92,7 +137,7 @@ void PropertyTreeMap::Index::MakeRoom(Where& where, Block*& blocks)
     {
         if (m_total == 1 && leaf.capacity < LEAF_MIN)
         {
-            Widen(leaf.capacity, blocks);
+            Widen(2 * leaf.capacity, blocks);
             return;
         }
         AddLeaf(blocks);
@@ -100,13 +145,16 @@ void PropertyTreeMap::Index::MakeRoom(Where& where, Block*& blocks)
     }
 }
 
-void PropertyTreeMap::Index::Widen(size_type more, Block*& blocks)
+void PropertyTreeMap::Index::Widen(size_type capacity, Block*& blocks)
 {
     const Leaf narrow = m_leaves[0];
-    m_leaves[0] = MakeLeaf(narrow.capacity + more, more, blocks);
-    m_leaves[0].count = narrow.count;
-    std::copy_n(narrow.heads, narrow.count, m_leaves[0].heads);
-    std::copy_n(narrow.places, narrow.capacity, m_leaves[0].places);
+    if (m_total == 1 && narrow.capacity < capacity)
+    {
+        m_leaves[0] = MakeLeaf(capacity, capacity - narrow.capacity, blocks);
+        m_leaves[0].count = narrow.count;
+        std::copy_n(narrow.heads, narrow.count, m_leaves[0].heads);
+        std::copy_n(narrow.places, narrow.capacity, m_leaves[0].places);
+    }
 }
 
 // A leaf whose last places point to new slots.

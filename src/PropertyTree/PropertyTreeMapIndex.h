@@ -1,6 +1,7 @@
 #ifndef OMBREL_PROPERTY_TREE_PROPERTY_TREE_MAP_INDEX_H
 #define OMBREL_PROPERTY_TREE_PROPERTY_TREE_MAP_INDEX_H
 
+#include "PropertyTree/KeyHead.h"
 #include "PropertyTree/PropertyTree.h"
 
 #include <algorithm>
@@ -11,15 +12,20 @@
 #include <utility>
 
 // How the entries are kept. The first block has slots for exactly as many entries as were asked for, and as long as the entries
-// come in key order they fill these slots in that order: the slots themselves are walked. The first entry that comes out of
-// order or finds no slot, and the first that is erased before the end, makes an index of pointers, for which the block has kept
-// room, so that erasing never allocates; from then on the entries stand anywhere and only pointers move. Beside the slots, and
-// later beside the pointers, stand the heads of the keys, their first eight characters as a number: these are searched, and a
-// key itself is looked at only where its head is the one that is wanted. The index is cut into leaves of a few hundred
-// pointers, so that no shift is long. A leaf has a pointer for each of its slots, whether an entry is there or not: the first
-// ones lead to the entries in key order and the others to the free slots. The leaves are arranged alike, first those in use and
-// then the empty ones. So an insert takes the pointer behind the entries and rotates it into its place, an erase rotates one
-// out, two leaves are split or joined by swapping pointers, and what is free needs no list of its own.
+// come in key order they fill these slots in that order: the slots themselves are walked. The heads of the keys, their first
+// eight characters as a number, stand side by side: these are searched, and a key itself is looked at only where its head is
+// the one that is wanted.
+//
+// An entry that is erased before the end leaves a gap in a small block: its child goes, its key stays, and a bit says so. That
+// takes no memory, and the same key can come back. A large block has room for an index of pointers instead, made when the
+// first entry goes, so that erasing never allocates. And the first entry that comes out of order or finds no slot makes such
+// an index, in that room or in a second block; from then on the entries stand anywhere and only pointers move.
+//
+// The index is cut into leaves of a few hundred pointers, so that no shift is long; the heads stand beside the pointers. A leaf
+// has a pointer for each of its slots, whether an entry is there or not: the first ones lead to the entries in key order and
+// the others to the free slots. The leaves are arranged alike, first those in use and then the empty ones. So an insert takes
+// the pointer behind the entries and rotates it into its place, an erase rotates one out, two leaves are split or joined by
+// swapping pointers, and what is free needs no list of its own.
 
 namespace Ombrel
 {
@@ -30,6 +36,7 @@ struct PropertyTreeMap::Where
     size_type leaf = 0;
     size_type place = 0;
     bool isThere = false;
+    bool isGap = false; // of this key
 };
 
 /// The head of every block but the first: that of a leaf's slots and places, or of a longer row of leaves.
@@ -48,11 +55,19 @@ public:
     static constexpr size_type LEAF_MIN = 256;
     static constexpr size_type LEAF_MAX = 2 * LEAF_MIN - 1;
 
-    /// How much of it a block must have behind its slots.
-    static size_type BytesFor(size_type capacity) noexcept;
+    // A block of so many slots has a bit for each of them that may be a gap, and no room for an index.
+    static constexpr size_type GAPS_MAX = 32;
 
-    /// Makes the index of entries that stand in order in the block of `root`, which does not get to know of it.
-    static Index* Make(const Root& root) noexcept;
+    /// How many bytes the first block has behind its slots.
+    static size_type RoomFor(size_type capacity) noexcept;
+
+    /// Makes the index of the entries that stand in the slots of `root`, which does not get to know of it; the gaps are free
+    /// slots then. Throws, with the entries as they were, if there is no memory for a second block.
+    /// @param count with small blocks, so many entries will fit
+    static Index* Make(Root& root, size_type count);
+
+    /// The same for a block that has room for it.
+    static Index* MakeInRoom(Root& root) noexcept;
 
     const Leaf* FirstLeaf() const noexcept { return m_leaves; }
     const Leaf* EndLeaf() const noexcept { return m_leaves + m_used; }
@@ -62,11 +77,9 @@ public:
     Where Find(size_type place) const noexcept;
     Where Find(std::string_view key) const noexcept;
 
-    /// How many slots the only leaf has, or 0 if there are several.
-    size_type SingleCapacity() const noexcept { return m_total == 1 ? m_leaves->capacity : 0; }
-
-    /// Gives the only leaf `more` slots, with which it has at most LEAF_MAX, or throws and changes nothing.
-    void Widen(size_type more, Block*& blocks);
+    /// Gives the leaf, if it is the only one, at least `capacity` slots, of which there may be LEAF_MAX, or throws and changes
+    /// nothing.
+    void Widen(size_type capacity, Block*& blocks);
 
     /// Sees to it that the leaf of `where` has a free slot, or throws and changes nothing.
     void MakeRoom(Where& where, Block*& blocks);
@@ -81,6 +94,7 @@ private:
     Index(Leaf* leaves, size_type total) noexcept : m_leaves(leaves), m_total(total), m_room(total) {}
 
     static size_type LeavesFor(size_type capacity) noexcept;
+    static Index* MakeBeside(Root& root, size_type capacity);
 
     static Leaf MakeLeaf(size_type capacity, size_type slotCount, Block*& blocks);
     static void MoveEntries(Leaf& from, size_type first, Leaf& to) noexcept;
@@ -96,36 +110,6 @@ private:
     size_type m_total;    // leaves
     size_type m_room;     // for so many leaves
 };
-
-/// As many characters as a number, the first in the highest byte, so that texts and numbers have one order.
-template <std::size_t... I> std::uint64_t NumberAt(const char* text, std::index_sequence<I...>) noexcept
-{
-    return ((std::uint64_t{static_cast<unsigned char>(text[I])} << 8 * (sizeof...(I) - 1 - I)) | ...); // one load
-}
-
-/// The first eight characters, and zeros if there are not so many, as a number. Where the heads of two keys differ, they
-/// differ in the order of the keys.
-inline std::uint64_t HeadOf(std::string_view key) noexcept
-{
-    const std::size_t size = key.size();
-    if (size >= 8)
-    {
-        return NumberAt(key.data(), std::make_index_sequence<8>());
-    }
-    const std::size_t missing = 8 * (8 - size); // bits
-    if (size >= 4)
-    {
-        const std::uint64_t first = NumberAt(key.data(), std::make_index_sequence<4>());
-        const std::uint64_t last = NumberAt(key.data() + size - 4, std::make_index_sequence<4>());
-        return first << 32 | last << missing; // they overlap in the same characters
-    }
-    std::uint64_t head = 0;
-    for (const char character : key)
-    {
-        head = head << 8 | static_cast<unsigned char>(character);
-    }
-    return size == 0 ? 0 : head << missing;
-}
 
 /// The place among `count` entries, which `entryAt` finds, where `key` is or belongs, and whether it is there.
 template <class EntryAt>

@@ -56,6 +56,8 @@ class Twins
 public:
     explicit Twins(Random& random) : m_random(random) {}
 
+    void Reserve(std::size_t count) { m_map.reserve(count); }
+
     void Insert(const std::string& key, int value)
     {
         const bool isNew = !m_expected.contains(key);
@@ -218,6 +220,31 @@ TEST_P(PropertyTreeMapModel, HoldsWhatStdMapHolds)
 }
 
 INSTANTIATE_TEST_SUITE_P(Runs, PropertyTreeMapModel, testing::ValuesIn(RUNS));
+
+// Small maps that were filled in order, with gaps from the first erased entry to the first that comes in between.
+TEST(PropertyTreeMapGaps, HoldWhatStdMapHolds)
+{
+    Random random(5);
+    for (int round = 0; round < 3000 && !testing::Test::HasFailure(); ++round)
+    {
+        SCOPED_TRACE(testing::Message() << "round " << round);
+        Twins twins(random);
+        const int count = 1 + static_cast<int>(random() % 36);
+        const auto keyOf = [](int number) { return std::to_string(10 + number); };
+        twins.Reserve(static_cast<std::size_t>(count) + random() % 2);
+        for (int i = 0; i < count; ++i)
+        {
+            twins.Insert(keyOf(2 * i), i);
+        }
+        for (int step = 0; step < 2 * count && !testing::Test::HasFailure(); ++step)
+        {
+            const bool isNew = random() % 32 == 0;
+            const std::string key = keyOf(2 * static_cast<int>(random() % static_cast<unsigned>(count)) + (isNew ? 1 : 0));
+            random() % 3 == 0 ? twins.Insert(key, step) : random() % 8 == 0 ? twins.Find(key) : twins.Erase(key);
+            twins.Compare();
+        }
+    }
+}
 
 enum class Order
 {

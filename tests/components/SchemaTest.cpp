@@ -82,7 +82,7 @@ TEST(Schema, KnowsTheOrderOfTheKeys)
     std::vector<std::string> keys;
     for (std::size_t place = 0; place < EverythingSchema().fields.size(); ++place)
     {
-        keys.emplace_back(EverythingSchema().fields[EverythingSchema().keyOrder[place]].key);
+        keys.emplace_back(EverythingSchema().fields[EverythingSchema().sortedKeys[place].index].key);
     }
     EXPECT_EQ(keys, (std::vector<std::string>{"bool", "channels", "enum", "float32", "float64", "int32", "int64", "pair",
                                               "points", "record", "rows", "set", "string", "uint32", "uint64", "uint8"}));
@@ -186,11 +186,11 @@ TEST(Schema, TellsKeysApartByEveryCharacter)
     {
         const std::string key(size, 'k');
         const FieldSchema field{key, &OTHER_VALUE};
-        constexpr std::uint16_t first = 0;
+        const SortedKey sorted(key, 0);
         const RecordSchema schema{
             .name = {},
             .fields = {&field, 1},
-            .keyOrder = &first,
+            .sortedKeys = &sorted,
             .defaults = nullptr,
             .read = nullptr,
             .write = nullptr,

@@ -262,4 +262,22 @@ TEST(UserClasses, WhatIsWrittenAsNoMapHasNoRoomForAName)
     EXPECT_EQ(NamedForm(Make({.serialize = [](PropertyTree& tree) { tree = PropertyTree(); }})), Map({{"name", "userEffect"}}));
 }
 
+// Keeps what stands in the tree.
+class Adding : public UserEffect
+{
+public:
+    using UserEffect::UserEffect;
+
+    void Serialize(PropertyTree& tree) const override { tree["sigma"] = 2; }
+};
+
+TEST(UserClasses, WhatStoodInTheTreeIsNotMovedForTheName)
+{
+    PropertyTree tree;
+    PropertyTree& radius = tree.makeMap(4)["radius"];
+    EffectSettings::SerializePtr(tree, std::make_shared<Adding>(UserEffect::Behaviour()));
+    EXPECT_EQ(tree, Map({{"name", "userEffect"}, {"radius", PropertyTree()}, {"sigma", 2}}));
+    EXPECT_EQ(&radius, &tree["radius"]);
+}
+
 } // namespace

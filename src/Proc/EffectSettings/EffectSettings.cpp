@@ -3,6 +3,7 @@
 #include "Proc/ImplNames.h"
 #include "Proc/Reflection/Reflected.h"
 #include "Proc/Settings/StoredKeys.h"
+#include "PropertyTree/PropertyTreeMapFiller.h"
 
 #include <stdexcept>
 #include <utility>
@@ -118,8 +119,12 @@ void EffectSettings::SerializePtr(PropertyTree& tree, const std::shared_ptr<cons
         tree = PropertyTree();
         return;
     }
+    const bool wasNull = tree.isNull();
     effect->Serialize(tree);
-    tree[StoredKeys::CLASS_ID] = PropertyTreeScalar(effect->GetClassId());
+    // The entries of a tree that was null nobody has seen yet, so they may still move.
+    PropertyTree& id = wasNull && !tree.isNull() ? PropertyTreeMapFiller::Insert(tree.getMap(), StoredKeys::CLASS_ID)
+                                                 : tree[StoredKeys::CLASS_ID];
+    id = PropertyTreeScalar(effect->GetClassId());
 }
 
 void EffectSettings::DeserializePtr(const PropertyTree& tree, std::shared_ptr<IEffectSettings>& effect)

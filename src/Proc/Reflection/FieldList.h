@@ -104,21 +104,21 @@ template <class... Descriptors> struct FieldList
     static constexpr std::size_t SIZE = sizeof...(Descriptors);
     static constexpr std::array<std::string_view, SIZE> KEYS{Descriptors::KEY...};
 
-    /// The indices of the fields in the byte order of their keys. Sorted by hand, here and below: the compiler would take more
-    /// time for the standard's algorithms than for all else that there is of a record.
-    static constexpr std::array<std::uint16_t, SIZE> KEY_ORDER = []
+    /// The fields in the byte order of their keys. Sorted by hand, here and below: the compiler would take more time for the
+    /// standard's algorithms than for all else that there is of a record.
+    static constexpr std::array<SortedKey, SIZE> SORTED_KEYS = []
     {
-        std::array<std::uint16_t, SIZE> order{};
+        std::array<SortedKey, SIZE> keys{};
         for (std::size_t index = 0; index != SIZE; ++index)
         {
             std::size_t place = index;
-            for (; place != 0 && KEYS[index] < KEYS[order[place - 1]]; --place)
+            for (; place != 0 && KEYS[index] < KEYS[keys[place - 1].index]; --place)
             {
-                order[place] = order[place - 1];
+                keys[place] = keys[place - 1];
             }
-            order[place] = static_cast<std::uint16_t>(index);
+            keys[place] = SortedKey(KEYS[index], index);
         }
-        return order;
+        return keys;
     }();
 
     static consteval bool HasKey([[maybe_unused]] std::string_view key) { return ((Descriptors::KEY == key) || ...); }
@@ -127,7 +127,7 @@ template <class... Descriptors> struct FieldList
     {
         for (std::size_t place = 1; place < SIZE; ++place)
         {
-            if (KEYS[KEY_ORDER[place - 1]] == KEYS[KEY_ORDER[place]])
+            if (KEYS[SORTED_KEYS[place - 1].index] == KEYS[SORTED_KEYS[place].index])
             {
                 return false;
             }

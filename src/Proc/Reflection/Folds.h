@@ -137,7 +137,7 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
     static constexpr RecordSchema SCHEMA{
         .name = TYPE_NAME<Record>,
         .fields = FIELDS,
-        .keyOrder = List::KEY_ORDER.data(),
+        .sortedKeys = List::SORTED_KEYS.data(),
         .defaults = &ErasedDefault,
         .read = &ErasedRead,
         .write = &ErasedWrite,

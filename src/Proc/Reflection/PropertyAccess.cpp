@@ -31,9 +31,9 @@ std::vector<std::string> PropertyAccess::ListProperties() const
 {
     std::vector<std::string> keys;
     keys.reserve(m_schema.fields.size());
-    for (const std::uint16_t index : std::span(m_schema.keyOrder, m_schema.fields.size()))
+    for (const SortedKey& key : std::span(m_schema.sortedKeys, m_schema.fields.size()))
     {
-        keys.emplace_back(m_schema.fields[index].key);
+        keys.emplace_back(m_schema.fields[key.index].key);
     }
     return keys;
 }

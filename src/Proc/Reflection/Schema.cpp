@@ -11,47 +11,21 @@ namespace Ombrel::Proc
 namespace
 {
 
-template <class Number> bool BeginAlike(const char* a, const char* b)
+// Of a key with the same head. Few have more than 15 characters, for which a call of `memcmp` would take longer than the rest
+// of a step.
+bool IsKey(const std::string& text, const SortedKey& key, const FieldSchema* fields)
 {
-    Number left;
-    Number right;
-    std::memcpy(&left, a, sizeof(Number));
-    std::memcpy(&right, b, sizeof(Number));
-    return left == right;
-}
-
-template <class Number> bool AreAlike(std::string_view a, std::string_view b)
-{
-    const std::size_t last = a.size() - sizeof(Number); // overlaps with the beginning
-    return BeginAlike<Number>(a.data(), b.data()) && BeginAlike<Number>(a.data() + last, b.data() + last);
-}
-
-// As `==`: a call of `memcmp` would take longer than the rest of a step. Few keys have more than 16 characters.
-bool AreEqual(std::string_view a, std::string_view b)
-{
-    if (a.size() != b.size())
+    constexpr std::size_t headSize = sizeof(key.head);
+    if (text.size() != key.size || key.size <= headSize)
     {
-        return false;
+        return text.size() == key.size;
     }
-    if (a.size() >= sizeof(std::uint64_t))
+    if (key.size <= SHORT_KEY)
     {
-        return AreAlike<std::uint64_t>(a, b) && (a.size() <= 2 * sizeof(std::uint64_t) || a == b);
+        const std::size_t last = key.size - headSize;                                // overlaps with the head
+        return std::memcmp(text.data() + last, key.beginning + last, headSize) == 0; // two loads
     }
-    if (a.size() >= sizeof(std::uint32_t))
-    {
-        return AreAlike<std::uint32_t>(a, b);
-    }
-    return std::ranges::equal(a, b);
-}
-
-// Most different keys differ in their first character already.
-bool IsBefore(std::string_view a, std::string_view b)
-{
-    if (!a.empty() && !b.empty() && a.front() != b.front())
-    {
-        return static_cast<unsigned char>(a.front()) < static_cast<unsigned char>(b.front());
-    }
-    return a < b;
+    return text == fields[key.index].key;
 }
 
 } // namespace
@@ -60,27 +34,37 @@ void FindChildren(const RecordSchema& schema, const PropertyTree::Map& source, c
 {
     const std::span fields = schema.fields;
     std::fill_n(children, fields.size(), nullptr);
-    const std::uint16_t* place = schema.keyOrder;
-    const std::uint16_t* const endPlace = place + fields.size();
-    const auto endEntry = source.end();
-    for (auto entry = source.begin(); entry != endEntry && place != endPlace;)
+    const auto merge = [&schema, fields, children](auto walk)
     {
-        const std::string_view key = fields[*place].key;
-        if (AreEqual(entry->first, key))
+        const SortedKey* key = schema.sortedKeys;
+        const SortedKey* const endKey = key + fields.size();
+        while (!walk.IsAtEnd() && key != endKey)
         {
-            children[*place] = &entry->second;
-            ++entry;
-            ++place;
+            const std::uint64_t head = walk.Head();
+            bool isBefore = head < key->head;
+            if (head == key->head)
+            {
+                const auto& [text, child] = *walk.entry;
+                if (IsKey(text, *key, fields.data()))
+                {
+                    children[key->index] = &child;
+                    walk.Next();
+                    ++key;
+                    continue;
+                }
+                isBefore = text < fields[key->index].key;
+            }
+            if (isBefore)
+            {
+                walk.Next();
+            }
+            else
+            {
+                ++key;
+            }
         }
-        else if (IsBefore(entry->first, key))
-        {
-            ++entry;
-        }
-        else
-        {
-            ++place;
-        }
-    }
+    };
+    PropertyTreeMapWalk::Through(source, merge);
 }
 
 WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, bool* isWritten,
@@ -101,22 +85,24 @@ WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, s
     {
         return;
     }
-    map.reserve(map.size() + count + others);
-    const std::span order(schema.keyOrder, fields.size());
+    const std::span sortedKeys(schema.sortedKeys, fields.size());
     if (map.empty())
     {
-        PropertyTreeMapFiller filler(map);
-        for (const std::uint16_t index : order)
+        PropertyTreeMapFiller filler(map, count + others);
+        for (const SortedKey& key : sortedKeys)
         {
-            if (isWritten[index])
+            if (isWritten[key.index])
             {
-                children[index] = &filler.Append(fields[index].key);
+                children[key.index] = key.size <= SHORT_KEY ? &filler.AppendShort(key.beginning, key.size, key.head)
+                                                            : &filler.Append(fields[key.index].key, key.head);
             }
         }
         return;
     }
-    for (const std::uint16_t index : order)
+    map.reserve(map.size() + count + others);
+    for (const SortedKey& key : sortedKeys)
     {
+        const std::size_t index = key.index;
         if (isWritten[index])
         {
             isWritten[index] = !map.contains(fields[index].key);
@@ -138,14 +124,14 @@ void WriteTargets::Withdraw() noexcept
 
 std::optional<std::size_t> FindField(const RecordSchema& schema, std::string_view key)
 {
-    const std::span order(schema.keyOrder, schema.fields.size());
-    const auto keyOf = [&schema](std::uint16_t index) { return schema.fields[index].key; };
-    const auto found = std::ranges::lower_bound(order, key, {}, keyOf);
-    if (found == order.end() || keyOf(*found) != key)
+    const std::span sortedKeys(schema.sortedKeys, schema.fields.size());
+    const auto keyOf = [&schema](const SortedKey& sorted) { return schema.fields[sorted.index].key; };
+    const auto found = std::ranges::lower_bound(sortedKeys, key, {}, keyOf);
+    if (found == sortedKeys.end() || keyOf(*found) != key)
     {
         return std::nullopt;
     }
-    return *found;
+    return found->index;
 }
 
 } // namespace Ombrel::Proc

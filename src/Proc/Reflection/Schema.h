@@ -3,6 +3,7 @@
 
 #include "Export.h"
 #include "Proc/Reflection/Context.h"
+#include "PropertyTree/KeyHead.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -58,13 +59,33 @@ struct FieldSchema
     const ValueSchema* value;
 };
 
+/// A key as a search needs it, with the place of its field in the list. Constant data.
+struct SortedKey
+{
+    constexpr SortedKey() = default;
+
+    constexpr SortedKey(std::string_view key, std::size_t place)
+        : head(HeadOf(key)), size(static_cast<std::uint32_t>(key.size())), index(static_cast<std::uint16_t>(place))
+    {
+        for (std::size_t i = 0; i != key.size() && i != SHORT_KEY; ++i)
+        {
+            beginning[i] = key[i];
+        }
+    }
+
+    std::uint64_t head = 0;
+    std::uint32_t size = 0;
+    std::uint16_t index = 0;
+    char beginning[SHORT_KEY] = {}; // the first characters, and zeros if there are not so many
+};
+
 /// What is known of a record type without naming it: its fields, and the folds over them for a record that is passed by `void*`
 /// and must be of the type. Constant data; an index is the place in `fields`.
 struct RecordSchema
 {
     std::string_view name;               // of the type, without its namespace; "pair" for every pair
     std::span<const FieldSchema> fields; // in declaration order, which is the order of reading
-    const std::uint16_t* keyOrder;       // their indices in the byte order of the keys
+    const SortedKey* sortedKeys;         // of the fields, in byte order
 
     const void* (*defaults)(); // what missing keys are reset to; made on first use
     void (*read)(void* record, const PropertyTree::Map& source, const ReadFlags* flags);
