@@ -40,13 +40,13 @@ PropertyTreeMap::Root* PropertyTreeMap::Root::Make(size_type capacity)
     return root;
 }
 
-PropertyTreeMap::size_type PropertyTreeMap::Root::SlotsInUse() const noexcept
+inline PropertyTreeMap::size_type PropertyTreeMap::Root::SlotsInUse() const noexcept
 {
     return gaps == 0 ? size : size + static_cast<size_type>(std::popcount(gaps));
 }
 
 // Gives up the last slot in use, and the gaps before it.
-void PropertyTreeMap::Root::DropLast() noexcept
+inline void PropertyTreeMap::Root::DropLast() noexcept
 {
     value_type* last = end - 1;
     if (gaps != 0)
@@ -227,7 +227,7 @@ PropertyTreeMap::Where PropertyTreeMap::Search(std::string_view key) const noexc
 template <class It> It PropertyTreeMap::At(const Where& where) const noexcept
 {
     return m_root->index ? It(m_root->index->LeafAt(where), where.place)
-                         : It(m_root->Slots() + where.place, m_root->gaps == 0 ? nullptr : m_root);
+                         : It(m_root->gaps == 0 ? nullptr : m_root, m_root->Slots() + where.place);
 }
 
 // Whether an entry can be put behind the slots in use.
@@ -307,7 +307,7 @@ PropertyTreeMap::iterator PropertyTreeMap::EraseAt(Where where) noexcept
             slot->second = PropertyTree();
             m_root->gaps |= BitOf(where.place);
             --m_root->size;
-            return iterator(NotBefore(*m_root, slot), m_root);
+            return iterator(m_root, NotBefore(*m_root, slot));
         }
         m_root->index = Index::MakeInRoom(*m_root);
         where = m_root->index->Find(where.place);

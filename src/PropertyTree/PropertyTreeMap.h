@@ -120,7 +120,7 @@ private:
         friend PropertyTreeMap;
         template <bool> friend class Iterator;
 
-        explicit Iterator(pointer entry, Root* gaps) noexcept : m_entry(entry), m_gaps(gaps) {}
+        Iterator(Root* gaps, pointer entry) noexcept : m_entry(entry), m_gaps(gaps) {}
 
         // Behind a leaf's last entry comes the first of the next leaf, and behind the last leaf one that holds none.
         Iterator(const Leaf* leaf, size_type place) noexcept : m_leaf(leaf), m_place(place)
@@ -246,7 +246,7 @@ private:
             return It(FirstLeaf(), 0);
         }
         value_type* first = m_root->Slots();
-        return m_root->gaps == 0 ? It(first, nullptr) : It(NotBefore(*m_root, first), m_root);
+        return m_root->gaps == 0 ? It(nullptr, first) : It(m_root, NotBefore(*m_root, first));
     }
 
     template <class It> It End() const noexcept
@@ -255,7 +255,7 @@ private:
         {
             return It();
         }
-        return m_root->index ? It(EndLeaf(), 0) : It(m_root->end, m_root->gaps == 0 ? nullptr : m_root);
+        return m_root->index ? It(EndLeaf(), 0) : It(m_root->gaps == 0 ? nullptr : m_root, m_root->end);
     }
 
     const Leaf* FirstLeaf() const noexcept;
