@@ -6,6 +6,7 @@
 
 #include <new>
 #include <stdexcept>
+#include <string_view>
 
 namespace
 {
@@ -64,6 +65,38 @@ TEST(PropertyTreeMapMemory, WhatIsReservedIsOneBlock)
                       EXPECT_EQ(map.size(), 20u);
                   }),
               1u);
+}
+
+// What is erased leaves its room behind, in which the next entries stand in order again, unless an index was made.
+TEST(PropertyTreeMapMemory, AnEmptiedMapReservesWhatItLacks)
+{
+    Map map;
+    const auto fill = [&map](std::string_view keys)
+    {
+        map.reserve(keys.size());
+        for (const char& key : keys)
+        {
+            map[std::string_view(&key, 1)] = 1.0;
+        }
+    };
+    const auto empty = [&map](std::string_view keys)
+    {
+        for (const char& key : keys)
+        {
+            map.erase(std::string_view(&key, 1));
+        }
+        EXPECT_TRUE(map.empty());
+    };
+    EXPECT_EQ(AllocationsOf([&] { fill("ab"); }), 1u);
+    empty("ba");
+    EXPECT_EQ(AllocationsOf([&] { fill("cd"); }), 0u);
+    empty("dc");
+    EXPECT_EQ(AllocationsOf([&] { fill("efghijklmnopqrst"); }), 1u);
+    empty("efghijklmnopqrst");
+    EXPECT_EQ(AllocationsOf([&] { fill("zyx"); }), 1u); // the index
+    empty("yxz");
+    EXPECT_EQ(AllocationsOf([&] { fill("uvw"); }), 1u);
+    EXPECT_TRUE(map.size() == 3 && map.contains("u") && map.contains("v") && map.contains("w"));
 }
 
 TEST(PropertyTreeMapMemory, AnEntryOutOfOrderMakesASecondBlockOnce)

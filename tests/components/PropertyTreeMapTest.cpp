@@ -144,6 +144,7 @@ TEST(PropertyTreeMap, IteratesBothWays)
     EXPECT_EQ((--position)->first, "b");
     EXPECT_EQ((position--)->first, "b");
     EXPECT_EQ((position++)->first, "a");
+    EXPECT_EQ(map.cbegin()->first, "a");
     Map::const_iterator constant = position;
     EXPECT_EQ(constant->first, "b");
     EXPECT_EQ(constant, map.find("b"));
@@ -170,6 +171,7 @@ TEST(PropertyTreeMap, CopiesAreDeepAndAssignmentReplaces)
     Map otherKey;
     otherKey["b"] = map.at("a");
     EXPECT_FALSE(otherKey == map);
+    EXPECT_FALSE(Map() == map);
 
     Map& self = target;
     target = self;

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <concepts>
 #include <stdexcept>
 #include <type_traits>
 
@@ -52,6 +53,7 @@ TEST(PropertyTree, TakesAnythingThatMakesAScalar)
     EXPECT_EQ(tree["c"].getScalar().toString(), "text");
     EXPECT_EQ(tree["d"].getScalar().kind(), PropertyTreeScalar::Kind::Bool);
     EXPECT_EQ(tree["e"].getScalar().toInt(), 7);
+    EXPECT_EQ(PropertyTree(PropertyTreeScalar("a text")).getScalar().toString(), "a text");
 }
 
 TEST(PropertyTree, IndexingAFreshTreeMakesAMapWithANullChild)
@@ -127,6 +129,15 @@ TEST(PropertyTree, AMovedFromTreeIsNull)
     static_assert(std::is_nothrow_move_constructible_v<PropertyTree> && std::is_nothrow_move_assignable_v<PropertyTree>);
 }
 
+TEST(PropertyTree, IsSwappedAsAlgorithmsDo)
+{
+    PropertyTree map = Map({{"x", 1}});
+    PropertyTree text("a text that does not fit into a string itself");
+    std::ranges::swap(map, text);
+    EXPECT_EQ(map, PropertyTree("a text that does not fit into a string itself"));
+    EXPECT_EQ(text, Map({{"x", 1}}));
+}
+
 TEST(PropertyTree, ContainsLooksIntoMapsOnly)
 {
     EXPECT_TRUE(Map({{"a", 1}}).contains("a"));
@@ -193,6 +204,10 @@ TEST(PropertyTree, EqualityLooksAtEveryLevel)
     EXPECT_FALSE(tree == Map({{"a", List({1, Map({{"b", "c"}})})}, {"z", 1}}));
     EXPECT_FALSE(Map({}) == List({}));
     EXPECT_FALSE(Map({}) == PropertyTree());
+    EXPECT_FALSE(PropertyTree() == Map({}));
+    EXPECT_FALSE(PropertyTree(5) == PropertyTree());
+    EXPECT_FALSE(PropertyTree(5) == Map({}));
+    EXPECT_FALSE(Map({}) == PropertyTree(5));
     EXPECT_TRUE(PropertyTree() == PropertyTree());
 }
 

@@ -40,6 +40,8 @@ TEST_P(ColorText, IsReadAsANumber)
 INSTANTIATE_TEST_SUITE_P(Texts, ColorText,
                          testing::Values(Reading{"ff0000ff", 0xff0000ff}, Reading{"FF0000FF", 0xff0000ff},
                                          Reading{"0xff0000ff", 0xff0000ff}, Reading{"0XfF0000Ff", 0xff0000ff},
+                                         Reading{"0xFF0000FF", 0xff0000ff}, Reading{"0x/", 0}, Reading{"0x:", 0},
+                                         Reading{"0x@", 0}, Reading{"0xG", 0}, Reading{"0x`", 0},
                                          Reading{"ff0000ffzz", 0xff0000ff}, Reading{"ff", 0x000000ff},
                                          Reading{"-1", 0xffffffff}, Reading{"-ffffffff", 0x00000001}, Reading{"+ff", 0xff},
                                          Reading{" \t\n\v\f\rff", 0xff}, Reading{"0x", 0}, Reading{"0xg", 0},

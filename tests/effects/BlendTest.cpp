@@ -184,6 +184,17 @@ TEST(Blend, MovesAllOfItself)
     EXPECT_EQ(assigned.GetHelperSettings().GetMaxWidth(), 640u);
 }
 
+TEST(Blend, IsAssignedWithAllOfItself)
+{
+    BlendSettings effect;
+    effect.GetTypedSettings().SetPositionX(7);
+    effect.HelperSetting().SetMaxWidth(640);
+    BlendSettings assigned;
+    assigned = effect;
+    EXPECT_EQ(StoredForm(assigned), Map({{"helperSettings", Map({{"maxWidth", 640}})}, {"positionX", 7}}));
+    EXPECT_EQ(StoredForm(effect), Map({{"helperSettings", Map({{"maxWidth", 640}})}, {"positionX", 7}}));
+}
+
 TEST(Blend, IsWrittenButNotMadeByItsId)
 {
     PropertyTree tree;

@@ -10,6 +10,7 @@
 #include "Proc/EffectSettings/HalfToneSettings.h"
 #include "Proc/EffectSettings/NoiseVideoSettings.h"
 #include "Proc/EffectSettings/PopArtSettings.h"
+#include "Proc/EffectSettings/PosterizeSettings.h"
 #include "Proc/EffectSettings/RetroArtefactsSettings.h"
 #include "Proc/EffectSettings/RotateSettings.h"
 #include "Proc/EffectSettings/VignetteFilterSettings.h"
@@ -182,6 +183,15 @@ TEST(RecordAccessors, OfPopArt)
     ExpectNumber<Effect>("intensity", &R::SetIntensity, &R::GetIntensity, 0.375f);
     ExpectAccess<Effect>("disproportionPolicy", &R::SetDisproportionPolicy, &R::GetDisproportionPolicy,
                          R::DisproportionPolicy::Expand, "Expand");
+}
+
+TEST(RecordAccessors, OfPosterize)
+{
+    using R = SettingsEffectPosterize;
+    ExpectNumber<PosterizeSettings>("isPal", &R::SetIsPal, &R::GetIsPal, true);
+    ExpectNumber<PosterizeSettings>("seed", &R::SetSeed, &R::GetSeed, WHOLE);
+    ExpectNumber<PosterizeSettings>("colors", &R::SetColorsNumber, &R::GetColorsNumber, WHOLE);
+    ExpectNumber<PosterizeSettings>("intensity", &R::SetIntensity, &R::GetIntensity, 0.375f);
 }
 
 TEST(RecordAccessors, OfRetroArtefacts)

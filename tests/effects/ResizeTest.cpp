@@ -356,6 +356,18 @@ TEST(Resize, ACloneHasTheMirrorsToo)
     EXPECT_TRUE(clone->GetTypedSettings() == effect.GetTypedSettings());
 }
 
+TEST(Resize, IsAssignedWithItsMirrors)
+{
+    const PropertyTree form = Map({{"helperSettings", Map({{"maxWidth", 640}})}, {"resolution", 300.0}, {"scaleFactor", 2.5}});
+    ResizeSettings effect(Scale(2.5));
+    effect.Deserialize(form);
+    ResizeSettings assigned;
+    assigned = effect;
+    EXPECT_EQ(MirrorsOf(assigned), form);
+    EXPECT_EQ(MirrorsOf(effect), form);
+    EXPECT_TRUE(assigned.GetTypedSettings() == Scale(2.5));
+}
+
 TEST(Resize, IsMoved)
 {
     ResizeSettings effect(Scale(2.5));

@@ -200,6 +200,15 @@ TEST(Tile, ComparesEveryListInItsPlace)
     EXPECT_TRUE(TileSettings(2, 3) == TileSettings(2, 3));
 }
 
+// Unlike tiles, which ask the effects themselves.
+TEST(Tile, RowsAreEqualThatHoldTheVerySameEffects)
+{
+    const auto effect = Vibrance(1);
+    EXPECT_TRUE((TileSettings::Row{{{effect}, {}}}) == (TileSettings::Row{{{effect}, {}}}));
+    EXPECT_FALSE((TileSettings::Row{{{effect}, {}}}) == (TileSettings::Row{{{effect}}}));
+    EXPECT_FALSE(TileSettings::Row{{{effect}}} == TileSettings::Row{{{Vibrance(1)}}});
+}
+
 TEST(Tile, NullsAreEqualToNullsAlone)
 {
     TileSettings nulls(1, 1);

@@ -153,6 +153,17 @@ TEST(Transpose, IsMoved)
     EXPECT_EQ(Number(assigned.GetTypedSettings()), 3);
 }
 
+TEST(Transpose, IsAssigned)
+{
+    const PropertyTree form = Map({{"angle", "Angle_270"}, {"implName", "a name too long to be kept in place"}});
+    TransposeSettings effect;
+    effect.Deserialize(form);
+    TransposeSettings assigned;
+    assigned = effect;
+    EXPECT_EQ(StoredForm(assigned), form);
+    EXPECT_EQ(StoredForm(effect), form);
+}
+
 TEST(Transpose, OnlyTheRecordSaysThatItIsEmpty)
 {
     EXPECT_TRUE(TransposeSettings().GetTypedSettings().IsEmpty());

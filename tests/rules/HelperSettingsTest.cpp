@@ -134,6 +134,26 @@ TEST(HelperSettings, ComparesAsASerializable)
     EXPECT_THROW((void)(base == Other("HelperSettings")), std::bad_cast);
 }
 
+// A caller's own, which says so.
+class Renamed : public HelperSettings
+{
+public:
+    const std::string& GetClassId() const override
+    {
+        static const std::string classId{"Renamed"};
+        return classId;
+    }
+};
+
+TEST(HelperSettings, OtherClassIdsAreUnequalWhateverTheValues)
+{
+    const HelperSettings settings;
+    const HelperSettings& renamed = Renamed();
+    EXPECT_FALSE(settings == renamed);
+    EXPECT_FALSE(renamed == settings);
+    EXPECT_TRUE(renamed == Renamed());
+}
+
 TEST(HelperSettings, HasNoPropertyAccess)
 {
     HelperSettings settings;

@@ -151,6 +151,13 @@ TEST(Layers, AClassWithAFieldListStoresItself)
     EXPECT_FALSE(std::as_const(effect).GetPropertyAccess());
 }
 
+TEST(Layers, TheSchemaTellsWhatIsStored)
+{
+    EXPECT_EQ(PlainTwo::GetSchema(), nullptr);
+    EXPECT_EQ(ReflectedVar::GetSchema()->fields[0].key, "value");
+    EXPECT_EQ(StoresMembers::GetSchema()->fields[0].key, "own");
+}
+
 TEST(Layers, TheUntypedAddReachesTheTypedOne)
 {
     ReflectedVar effect;
