@@ -122,12 +122,8 @@ private:
         switch (scalar.kind())
         {
         case PropertyTreeScalar::Kind::Bool:
-        {
-            bool value = false;
-            scalar.convertTo(value);
-            m_out += value ? "true" : "false";
+            WriteBool(scalar);
             break;
-        }
         case PropertyTreeScalar::Kind::Integer:
             WriteDigits(scalar.toInt());
             break;
@@ -138,6 +134,13 @@ private:
             WriteText(scalar.toString());
             break;
         }
+    }
+
+    void WriteBool(const PropertyTreeScalar& scalar)
+    {
+        bool value = false;
+        scalar.convertTo(value);
+        m_out += value ? "true" : "false";
     }
 
     void WriteFloat(double value)
