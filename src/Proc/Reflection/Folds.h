@@ -64,13 +64,12 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
 
     // Neither the read nor the write is inlined: each would stand in the code twice, for callers with and without the record's
     // type. And the flag is asked for anew at each field: of what it knew beforehand the compiler would make two copies.
-    [[gnu::noinline]] static void Read(const ReadContext<Record>& context)
+    [[gnu::noinline]] static void Read([[maybe_unused]] Record& record, const PropertyTree::Map& source,
+                                       [[maybe_unused]] const ReadFlags* flags)
     {
         std::array<const PropertyTree*, List::SIZE> children;
-        FindChildren(SCHEMA, context.source, children.data());
+        FindChildren(SCHEMA, source, children.data());
         [[maybe_unused]] const Record& defaults = Reflected<Record>::Default();
-        [[maybe_unused]] Record& record = context.record;
-        [[maybe_unused]] const ReadFlags* flags = context.flags;
         (ReadOrReset<Descriptors>(children[Index], record, flags, defaults), ...);
     }
 
@@ -83,10 +82,9 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         }
     }
 
-    [[gnu::noinline]] static void Write(const WriteContext<Record>& context)
+    [[gnu::noinline]] static void Write([[maybe_unused]] const Record& record, PropertyTree::Map& target,
+                                        const WriteFlags* flags, std::size_t others)
     {
-        [[maybe_unused]] const Record& record = context.record;
-        const WriteFlags* flags = context.flags;
         std::array<bool, List::SIZE> isWritten;
         if (flags->omitDefaults)
         {
@@ -98,7 +96,7 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
             isWritten.fill(true);
         }
         std::array<PropertyTree*, List::SIZE> children;
-        WriteTargets targets(SCHEMA, context.target, context.others, isWritten.data(), children.data());
+        WriteTargets targets(SCHEMA, target, others, isWritten.data(), children.data());
         (WriteOrOmit<Descriptors>(children[Index], record, flags), ...);
         targets.Finish();
     }
@@ -111,12 +109,12 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
 
     static void ErasedRead(void* record, const PropertyTree::Map& source, const ReadFlags* flags)
     {
-        Read({*static_cast<Record*>(record), source, flags});
+        Read(*static_cast<Record*>(record), source, flags);
     }
 
     static void ErasedWrite(const void* record, PropertyTree::Map& target, const WriteFlags* flags)
     {
-        Write({*static_cast<const Record*>(record), target, flags});
+        Write(*static_cast<const Record*>(record), target, flags, 0);
     }
 
     static void ReadField([[maybe_unused]] std::size_t index, [[maybe_unused]] void* record,
@@ -164,12 +162,12 @@ template <class Record> const Record& Reflected<Record>::Default()
 
 template <class Record> void Reflected<Record>::Read(const ReadContext<Record>& context)
 {
-    ReflectedDetail::Folds<Record>::Read(context);
+    ReflectedDetail::Folds<Record>::Read(context.record, context.source, context.flags);
 }
 
 template <class Record> void Reflected<Record>::Write(const WriteContext<Record>& context)
 {
-    ReflectedDetail::Folds<Record>::Write(context);
+    ReflectedDetail::Folds<Record>::Write(context.record, context.target, context.flags, context.others);
 }
 
 template <class Record> bool Reflected<Record>::Equal(const Record& a, const Record& b)
