@@ -108,15 +108,20 @@ template <class... Descriptors> struct FieldList
     /// standard's algorithms than for all else that there is of a record.
     static constexpr std::array<SortedKey, SIZE> SORTED_KEYS = []
     {
-        std::array<SortedKey, SIZE> keys{};
+        std::array<std::uint16_t, SIZE> order{};
         for (std::size_t index = 0; index != SIZE; ++index)
         {
             std::size_t place = index;
-            for (; place != 0 && KEYS[index] < KEYS[keys[place - 1].index]; --place)
+            for (; place != 0 && KEYS[index] < KEYS[order[place - 1]]; --place)
             {
-                keys[place] = keys[place - 1];
+                order[place] = order[place - 1];
             }
-            keys[place] = SortedKey(KEYS[index], index);
+            order[place] = static_cast<std::uint16_t>(index);
+        }
+        std::array<SortedKey, SIZE> keys;
+        for (std::size_t place = 0; place != SIZE; ++place)
+        {
+            keys[place] = SortedKey(KEYS[order[place]], order[place]);
         }
         return keys;
     }();
