@@ -54,7 +54,7 @@ void Require(bool condition, std::string_view what, std::string_view found)
 {
     if (!condition)
     {
-        std::cerr << "FAILED: " << what << "\n" << found << std::endl;
+        std::cerr << "FAILED: " << what << "\n" << found << "\n";
         std::abort();
     }
 }

@@ -36,7 +36,7 @@ int main(int argc, char** argv)
     {
         for (const std::filesystem::path& path : FilesOf(argv[i]))
         {
-            std::cerr << path.filename().string() << std::endl; // the last that is named is the one at fault
+            std::cerr << path.filename().string() << "\n"; // the last that is named is the one at fault
             const std::string content = ContentOf(path);
             LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(content.data()), content.size());
             ++count;
