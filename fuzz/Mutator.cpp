@@ -7,10 +7,10 @@
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 #include <random>
 #include <string>
+#include <utility>
 
 // Changes stored effects by what their classes say of their fields, so that most inputs are trees that get far. Now and then
 // the text itself is changed, as libFuzzer does it.
@@ -46,7 +46,7 @@ public:
         }
         if (!input.isList() && IsOneIn(20))
         {
-            PropertyTree first = std::move(input);
+            PropertyTree first = std::exchange(input, {});
             input.append(std::move(first));
         }
         if (!input.isList())
@@ -323,16 +323,21 @@ private:
     std::minstd_rand m_random;
 };
 
-std::string Mutated(std::string_view text, Mutation& mutation)
+PropertyTree TreeOf(std::string_view text)
 {
-    PropertyTree tree;
     try
     {
-        tree = ReadJson(text, {.nonFiniteAsText = true});
+        return ReadJson(text, {.nonFiniteAsText = true});
     }
     catch (const JsonError&)
     {
+        return {}; // an effect takes its place
     }
+}
+
+std::string Mutated(std::string_view text, Mutation& mutation)
+{
+    PropertyTree tree = TreeOf(text);
     for (std::size_t count = mutation.Below(3) + 1; count > 0; --count)
     {
         mutation.ChangeInput(tree);
@@ -357,6 +362,6 @@ std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::s
     {
         return LLVMFuzzerMutate(data, size, maxSize);
     }
-    std::memcpy(data, text.data(), text.size());
+    std::ranges::copy(text, data);
     return text.size();
 }
