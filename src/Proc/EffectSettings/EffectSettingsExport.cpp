@@ -272,7 +272,7 @@ static_assert(CountOf(Registration::None) == 3);
 
 using Registry = std::map<std::string, IEffectSettings::Factory>;
 
-void Register(Registry& registry, const std::string& id, IEffectSettings::Factory factory)
+void Register(Registry& registry, const std::string& id, IEffectSettings::Factory&& factory)
 {
     if (!registry.try_emplace(id, std::move(factory)).second)
     {

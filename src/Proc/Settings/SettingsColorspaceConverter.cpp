@@ -29,7 +29,7 @@ template <> struct Fields<SettingsColorspaceConverter>
     }
 
     // The record has no way to empty its list, so that a second read extends what the first one left.
-    static void AddFormats(R& record, std::vector<PixFmt> formats)
+    static void AddFormats(R& record, const std::vector<PixFmt>& formats)
     {
         for (const PixFmt format : formats)
         {
