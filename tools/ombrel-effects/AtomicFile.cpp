@@ -4,8 +4,8 @@
 
 #include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <memory>
+#include <system_error>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -23,7 +23,7 @@ namespace
 
 std::string LastError()
 {
-    return std::strerror(errno);
+    return std::generic_category().message(errno);
 }
 
 std::string TargetOf(const std::string& file)

@@ -210,7 +210,7 @@ private:
     std::string Kind(const ValueSchema& value, bool isMany) const
     {
         const KindNames names = NamesOf(value.kind);
-        const std::string name = isMany ? names.many : names.one;
+        std::string name = isMany ? names.many : names.one;
         if (value.element)
         {
             return name + " of " + Kind(*value.element, true);

@@ -5,8 +5,8 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <memory>
+#include <system_error>
 
 namespace Ombrel::EffectsTool
 {
@@ -45,7 +45,8 @@ std::string ReadTextFile(const std::string& file)
     std::string text = stream ? ReadAll(stream) : std::string();
     if (!stream || std::ferror(stream))
     {
-        throw ToolError(ExitCode::UsageOrFile, NameOfFile(file) + ": cannot be read: " + std::strerror(errno));
+        throw ToolError(ExitCode::UsageOrFile,
+                        NameOfFile(file) + ": cannot be read: " + std::generic_category().message(errno));
     }
     return text;
 }
@@ -55,7 +56,7 @@ void WriteTextFile(const std::string& file, std::string_view text)
     const Stream stream = Open(file, "wb");
     if (!stream || std::fwrite(text.data(), 1, text.size(), stream.get()) != text.size() || std::fflush(stream.get()) != 0)
     {
-        throw ToolError(ExitCode::UsageOrFile, file + ": cannot be written: " + std::strerror(errno));
+        throw ToolError(ExitCode::UsageOrFile, file + ": cannot be written: " + std::generic_category().message(errno));
     }
 }
 

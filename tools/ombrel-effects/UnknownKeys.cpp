@@ -86,7 +86,7 @@ bool UnknownKeys::IsKnown(const Path& place, const std::string& pattern)
 bool UnknownKeys::DoesAnyValueMatter(const Path& place)
 {
     PropertyTree& value = *Find(m_element, place);
-    PropertyTree kept = std::move(value);
+    PropertyTree kept = std::exchange(value, {});
     const std::vector<PropertyTree> trials = TrialValues();
     const bool matters = std::ranges::any_of(trials,
                                              [&](const PropertyTree& trial)

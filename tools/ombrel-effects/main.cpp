@@ -8,10 +8,10 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
-#include <cstring>
 #include <functional>
 #include <iostream>
 #include <string>
+#include <system_error>
 
 namespace Ombrel::EffectsTool
 {
@@ -130,7 +130,7 @@ void Print(const std::string& text)
 {
     if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() || std::fflush(stdout) != 0)
     {
-        throw ToolError(ExitCode::UsageOrFile, std::string("<stdout>: cannot be written: ") + std::strerror(errno));
+        throw ToolError(ExitCode::UsageOrFile, "<stdout>: cannot be written: " + std::generic_category().message(errno));
     }
 }
 
@@ -182,6 +182,7 @@ int Run(const Arguments& arguments)
 } // namespace
 } // namespace Ombrel::EffectsTool
 
+// NOLINTNEXTLINE(bugprone-exception-escape): what the set-up throws is a mistake in it, which every run would show
 int main(int argc, char** argv)
 {
     using namespace Ombrel::EffectsTool;
