@@ -36,7 +36,7 @@ TEST(Acid, ComparesExactly)
     EXPECT_FALSE(a.IsEqualTo(b));
     a.sigma = b.sigma = std::nan("");
     EXPECT_FALSE(a == b);
-    EXPECT_FALSE(a == a); // NOLINT: a NaN makes a record unlike itself
+    EXPECT_FALSE(a == a); // NOLINT(misc-redundant-expression): a NaN makes a record unlike itself
 }
 
 TEST(ColorBalance, HueIsBroughtIntoOneTurn)

@@ -10,7 +10,6 @@ namespace
 {
 
 using Ombrel::PhotoCore::DreamscopeSettings;
-using Ombrel::Proc::SettingsEffectDreamscope;
 using Support::Map;
 using Support::StoredForm;
 

@@ -83,7 +83,7 @@ TEST(FaceThinning, ComparesOutlineAndStrengthExactly)
     EXPECT_FALSE(AreEqual(a, b));
     a.GetTypedSettings().m_strength = b.GetTypedSettings().m_strength = std::nan("");
     EXPECT_FALSE(AreEqual(a, b));
-    EXPECT_FALSE(a == a); // NOLINT: a NaN makes an effect unlike itself
+    EXPECT_FALSE(a == a); // NOLINT(misc-redundant-expression): a NaN makes an effect unlike itself
 }
 
 TEST(EyeExtending, IsEmptyUnlessBothEyesHaveAContour)
@@ -143,7 +143,7 @@ TEST(EyeExtending, ComparesBothEyesAndTheStrengthExactly)
     }
     EyeExtendingSettings nan;
     nan.GetTypedSettings().m_strength = std::nan("");
-    EXPECT_FALSE(nan == nan); // NOLINT: a NaN makes an effect unlike itself
+    EXPECT_FALSE(nan == nan); // NOLINT(misc-redundant-expression): a NaN makes an effect unlike itself
 }
 
 TEST(AutoGlareRemove, IsEmptyByItsFace)
