@@ -49,6 +49,7 @@ FaceItem::FaceItem() = default;
 
 FaceItem::FaceItem(const FaceItem& other) : face(other.face), effect(CloneOf(other.effect)) {}
 
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): what is told below serves that as well
 FaceItem& FaceItem::operator=(const FaceItem& other)
 {
     // The clone first and the old effect last: `other` may stand inside the old effect.

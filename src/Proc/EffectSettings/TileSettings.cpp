@@ -101,7 +101,7 @@ TileSettings::TileSettings(std::uint64_t width, std::uint64_t height)
     SetSize(width, height);
 }
 
-// The base is made anew: implementation name and helper settings are not copied.
+// NOLINTNEXTLINE(bugprone-copy-constructor-init): the base is made anew, its implementation name and helper settings not copied
 TileSettings::TileSettings(const TileSettings& other) : EffectSettingsReflection()
 {
     CopyFrom(other);
