@@ -53,7 +53,6 @@ namespace
 using namespace Ombrel::Proc;
 using namespace Samples;
 using Ombrel::PropertyTree;
-using Support::List;
 using Support::Map;
 
 const RecordSchema& EverythingSchema()

@@ -21,7 +21,6 @@ namespace
 {
 
 using namespace Ombrel::PhotoCore;
-using Ombrel::PropertyTree;
 using Support::Map;
 
 constexpr std::int32_t LEAST = std::numeric_limits<std::int32_t>::min();

@@ -10,7 +10,6 @@ namespace
 {
 
 using testing::HasSubstr;
-using testing::StartsWith;
 
 using ToolUsage = ToolTest;
 using ToolInput = ToolTest;
