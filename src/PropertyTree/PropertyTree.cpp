@@ -227,7 +227,8 @@ PropertyTree& PropertyTree::operator=(PropertyTree&& other) noexcept
 
 void PropertyTree::swap(PropertyTree& other) noexcept
 {
-    PropertyTree held(std::move(other));
+    PropertyTree held;
+    held.Take(other);
     other.Take(*this);
     Take(held);
 }

@@ -29,8 +29,9 @@ PropertyTreeMap::Root* PropertyTreeMap::Root::Make(size_type capacity)
 {
     constexpr size_type bytesPerEntry =
         sizeof(value_type) + sizeof(std::uint64_t) + sizeof(value_type*) + sizeof(Leaf); // or less
-    if (capacity > std::numeric_limits<difference_type>::max() / bytesPerEntry - bytesPerEntry ||
-        capacity > std::numeric_limits<std::uint32_t>::max())
+    constexpr size_type most = std::min<size_type>(std::numeric_limits<difference_type>::max() / bytesPerEntry - bytesPerEntry,
+                                                   std::numeric_limits<std::uint32_t>::max());
+    if (capacity > most)
     {
         throw std::length_error("tree: a map of so many entries cannot be");
     }

@@ -45,7 +45,7 @@ PropertyTreeMap::Index* PropertyTreeMap::Index::Make(Root& root, size_type count
     {
         return MakeInRoom(root);
     }
-    return MakeBeside(root, count <= root.capacity ? root.capacity : std::max<size_type>(count, 2 * root.capacity));
+    return MakeBeside(root, count <= root.capacity ? root.capacity : std::max(count, size_type{2} * root.capacity));
 }
 
 PropertyTreeMap::Index* PropertyTreeMap::Index::MakeInRoom(Root& root) noexcept
