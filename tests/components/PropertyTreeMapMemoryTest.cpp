@@ -220,6 +220,22 @@ TEST(PropertyTreeMapMemory, AnEmptiedMapReservesWhatItLacks)
     }
 }
 
+// In rising and in falling order the map makes no room that stays empty.
+TEST(PropertyTreeMapMemory, KeysInOrderFillWhatIsMadeForThem)
+{
+    for (const bool isRising : {true, false})
+    {
+        constexpr int count = 20'000;
+        Map map;
+        const std::size_t before = Support::HeldMemory();
+        for (int i = 0; i < count; ++i)
+        {
+            map[std::to_string(100'000 + (isRising ? i : count - i))];
+        }
+        EXPECT_LT(Support::HeldMemory() - before, count * (sizeof(Map::value_type) + 32)) << isRising;
+    }
+}
+
 // A key that comes in between and one that comes last, while each allocation in turn is refused.
 TEST(PropertyTreeMapMemory, AFailedInsertLeavesAllAsItWas)
 {
@@ -369,6 +385,7 @@ TEST(PropertyTreeMapMemory, ReserveIsAllOrNothing)
                           map[key] = 2;
                       }
                       map.reserve(10);
+                      map.reserve(20);
                   }),
               0u);
     EXPECT_EQ(map.size(), 20u);
