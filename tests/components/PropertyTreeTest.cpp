@@ -1,4 +1,5 @@
 #include "PropertyTree/PropertyTree.h"
+#include "support/FailingMemory.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
@@ -192,6 +193,44 @@ TEST(PropertyTree, AppendAddsAtTheEnd)
     EXPECT_EQ(tree, List({1, "two"}));
     tree.append(tree);
     EXPECT_EQ(tree, List({1, "two", List({1, "two"})}));
+}
+
+TEST(PropertyTree, SwapExchangesAnyTwoStates)
+{
+    const PropertyTree states[] = {PropertyTree(), 5, "a text that does not fit into the string itself", List({1}),
+                                   Map({{"a", 2}})};
+    for (const PropertyTree& a : states)
+    {
+        for (const PropertyTree& b : states)
+        {
+            PropertyTree left = a;
+            PropertyTree right = b;
+            left.swap(right);
+            EXPECT_EQ(left, b);
+            EXPECT_EQ(right, a);
+            swap(left, right);
+            EXPECT_EQ(left, a);
+            EXPECT_EQ(right, b);
+        }
+        PropertyTree tree = a;
+        tree.swap(tree);
+        EXPECT_EQ(tree, a);
+    }
+}
+
+// What stands deeper than recursion goes has siblings, in maps as in lists.
+TEST(PropertyTree, ADeepBushIsGivenBackWhole)
+{
+    const std::size_t before = Support::HeldMemory();
+    for (const bool isList : {true, false})
+    {
+        PropertyTree tree("the innermost");
+        for (int level = 0; level < 100; ++level)
+        {
+            tree = isList ? List({level, std::move(tree), level}) : Map({{"a", level}, {"k", std::move(tree)}, {"z", level}});
+        }
+    }
+    EXPECT_EQ(Support::HeldMemory(), before);
 }
 
 TEST(PropertyTree, EqualityLooksAtEveryLevel)
