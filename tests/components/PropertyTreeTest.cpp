@@ -250,4 +250,26 @@ TEST(PropertyTree, EqualityLooksAtEveryLevel)
     EXPECT_TRUE(PropertyTree() == PropertyTree());
 }
 
+PropertyTree Nested(int depth, PropertyTree innermost, bool isList)
+{
+    for (int level = 0; level < depth; ++level)
+    {
+        innermost = isList ? List({std::move(innermost)}) : Map({{"k", std::move(innermost)}});
+    }
+    return innermost;
+}
+
+TEST(PropertyTree, EqualityLooksAsDeepAsATreeIs)
+{
+    for (const int depth : {31, 32, 33, 64, 100})
+    {
+        for (const bool isList : {true, false})
+        {
+            EXPECT_TRUE(Nested(depth, 1, isList) == Nested(depth, 1, isList)) << depth;
+            EXPECT_FALSE(Nested(depth, 1, isList) == Nested(depth, 2, isList)) << depth;
+            EXPECT_FALSE(Nested(depth, 1, isList) == Nested(depth + 1, 1, isList)) << depth;
+        }
+    }
+}
+
 } // namespace
