@@ -196,30 +196,6 @@ TEST(PropertyTreeMapMemory, ErasedEntriesLeaveTheirRoom)
               1u); // the index
 }
 
-TEST(PropertyTreeMapMemory, AnEmptiedMapReservesWhatItLacks)
-{
-    Map map;
-    map.reserve(4);
-    map["a"] = 1;
-    map.erase("a");
-    EXPECT_EQ(AllocationsOf([&] { map.reserve(4); }), 0u);
-    EXPECT_EQ(AllocationsOf([&] { map.reserve(5); }), 1u);
-
-    map["b"] = 1;
-    map["a"] = 1; // out of order
-    map.erase("a");
-    map.erase("b");
-    map.reserve(4);
-    for (const char* key : {"a", "b", "c", "d"})
-    {
-        map[key] = 2;
-    }
-    for (auto entry = map.begin(); std::next(entry) != map.end(); ++entry)
-    {
-        EXPECT_EQ(&*std::next(entry), &*entry + 1) << entry->first; // side by side
-    }
-}
-
 // In rising and in falling order the map makes no room that stays empty.
 TEST(PropertyTreeMapMemory, KeysInOrderFillWhatIsMadeForThem)
 {
