@@ -4,6 +4,8 @@
 #include "PropertyTree/KeyHead.h"
 #include "PropertyTree/PropertyTreeMapIndex.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <new>
 #include <string_view>
@@ -49,7 +51,7 @@ public:
     PropertyTree& AppendShort(const char* text, std::size_t size, std::uint64_t head)
     {
         auto& [key, child] = m_root->Append(head, m_root->size, text, SHORT_KEY);
-        const_cast<std::string&>(key).resize(size <= SHORT_KEY ? size : SHORT_KEY);
+        const_cast<std::string&>(key).resize(std::min(size, SHORT_KEY)); // so that it is seen not to grow
         return child;
     }
 

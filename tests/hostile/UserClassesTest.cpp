@@ -262,6 +262,28 @@ TEST(UserClasses, WhatIsWrittenAsNoMapHasNoRoomForAName)
     EXPECT_EQ(NamedForm(Make({.serialize = [](PropertyTree& tree) { tree = PropertyTree(); }})), Map({{"name", "userEffect"}}));
 }
 
+TEST(UserClasses, TheNameFindsItsPlaceInWhateverIsWritten)
+{
+    const auto named = [](auto serialize) { return NamedForm(Make({.serialize = serialize})); };
+    EXPECT_EQ(named([](PropertyTree& tree) { tree["name"] = "another"; }), Map({{"name", "userEffect"}}));
+    EXPECT_EQ(named([](PropertyTree& tree) { tree.makeMap(1)["radius"] = 1; }), Map({{"name", "userEffect"}, {"radius", 1}}));
+    const auto outOfOrder = [](PropertyTree& tree)
+    {
+        tree["radius"] = 1;
+        tree["blur"] = 2;
+    };
+    EXPECT_EQ(named(outOfOrder), Map({{"blur", 2}, {"name", "userEffect"}, {"radius", 1}}));
+    const auto withGap = [](PropertyTree& tree)
+    {
+        for (const char* key : {"blur", "radius", "sigma"})
+        {
+            tree[key] = 3;
+        }
+        tree.getMap().erase("radius"); // where the name would move it
+    };
+    EXPECT_EQ(named(withGap), Map({{"blur", 3}, {"name", "userEffect"}, {"sigma", 3}}));
+}
+
 // Keeps what stands in the tree.
 class Adding : public UserEffect
 {
