@@ -116,6 +116,12 @@ TEST(PropertyTreeMapMemory, AnEntryOutOfOrderMakesASecondBlockOnce)
                   }),
               2u);
     EXPECT_EQ(tree, Support::Map({{"alpha", 3}, {"blur", 1}, {"name", "EFFECT"}, {"radius", 2}}));
+
+    Map full;
+    full.reserve(2);
+    full["b"] = 1;
+    full["c"] = 2;
+    EXPECT_EQ(AllocationsOf([&] { full["a"] = 3; }), 1u); // the index and a slot
 }
 
 TEST(PropertyTreeMapMemory, ALongKeyIsOneMore)
