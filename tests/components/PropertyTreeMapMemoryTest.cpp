@@ -202,6 +202,39 @@ TEST(PropertyTreeMapMemory, ErasedEntriesLeaveTheirRoom)
               1u); // the index
 }
 
+// What stays of many entries stands together, so that others find the room.
+TEST(PropertyTreeMapMemory, ThinnedOutEntriesLeaveTheirRoom)
+{
+    constexpr int count = 10'000;
+    const auto keyOf = [](int number) { return std::to_string(100'000 + number); };
+    for (const bool isRising : {true, false})
+    {
+        Map map;
+        for (int i = 0; i < count; ++i)
+        {
+            map[keyOf(i)];
+        }
+        for (int i = 0; i < count; ++i)
+        {
+            const int erased = isRising ? i : count - 1 - i;
+            if (erased % 250 != 0)
+            {
+                map.erase(keyOf(erased));
+            }
+        }
+        ASSERT_EQ(map.size(), 40u);
+        const auto insert = [&]
+        {
+            for (int i = 0; i < 8'000; ++i)
+            {
+                map[keyOf(count + i)];
+            }
+        };
+        EXPECT_EQ(AllocationsOf(insert), 0u) << isRising;
+        EXPECT_EQ(map.size(), 8'040u);
+    }
+}
+
 // In rising and in falling order the map makes no room that stays empty.
 TEST(PropertyTreeMapMemory, KeysInOrderFillWhatIsMadeForThem)
 {
