@@ -392,6 +392,7 @@ TEST(PropertyTreeMapMemory, ReserveIsAllOrNothing)
     const PropertyTree* child = &map.at("a");
     EXPECT_EQ(AllocationsOf([&] { map.reserve(20); }), 1u);
     EXPECT_EQ(&map.at("a"), child);
+    EXPECT_EQ(std::distance(map.begin(), map.end()), 1);
     EXPECT_EQ(AllocationsOf(
                   [&]
                   {
