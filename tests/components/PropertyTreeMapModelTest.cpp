@@ -246,24 +246,6 @@ TEST(PropertyTreeMapGaps, HoldWhatStdMapHolds)
     }
 }
 
-TEST(PropertyTreeMapGaps, AreNotCopiedWithATree)
-{
-    PropertyTree tree;
-    PropertyTree::Map& map = tree.makeMap(4);
-    for (const char* key : {"a", "b", "c", "d"})
-    {
-        map[key] = key;
-    }
-    map.erase("a");
-    map.erase("c");
-    PropertyTree copy = tree;
-    EXPECT_EQ(copy, Support::Map({{"b", "b"}, {"d", "d"}}));
-    EXPECT_EQ(copy, tree);
-    EXPECT_TRUE(copy["c"].isNull());
-    EXPECT_TRUE(tree["c"].isNull());
-    EXPECT_EQ(copy, tree);
-}
-
 enum class Order
 {
     Rising,
