@@ -26,8 +26,8 @@ class PropertyTree;
 ///
 /// The entries stand side by side in one block as long as they come in key order and there is room for them, so that such a
 /// map costs one allocation, beside one for each key of more characters than a `std::string` keeps in itself (15 on
-/// libstdc++). An empty map costs none. The memory of erased entries is kept for further ones; it is given back by `clear` and
-/// by destroying the map.
+/// libstdc++). An empty map costs none. The memory of erased entries, in a small map with their keys, is kept for further ones;
+/// it is given back by `clear` and by destroying the map.
 ///
 /// Of n entries, finding one costs O(log n); inserting behind the last and erasing it O(1); inserting and erasing elsewhere
 /// O(log n) and the shift of a few hundred pointers, the first time O(n); copying, comparing and clearing O(n).
@@ -166,7 +166,7 @@ public:
 
     /// Makes room for `count` entries in one block, in an empty map for exactly so many: they will then cost no allocation
     /// beside their keys, if they come in key order. On a map that has entries it is a hint.
-    /// @throws std::length_error if so many can never be held
+    /// @throws std::length_error for more than 2^32 - 1 in an empty map, or what no memory could hold
     void reserve(size_type count);
 
     /// The entry under `key`, or `end()`.
