@@ -11,21 +11,25 @@ namespace Ombrel::Proc
 namespace
 {
 
-// Of a key with the same head. Few have more than 15 characters, for which a call of `memcmp` would take longer than the rest
-// of a step.
-bool IsKey(const std::string& text, const SortedKey& key, const FieldSchema* fields)
+// Of two keys with the same head. What follows the head is compared by words, a load for each, of which the last overlaps with
+// the one before: no key is so long that a call would be made up for.
+bool IsKey(std::string_view text, const SortedKey& key, const FieldSchema* fields)
 {
-    constexpr std::size_t headSize = sizeof(key.head);
-    if (text.size() != key.size || key.size <= headSize)
+    constexpr std::size_t word = sizeof(key.head);
+    if (text.size() != key.size || key.size <= word)
     {
         return text.size() == key.size;
     }
-    if (key.size <= SHORT_KEY)
+    const char* const wanted = fields[key.index].key.data();
+    const std::size_t last = key.size - word;
+    for (std::size_t place = word; place < last; place += word)
     {
-        const std::size_t last = key.size - headSize;                                // overlaps with the head
-        return std::memcmp(text.data() + last, key.beginning + last, headSize) == 0; // two loads
+        if (std::memcmp(text.data() + place, wanted + place, word) != 0)
+        {
+            return false;
+        }
     }
-    return text == fields[key.index].key;
+    return std::memcmp(text.data() + last, wanted + last, word) == 0;
 }
 
 } // namespace
@@ -33,12 +37,12 @@ bool IsKey(const std::string& text, const SortedKey& key, const FieldSchema* fie
 void FindChildren(const RecordSchema& schema, const PropertyTree::Map& source, const PropertyTree** children)
 {
     const std::span fields = schema.fields;
-    std::fill_n(children, fields.size(), nullptr);
-    const auto merge = [&schema, fields, children](auto walk)
+    const SortedKey* rest = schema.sortedKeys;
+    const SortedKey* const end = rest + fields.size();
+    const auto merge = [&rest, end, fields, children](auto walk)
     {
-        const SortedKey* key = schema.sortedKeys;
-        const SortedKey* const endKey = key + fields.size();
-        while (!walk.IsAtEnd() && key != endKey)
+        const SortedKey* key = rest;
+        while (!walk.IsAtEnd() && key != end)
         {
             const std::uint64_t head = walk.Head();
             bool isBefore = head < key->head;
@@ -60,11 +64,17 @@ void FindChildren(const RecordSchema& schema, const PropertyTree::Map& source, c
             }
             else
             {
+                children[key->index] = nullptr;
                 ++key;
             }
         }
+        rest = key;
     };
     PropertyTreeMapWalk::Through(source, merge);
+    for (; rest != end; ++rest)
+    {
+        children[rest->index] = nullptr;
+    }
 }
 
 WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, bool* isWritten,
