@@ -19,6 +19,13 @@ struct Stubborn
     int Refuse() const { throw std::logic_error("no value"); }
 };
 
+// Its second key takes memory, and nothing else does.
+struct LongKeyLast
+{
+    int m_first = 0;
+    int m_lastOfMoreThanFifteenCharacters = 0;
+};
+
 } // namespace
 
 namespace Ombrel::Proc
@@ -29,6 +36,12 @@ template <> struct Fields<Stubborn>
     using R = Stubborn;
     using List = FieldList<AccessorDescriptor<"m", &R::Set, &R::Get>, AccessorDescriptor<"z", &R::Set, &R::Get>,
                            AccessorDescriptor<"a", &R::Set, &R::Refuse>, AccessorDescriptor<"b", &R::Set, &R::Get>>;
+};
+
+template <> struct Fields<LongKeyLast>
+{
+    using R = LongKeyLast;
+    using List = FieldList<FieldDescriptor<&R::m_first>, FieldDescriptor<&R::m_lastOfMoreThanFifteenCharacters>>;
 };
 
 } // namespace Ombrel::Proc
@@ -229,6 +242,30 @@ TEST(Folds, AWriteWithoutMemoryLeavesNoEmptyFields)
         }
     }
     EXPECT_GT(successes, 10u);
+}
+
+TEST(Folds, AWriteWithoutMemoryForAKeyLeavesTheMapAsItWas)
+{
+    const LongKeyLast record{1, 2};
+    for (const PropertyTree& before : {Map({}), Map({{"zero", 0}})})
+    {
+        std::size_t successes = 0;
+        for (bool isDone = false; !isDone; ++successes)
+        {
+            PropertyTree tree = before;
+            try
+            {
+                const Support::FailingMemory failing(successes, Support::FailingMemory::Mode::Once);
+                Write(record, tree);
+                isDone = true;
+            }
+            catch (const std::bad_alloc&)
+            {
+                EXPECT_EQ(tree, before) << successes;
+            }
+        }
+        EXPECT_GE(successes, 3u) << "neither the room nor the key failed";
+    }
 }
 
 TEST(Folds, AFailureStopsWhereItStands)
