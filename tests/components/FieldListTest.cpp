@@ -22,6 +22,7 @@ template <class T> struct Outer
         int m_m_twice = 0;
         int RInternal = 0;
         int model64Bit = 0;
+        int azAZ09 = 0;
     };
 };
 
@@ -58,6 +59,7 @@ TEST(FieldDescriptor, TakesItsKeyFromTheMember)
     EXPECT_EQ(FieldDescriptor<&Nested::m_m_twice>::KEY, "m_twice");
     EXPECT_EQ(FieldDescriptor<&Nested::RInternal>::KEY, "RInternal");
     EXPECT_EQ(FieldDescriptor<&Nested::model64Bit>::KEY, "model64Bit");
+    EXPECT_EQ(FieldDescriptor<&Nested::azAZ09>::KEY, "azAZ09");
     EXPECT_EQ(FieldDescriptor<&Nested::m_inherited>::KEY, "inherited");
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
 #include <new>
 
@@ -11,6 +12,7 @@ namespace
 {
 
 constexpr std::size_t UNLIMITED = std::numeric_limits<std::size_t>::max();
+constexpr std::size_t FILLED = 1 << 20; // of larger memory, so much; a test may ask for more than it touches
 
 thread_local std::size_t t_successesLeft = UNLIMITED;
 thread_local bool t_onlyOnce = false;
@@ -39,6 +41,7 @@ void* Allocate(std::size_t size)
     {
         t_held += malloc_usable_size(memory);
         t_peak = std::max(t_peak, t_held);
+        std::memset(memory, 0xA5, std::min(size, FILLED)); // fresh pages are zero, which hides that nothing was written there
         return memory;
     }
     throw std::bad_alloc();

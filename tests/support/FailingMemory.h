@@ -7,7 +7,8 @@ namespace Support
 {
 
 /// While it lives, allocations of its thread throw `std::bad_alloc`: all but the first `successes`, or only the one after
-/// those. A program that uses it replaces the global `operator new`.
+/// those. A program that uses it replaces the global `operator new`, by one that fills memory so that nothing in it is zero by
+/// chance.
 class FailingMemory
 {
 public:
