@@ -22,11 +22,12 @@ enum class Shape
     Mixed,
     WithSiblings, // each level has children on both sides of the deep one
     Zigzag,       // the deep child is now the first and now the last
+    Branching,    // behind the deep child stands another that has a child
 };
 
 void PrintTo(Shape shape, std::ostream* out)
 {
-    constexpr const char* names[] = {"lists", "maps", "mixed", "with siblings", "zigzag"};
+    constexpr const char* names[] = {"lists", "maps", "mixed", "with siblings", "zigzag", "branching"};
     *out << names[static_cast<int>(shape)];
 }
 
@@ -38,7 +39,17 @@ bool IsListLevel(Shape shape, int level)
 PropertyTree Wrap(PropertyTree inner, Shape shape, int level)
 {
     const bool hasFirst = shape == Shape::WithSiblings || (shape == Shape::Zigzag && level % 2 == 0);
-    const bool hasLast = shape == Shape::WithSiblings || (shape == Shape::Zigzag && level % 2 != 0);
+    const bool hasLast =
+        shape == Shape::WithSiblings || shape == Shape::Branching || (shape == Shape::Zigzag && level % 2 != 0);
+    PropertyTree last;
+    if (shape == Shape::Branching)
+    {
+        last.append(level);
+    }
+    else
+    {
+        last = level;
+    }
     PropertyTree outer;
     if (IsListLevel(shape, level))
     {
@@ -49,7 +60,7 @@ PropertyTree Wrap(PropertyTree inner, Shape shape, int level)
         outer.append(std::move(inner));
         if (hasLast)
         {
-            outer.append(level);
+            outer.append(std::move(last));
         }
         return outer;
     }
@@ -60,7 +71,7 @@ PropertyTree Wrap(PropertyTree inner, Shape shape, int level)
     outer["k"] = std::move(inner);
     if (hasLast)
     {
-        outer["z"] = level;
+        outer["z"] = std::move(last);
     }
     return outer;
 }
@@ -99,7 +110,8 @@ TEST_P(PropertyTreeDepth, NeedsNoStackAndDestroyingNoMemory)
 }
 
 INSTANTIATE_TEST_SUITE_P(Shapes, PropertyTreeDepth,
-                         testing::Values(Shape::Lists, Shape::Maps, Shape::Mixed, Shape::WithSiblings, Shape::Zigzag));
+                         testing::Values(Shape::Lists, Shape::Maps, Shape::Mixed, Shape::WithSiblings, Shape::Zigzag,
+                                         Shape::Branching));
 
 TEST(PropertyTreeWide, DestroyingABushNeedsNoMemory)
 {
