@@ -66,7 +66,7 @@ function(ombrel_install_library name)
   install(FILES ${PROJECT_BINARY_DIR}/${OMBREL_PC_NAME}.pc DESTINATION ${OMBREL_PKGCONFIG_DIR})
 endfunction()
 
-install(FILES ${PROJECT_SOURCE_DIR}/src/Export.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Ombrel)
+install(FILES ${PROJECT_SOURCE_DIR}/src/OmbrelExport.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Ombrel)
 ombrel_install_library(EffectSettings
   DESCRIPTION "${PROJECT_DESCRIPTION}"
   FOLDERS Conf Exception PhotoUtil Proc PropertyTree

@@ -1,7 +1,7 @@
 #ifndef OMBREL_EXCEPTION_EXCEPTION_H
 #define OMBREL_EXCEPTION_EXCEPTION_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 
 // Boost's types must be visible, or what is attached to an exception is lost when it crosses into another library.
 #pragma GCC visibility push(default)

@@ -1,7 +1,7 @@
 #ifndef OMBREL_PHOTO_UTIL_I_SERIALIZABLE_H
 #define OMBREL_PHOTO_UTIL_I_SERIALIZABLE_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "PhotoUtil/ISerializableBase.h"
 
 namespace Ombrel::PhotoUtil

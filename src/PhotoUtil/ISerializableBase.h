@@ -1,7 +1,7 @@
 #ifndef OMBREL_PHOTO_UTIL_I_SERIALIZABLE_BASE_H
 #define OMBREL_PHOTO_UTIL_I_SERIALIZABLE_BASE_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 
 #include <memory>
 #include <string>

@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROC_IMPL_NAMES_H
 #define OMBREL_PROC_IMPL_NAMES_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 
 #include <string>
 

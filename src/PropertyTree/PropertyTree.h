@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROPERTY_TREE_PROPERTY_TREE_H
 #define OMBREL_PROPERTY_TREE_PROPERTY_TREE_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "PropertyTree/PropertyTreeMap.h"
 #include "PropertyTree/PropertyTreeScalar.h"
 

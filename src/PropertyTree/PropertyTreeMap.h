@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROPERTY_TREE_PROPERTY_TREE_MAP_H
 #define OMBREL_PROPERTY_TREE_PROPERTY_TREE_MAP_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROPERTY_TREE_PROPERTY_TREE_SCALAR_H
 #define OMBREL_PROPERTY_TREE_PROPERTY_TREE_SCALAR_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 
 #include <bit>
 #include <concepts>

@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROPERTY_TREE_JSON_PROPERTY_TREE_JSON_H
 #define OMBREL_PROPERTY_TREE_JSON_PROPERTY_TREE_JSON_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "PropertyTree/PropertyTree.h"
 
 #include <cstddef>

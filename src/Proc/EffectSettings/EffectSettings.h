@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_H
 #define OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "Proc/EffectSettings/HelperSettings.h"
 #include "Proc/EffectSettings/IEffectSettings.h"
 

@@ -2,7 +2,7 @@
 #define OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_EXPORT_H
 
 #include "Exception/Exception.h"
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "Proc/EffectSettings/IEffectSettings.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROC_EFFECT_SETTINGS_HELPER_SETTINGS_H
 #define OMBREL_PROC_EFFECT_SETTINGS_HELPER_SETTINGS_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "PhotoUtil/ISerializable.h"
 
 #include <cstdint>

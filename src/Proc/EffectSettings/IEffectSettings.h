@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROC_EFFECT_SETTINGS_I_EFFECT_SETTINGS_H
 #define OMBREL_PROC_EFFECT_SETTINGS_I_EFFECT_SETTINGS_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "PhotoUtil/ISerializableBase.h"
 #include "Proc/Settings/StoredKeys.h"
 

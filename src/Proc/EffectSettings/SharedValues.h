@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROC_EFFECT_SETTINGS_SHARED_VALUES_H
 #define OMBREL_PROC_EFFECT_SETTINGS_SHARED_VALUES_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "Proc/Settings/PixFmt.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROC_REFLECTION_CODEC_H
 #define OMBREL_PROC_REFLECTION_CODEC_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "Proc/Reflection/Context.h"
 #include "Proc/Reflection/EnumNameTable.h"
 #include "Proc/Reflection/Schema.h"

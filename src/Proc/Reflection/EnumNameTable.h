@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROC_REFLECTION_ENUM_NAME_TABLE_H
 #define OMBREL_PROC_REFLECTION_ENUM_NAME_TABLE_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 
 #include <cstdint>
 #include <span>

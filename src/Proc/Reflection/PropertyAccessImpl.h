@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROC_REFLECTION_PROPERTY_ACCESS_IMPL_H
 #define OMBREL_PROC_REFLECTION_PROPERTY_ACCESS_IMPL_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "PhotoUtil/ISerializableBase.h"
 #include "Proc/Reflection/Reflected.h"
 

@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROC_REFLECTION_SCHEMA_H
 #define OMBREL_PROC_REFLECTION_SCHEMA_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "Proc/Reflection/Context.h"
 #include "PropertyTree/KeyHead.h"
 

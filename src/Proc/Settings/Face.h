@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROC_SETTINGS_FACE_H
 #define OMBREL_PROC_SETTINGS_FACE_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 
 #include <array>
 #include <cstddef>

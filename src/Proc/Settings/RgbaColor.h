@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROC_SETTINGS_RGBA_COLOR_H
 #define OMBREL_PROC_SETTINGS_RGBA_COLOR_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 
 #include <cstdint>
 #include <string>

@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROC_SETTINGS_RGBA_COLOR_CODEC_H
 #define OMBREL_PROC_SETTINGS_RGBA_COLOR_CODEC_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "Proc/Reflection/Codec.h"
 #include "Proc/Settings/RgbaColor.h"
 

@@ -1,7 +1,7 @@
 #ifndef OMBREL_PROC_SETTINGS_SETTINGS_H
 #define OMBREL_PROC_SETTINGS_SETTINGS_H
 
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "Proc/Settings/StoredKeys.h"
 
 #include <string>

@@ -3,7 +3,7 @@
 
 #include "Failure.h"
 
-#include "Export.h"
+#include "OmbrelExport.h"
 #include "Proc/EffectSettings/IEffectSettings.h"
 
 #include <cstdint>
