@@ -75,7 +75,7 @@ private:
         PropertyTree expected = tree;
         tree.convertToMap();
         expected.convertToMap();
-        m_schema.write(SubjectOf(*m_fast), tree.getMap(), &flags);
+        m_schema.write(SubjectOf(*m_fast), tree.getMap(), &flags, 0);
         LiteralWrite(m_schema, SubjectOf(*m_literal), expected.getMap(), flags);
         RequireSame(expected, tree, "a write makes another map");
     }

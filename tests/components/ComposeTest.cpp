@@ -12,13 +12,6 @@
 #include <string>
 #include <typeinfo>
 
-namespace Ombrel::Proc
-{
-
-extern template struct Reflected<SettingsEffectCompose>;
-
-} // namespace Ombrel::Proc
-
 namespace
 {
 

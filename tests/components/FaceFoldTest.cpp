@@ -5,13 +5,6 @@
 
 #include <gtest/gtest.h>
 
-namespace Ombrel::Proc
-{
-
-extern template struct Reflected<Face>;
-
-} // namespace Ombrel::Proc
-
 namespace
 {
 

@@ -28,22 +28,14 @@ template <class T> struct Outer
 
 class Private
 {
-    template <class> friend struct Ombrel::Proc::Fields;
+public:
+    static constexpr std::string_view KeyOfSecret() { return Ombrel::Proc::FieldDescriptor<&Private::m_secret>::KEY; }
 
+private:
     int m_secret = 0;
 };
 
 } // namespace Somewhere
-
-namespace Ombrel::Proc
-{
-
-template <> struct Fields<Somewhere::Private>
-{
-    using List = FieldList<FieldDescriptor<&Somewhere::Private::m_secret>>;
-};
-
-} // namespace Ombrel::Proc
 
 namespace
 {
@@ -63,9 +55,9 @@ TEST(FieldDescriptor, TakesItsKeyFromTheMember)
     EXPECT_EQ(FieldDescriptor<&Nested::m_inherited>::KEY, "inherited");
 }
 
-TEST(FieldDescriptor, ReachesPrivateMembers)
+TEST(FieldDescriptor, ReachesPrivateMembersFromWithin)
 {
-    EXPECT_EQ(Fields<Somewhere::Private>::List::KEYS[0], "secret");
+    EXPECT_EQ(Somewhere::Private::KeyOfSecret(), "secret");
 }
 
 TEST(FieldDescriptor, KnowsPairs)

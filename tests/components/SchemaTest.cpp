@@ -184,7 +184,7 @@ TEST(Schema, TellsKeysApartByEveryCharacter)
     for (std::size_t size = 0; size < 40; ++size)
     {
         const std::string key(size, 'k');
-        const FieldSchema field{key, &OTHER_VALUE};
+        const FieldSchema field{key, &OTHER_VALUE, {}};
         const SortedKey sorted(key, 0);
         const RecordSchema schema{
             .name = {},
@@ -193,6 +193,7 @@ TEST(Schema, TellsKeysApartByEveryCharacter)
             .defaults = nullptr,
             .read = nullptr,
             .write = nullptr,
+            .equal = nullptr,
             .readField = nullptr,
             .writeField = nullptr,
         };
@@ -229,7 +230,7 @@ TEST(Schema, ReachesARecordWithoutItsType)
     schema.writeField(0, &pupil, child, &writing);
     EXPECT_EQ(child, Map({{"x", 4}, {"y", 9}}));
     PropertyTree whole = Map({});
-    schema.write(&pupil, whole.getMap(), &writing);
+    schema.write(&pupil, whole.getMap(), &writing, 0);
     EXPECT_EQ(whole, Map({{"point", Map({{"x", 4}, {"y", 9}})}}));
 }
 

@@ -38,7 +38,7 @@ TEST(GuidedFilter, RecordIsEmptyIfAnyValueIsZero)
     EXPECT_TRUE(SettingsEffectGuidedFilter(0, -1, 1e-05).IsEmpty());
     EXPECT_TRUE(SettingsEffectGuidedFilter(10, 0, 1e-05).IsEmpty());
     EXPECT_TRUE(SettingsEffectGuidedFilter(10, -1, 0.0).IsEmpty());
-    EXPECT_FALSE(GuidedFilterSettings(SettingsEffectGuidedFilter(0)).IsEmpty());
+    EXPECT_FALSE(GuidedFilterSettings(SettingsEffectGuidedFilter(0, -1, 1e-05)).IsEmpty());
 }
 
 TEST(GuidedFilter, NotANumberIsNeitherZeroNorItself)
@@ -52,7 +52,7 @@ TEST(GuidedFilter, NotANumberIsNeitherZeroNorItself)
 TEST(GuidedFilter, CanBeWrittenByPointerAndNotReadBack)
 {
     PropertyTree tree;
-    EffectSettings::SerializePtr(tree, GuidedFilterSettings::Create(SettingsEffectGuidedFilter(4)));
+    EffectSettings::SerializePtr(tree, GuidedFilterSettings::Create(SettingsEffectGuidedFilter(4, -1, 1e-05)));
     EXPECT_EQ(tree, Map({{"name", "EFFECT_GUIDED_FILTER"}, {"radius", 4}}));
 
     std::shared_ptr<IEffectSettings> effect;

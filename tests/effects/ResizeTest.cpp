@@ -1,5 +1,7 @@
 #include "Proc/EffectSettings/ResizeSettings.h"
 
+#include "Exception/Exception.h"
+
 #include "Proc/ImplNames.h"
 #include "support/StoredForm.h"
 #include "support/TreeText.h"
@@ -312,7 +314,7 @@ TEST(Resize, UnitAndMirrorsPlayNoPartInTheComparison)
 TEST(Resize, AlwaysRunsOnOneImplementation)
 {
     ResizeSettings effect;
-    EXPECT_EQ(&effect.GetImplName(), &Ombrel::Proc::ImplNames::FFMPEG);
+    EXPECT_EQ(effect.GetImplName(), Ombrel::Proc::ImplNames::FFMPEG);
     effect.Deserialize(Map({{"implName", "gpu"}}));
     EXPECT_EQ(effect.GetImplName(), "ffmpeg");
     EXPECT_EQ(StoredForm(effect), Map({{"implName", "gpu"}}));

@@ -74,6 +74,7 @@ TEST(Allocation, OfTheClassIdIsNone)
 {
     const auto effect = std::make_shared<AcidSettings>();
     effect->GetTypedSettings().radius = 3;
+    EXPECT_EQ(effect->GetClassId(), "EFFECT_ACID"); // the first call makes the text
     PropertyTree tree;
     EXPECT_EQ(AllocationsOf([&] { EffectSettings::SerializePtr(tree, effect); }), 1u);
     EXPECT_EQ(tree, Map({{"name", "EFFECT_ACID"}, {"radius", 3}}));

@@ -49,6 +49,11 @@ public:
 class StoresMembers : public EffectSettingsTwoInputReflection<Record, StoresMembers>
 {
 public:
+    static const Proc::RecordSchema& Schema() noexcept
+    {
+        return Proc::Describe<StoresMembers, Proc::FieldList<Proc::FieldDescriptor<&StoresMembers::m_own>>>();
+    }
+
     using EffectSettingsReflection::EffectSettingsReflection;
 
     double m_own = 0.5;
@@ -99,11 +104,6 @@ template <> struct Fields<Record>
 template <> struct Fields<Bare>
 {
     using List = FieldList<FieldDescriptor<&Bare::m_value>>;
-};
-
-template <> struct Fields<StoresMembers>
-{
-    using List = FieldList<FieldDescriptor<&StoresMembers::m_own>>;
 };
 
 } // namespace Ombrel::Proc

@@ -47,7 +47,7 @@ public:
         constexpr Ombrel::Proc::WriteFlags flags{.resetTargets = true, .omitDefaults = false};
         Ombrel::PropertyTree tree;
         tree.convertToMap();
-        m_schema.write(m_record, tree.getMap(), &flags);
+        m_schema.write(m_record, tree.getMap(), &flags, 0);
         return tree;
     }
 

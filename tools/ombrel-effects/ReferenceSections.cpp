@@ -79,7 +79,7 @@ PropertyTree DefaultsOf(const RecordSchema& record)
     constexpr Proc::WriteFlags everything{.resetTargets = true, .omitDefaults = false};
     PropertyTree defaults;
     defaults.convertToMap();
-    record.write(record.defaults(), defaults.getMap(), &everything);
+    record.write(record.defaults(), defaults.getMap(), &everything, 0);
     return defaults;
 }
 

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectAcid, AcidSettings>;
 
-AcidSettings::~AcidSettings() = default;
+const std::string& AcidSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -11,7 +11,8 @@ class OMBREL_API AcidSettings : public EffectSettingsOneInputReflection<Proc::Se
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~AcidSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectAcid, AcidSettings>;

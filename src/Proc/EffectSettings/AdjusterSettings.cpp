@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectAdjuster, AdjusterSettings>;
 
-AdjusterSettings::~AdjusterSettings() = default;
+const std::string& AdjusterSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -11,7 +11,8 @@ class OMBREL_API AdjusterSettings : public EffectSettingsOneInputReflection<Proc
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~AdjusterSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectAdjuster, AdjusterSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectAlphaExtractor, AlphaExtractorSettings>;
 
-AlphaExtractorSettings::~AlphaExtractorSettings() = default;
+const std::string& AlphaExtractorSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

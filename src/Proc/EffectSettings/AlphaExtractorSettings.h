@@ -12,7 +12,8 @@ class OMBREL_API AlphaExtractorSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~AlphaExtractorSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectAlphaExtractor, AlphaExtractorSettings>;

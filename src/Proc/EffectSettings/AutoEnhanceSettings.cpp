@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectAutoEnhance, AutoEnhanceSettings>;
 
-AutoEnhanceSettings::~AutoEnhanceSettings() = default;
+const std::string& AutoEnhanceSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API AutoEnhanceSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~AutoEnhanceSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectAutoEnhance, AutoEnhanceSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectAutoGlareRemove, AutoGlareRemoveSettings>;
 
-AutoGlareRemoveSettings::~AutoGlareRemoveSettings() = default;
+const std::string& AutoGlareRemoveSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

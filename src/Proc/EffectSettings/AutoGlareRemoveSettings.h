@@ -12,7 +12,8 @@ class OMBREL_API AutoGlareRemoveSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~AutoGlareRemoveSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectAutoGlareRemove, AutoGlareRemoveSettings>;

@@ -7,7 +7,10 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectBalanceLuma, BalanceLumaSettings>;
 
-BalanceLumaSettings::~BalanceLumaSettings() = default;
+const std::string& BalanceLumaSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 bool BalanceLumaSettings::IsEmpty() const
 {

@@ -12,7 +12,8 @@ class OMBREL_API BalanceLumaSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~BalanceLumaSettings() override;
+
+    const std::string& GetClassId() const override;
 
     /// What the record says.
     bool IsEmpty() const override;

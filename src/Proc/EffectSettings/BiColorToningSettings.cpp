@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectBiColorToning, BiColorToningSettings>;
 
-BiColorToningSettings::~BiColorToningSettings() = default;
+const std::string& BiColorToningSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API BiColorToningSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~BiColorToningSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectBiColorToning, BiColorToningSettings>;

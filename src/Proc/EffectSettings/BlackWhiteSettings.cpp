@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectBlackWhite, BlackWhiteSettings>;
 
-BlackWhiteSettings::~BlackWhiteSettings() = default;
+const std::string& BlackWhiteSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

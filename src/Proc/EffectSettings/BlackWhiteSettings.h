@@ -12,7 +12,8 @@ class OMBREL_API BlackWhiteSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~BlackWhiteSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectBlackWhite, BlackWhiteSettings>;

@@ -12,12 +12,8 @@ class OMBREL_API BlendSettings : public EffectSettingsTwoInputReflection<Proc::S
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    BlendSettings();
-    BlendSettings(const BlendSettings&);
-    BlendSettings(BlendSettings&&) noexcept;
-    BlendSettings& operator=(const BlendSettings&);
-    BlendSettings& operator=(BlendSettings&&) noexcept;
-    ~BlendSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectImageBlender, BlendSettings>;

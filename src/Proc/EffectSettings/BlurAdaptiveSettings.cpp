@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectBlurAdaptive, BlurAdaptiveSettings>;
 
-BlurAdaptiveSettings::~BlurAdaptiveSettings() = default;
+const std::string& BlurAdaptiveSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

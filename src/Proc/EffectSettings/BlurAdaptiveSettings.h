@@ -12,7 +12,8 @@ class OMBREL_API BlurAdaptiveSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~BlurAdaptiveSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectBlurAdaptive, BlurAdaptiveSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectBlurBokeh, BlurBokehSettings>;
 
-BlurBokehSettings::~BlurBokehSettings() = default;
+const std::string& BlurBokehSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -11,7 +11,8 @@ class OMBREL_API BlurBokehSettings : public EffectSettingsOneInputReflection<Pro
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~BlurBokehSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectBlurBokeh, BlurBokehSettings>;

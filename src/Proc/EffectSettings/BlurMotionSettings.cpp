@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectBlurMotion, BlurMotionSettings>;
 
-BlurMotionSettings::~BlurMotionSettings() = default;
+const std::string& BlurMotionSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

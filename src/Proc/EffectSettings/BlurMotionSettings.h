@@ -12,7 +12,8 @@ class OMBREL_API BlurMotionSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~BlurMotionSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectBlurMotion, BlurMotionSettings>;

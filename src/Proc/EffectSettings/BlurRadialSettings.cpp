@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectBlurRadial, BlurRadialSettings>;
 
-BlurRadialSettings::~BlurRadialSettings() = default;
+const std::string& BlurRadialSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

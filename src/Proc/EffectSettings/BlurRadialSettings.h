@@ -12,7 +12,8 @@ class OMBREL_API BlurRadialSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~BlurRadialSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectBlurRadial, BlurRadialSettings>;

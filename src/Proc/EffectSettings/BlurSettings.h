@@ -11,7 +11,8 @@ class OMBREL_API BlurSettings : public EffectSettingsOneInputReflection<Proc::Se
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~BlurSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectBlur, BlurSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectCharcoal, CharcoalSettings>;
 
-CharcoalSettings::~CharcoalSettings() = default;
+const std::string& CharcoalSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

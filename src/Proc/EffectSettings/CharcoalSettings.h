@@ -11,7 +11,8 @@ class OMBREL_API CharcoalSettings : public EffectSettingsOneInputReflection<Proc
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~CharcoalSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectCharcoal, CharcoalSettings>;

@@ -7,7 +7,10 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectColorBalanceAuto, ColorBalanceAutoSettings>;
 
-ColorBalanceAutoSettings::~ColorBalanceAutoSettings() = default;
+const std::string& ColorBalanceAutoSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 bool ColorBalanceAutoSettings::IsEmpty() const
 {

@@ -12,7 +12,8 @@ class OMBREL_API ColorBalanceAutoSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~ColorBalanceAutoSettings() override;
+
+    const std::string& GetClassId() const override;
 
     /// What the record says.
     bool IsEmpty() const override;

@@ -7,7 +7,10 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectColorBalance, ColorBalanceSettings>;
 
-ColorBalanceSettings::~ColorBalanceSettings() = default;
+const std::string& ColorBalanceSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 bool ColorBalanceSettings::IsEmpty() const
 {

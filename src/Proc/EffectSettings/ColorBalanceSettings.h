@@ -12,7 +12,8 @@ class OMBREL_API ColorBalanceSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~ColorBalanceSettings() override;
+
+    const std::string& GetClassId() const override;
 
     /// What the record says.
     bool IsEmpty() const override;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectColorChannelMixer, ColorChannelMixerSettings>;
 
-ColorChannelMixerSettings::~ColorChannelMixerSettings() = default;
+const std::string& ColorChannelMixerSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

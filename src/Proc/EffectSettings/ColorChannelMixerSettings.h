@@ -12,7 +12,8 @@ class OMBREL_API ColorChannelMixerSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~ColorChannelMixerSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectColorChannelMixer, ColorChannelMixerSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectColorFilter, ColorFilterSettings>;
 
-ColorFilterSettings::~ColorFilterSettings() = default;
+const std::string& ColorFilterSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

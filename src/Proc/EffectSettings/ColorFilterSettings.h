@@ -12,7 +12,8 @@ class OMBREL_API ColorFilterSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~ColorFilterSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectColorFilter, ColorFilterSettings>;

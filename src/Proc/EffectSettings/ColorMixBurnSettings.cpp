@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectColorMixBurn, ColorMixBurnSettings>;
 
-ColorMixBurnSettings::~ColorMixBurnSettings() = default;
+const std::string& ColorMixBurnSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

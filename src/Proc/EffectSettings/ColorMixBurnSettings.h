@@ -12,7 +12,8 @@ class OMBREL_API ColorMixBurnSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~ColorMixBurnSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectColorMixBurn, ColorMixBurnSettings>;

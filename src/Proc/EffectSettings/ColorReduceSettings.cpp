@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectColorReduce, ColorReduceSettings>;
 
-ColorReduceSettings::~ColorReduceSettings() = default;
+const std::string& ColorReduceSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API ColorReduceSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~ColorReduceSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectColorReduce, ColorReduceSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectColoredGlass, ColoredGlassSettings>;
 
-ColoredGlassSettings::~ColoredGlassSettings() = default;
+const std::string& ColoredGlassSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API ColoredGlassSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~ColoredGlassSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectColoredGlass, ColoredGlassSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsColorspaceConverter, ColorspaceConverterSettings>;
 
-ColorspaceConverterSettings::~ColorspaceConverterSettings() = default;
+const std::string& ColorspaceConverterSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API ColorspaceConverterSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~ColorspaceConverterSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsColorspaceConverter, ColorspaceConverterSettings>;

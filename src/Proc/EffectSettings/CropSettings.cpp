@@ -10,7 +10,10 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectCrop, CropSettings>;
 
-CropSettings::~CropSettings() = default;
+const std::string& CropSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 bool CropSettings::IsAdditive() const
 {

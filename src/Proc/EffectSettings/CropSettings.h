@@ -12,7 +12,8 @@ class OMBREL_API CropSettings : public EffectSettingsOneInputReflection<Proc::Se
 public:
     using EffectSettingsImpl::Add;
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~CropSettings() override;
+
+    const std::string& GetClassId() const override;
 
 private:
     // Both are for callers of the interface, who ask before they add.

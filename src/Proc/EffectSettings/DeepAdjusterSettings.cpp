@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDeepAdjuster, DeepAdjusterSettings>;
 
-DeepAdjusterSettings::~DeepAdjusterSettings() = default;
+const std::string& DeepAdjusterSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

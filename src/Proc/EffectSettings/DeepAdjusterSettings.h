@@ -12,7 +12,8 @@ class OMBREL_API DeepAdjusterSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DeepAdjusterSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDeepAdjuster, DeepAdjusterSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDeepAligner, DeepAlignerSettings>;
 
-DeepAlignerSettings::~DeepAlignerSettings() = default;
+const std::string& DeepAlignerSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API DeepAlignerSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DeepAlignerSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDeepAligner, DeepAlignerSettings>;

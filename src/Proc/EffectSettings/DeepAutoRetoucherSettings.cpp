@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDeepAutoRetoucher, DeepAutoRetoucherSettings>;
 
-DeepAutoRetoucherSettings::~DeepAutoRetoucherSettings() = default;
+const std::string& DeepAutoRetoucherSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

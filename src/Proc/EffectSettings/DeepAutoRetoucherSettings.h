@@ -12,7 +12,8 @@ class OMBREL_API DeepAutoRetoucherSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DeepAutoRetoucherSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDeepAutoRetoucher, DeepAutoRetoucherSettings>;

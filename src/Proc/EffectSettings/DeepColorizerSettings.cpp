@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDeepColorizer, DeepColorizerSettings>;
 
-DeepColorizerSettings::~DeepColorizerSettings() = default;
+const std::string& DeepColorizerSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API DeepColorizerSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DeepColorizerSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDeepColorizer, DeepColorizerSettings>;

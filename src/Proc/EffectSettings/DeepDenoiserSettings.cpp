@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDeepDenoiser, DeepDenoiserSettings>;
 
-DeepDenoiserSettings::~DeepDenoiserSettings() = default;
+const std::string& DeepDenoiserSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API DeepDenoiserSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DeepDenoiserSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDeepDenoiser, DeepDenoiserSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDeepEnhancer, DeepEnhancerSettings>;
 
-DeepEnhancerSettings::~DeepEnhancerSettings() = default;
+const std::string& DeepEnhancerSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

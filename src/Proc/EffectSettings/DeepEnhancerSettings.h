@@ -12,7 +12,8 @@ class OMBREL_API DeepEnhancerSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DeepEnhancerSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDeepEnhancer, DeepEnhancerSettings>;

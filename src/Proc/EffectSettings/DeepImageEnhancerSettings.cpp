@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDeepImageEnhancer, DeepImageEnhancerSettings>;
 
-DeepImageEnhancerSettings::~DeepImageEnhancerSettings() = default;
+const std::string& DeepImageEnhancerSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

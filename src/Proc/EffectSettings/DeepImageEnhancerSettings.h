@@ -12,7 +12,8 @@ class OMBREL_API DeepImageEnhancerSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DeepImageEnhancerSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDeepImageEnhancer, DeepImageEnhancerSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDeepLumaUpscaler, DeepLumaUpscalerSettings>;
 
-DeepLumaUpscalerSettings::~DeepLumaUpscalerSettings() = default;
+const std::string& DeepLumaUpscalerSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

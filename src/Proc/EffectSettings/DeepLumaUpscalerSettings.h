@@ -12,7 +12,8 @@ class OMBREL_API DeepLumaUpscalerSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DeepLumaUpscalerSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDeepLumaUpscaler, DeepLumaUpscalerSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDeepRestorer, DeepRestorerSettings>;
 
-DeepRestorerSettings::~DeepRestorerSettings() = default;
+const std::string& DeepRestorerSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

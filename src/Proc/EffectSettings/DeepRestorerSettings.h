@@ -12,7 +12,8 @@ class OMBREL_API DeepRestorerSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DeepRestorerSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDeepRestorer, DeepRestorerSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDeepSuperResolutor, DeepSuperResolutorSettings>;
 
-DeepSuperResolutorSettings::~DeepSuperResolutorSettings() = default;
+const std::string& DeepSuperResolutorSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

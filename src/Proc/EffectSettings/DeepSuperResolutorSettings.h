@@ -12,7 +12,8 @@ class OMBREL_API DeepSuperResolutorSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DeepSuperResolutorSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDeepSuperResolutor, DeepSuperResolutorSettings>;

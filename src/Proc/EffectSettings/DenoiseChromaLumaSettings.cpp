@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDenoiseChromaLuma, DenoiseChromaLumaSettings>;
 
-DenoiseChromaLumaSettings::~DenoiseChromaLumaSettings() = default;
+const std::string& DenoiseChromaLumaSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API DenoiseChromaLumaSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DenoiseChromaLumaSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDenoiseChromaLuma, DenoiseChromaLumaSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDenoiseDCT, DenoiseDCTSettings>;
 
-DenoiseDCTSettings::~DenoiseDCTSettings() = default;
+const std::string& DenoiseDCTSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

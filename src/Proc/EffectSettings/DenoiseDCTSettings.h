@@ -12,7 +12,8 @@ class OMBREL_API DenoiseDCTSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DenoiseDCTSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDenoiseDCT, DenoiseDCTSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDenoiseOvercompleteWavelet, DenoiseOvercompleteWaveletSettings>;
 
-DenoiseOvercompleteWaveletSettings::~DenoiseOvercompleteWaveletSettings() = default;
+const std::string& DenoiseOvercompleteWaveletSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

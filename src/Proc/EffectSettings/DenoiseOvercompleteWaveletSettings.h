@@ -13,7 +13,8 @@ class OMBREL_API DenoiseOvercompleteWaveletSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DenoiseOvercompleteWaveletSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDenoiseOvercompleteWavelet, DenoiseOvercompleteWaveletSettings>;

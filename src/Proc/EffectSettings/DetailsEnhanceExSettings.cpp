@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDetailsEnhanceEx, DetailsEnhanceExSettings>;
 
-DetailsEnhanceExSettings::~DetailsEnhanceExSettings() = default;
+const std::string& DetailsEnhanceExSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

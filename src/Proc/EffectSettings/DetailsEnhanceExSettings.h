@@ -12,7 +12,8 @@ class OMBREL_API DetailsEnhanceExSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DetailsEnhanceExSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDetailsEnhanceEx, DetailsEnhanceExSettings>;

@@ -7,7 +7,10 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDetailsEnhance, DetailsEnhanceSettings>;
 
-DetailsEnhanceSettings::~DetailsEnhanceSettings() = default;
+const std::string& DetailsEnhanceSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 bool DetailsEnhanceSettings::IsEmpty() const
 {

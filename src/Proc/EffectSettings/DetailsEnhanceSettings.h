@@ -12,7 +12,8 @@ class OMBREL_API DetailsEnhanceSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DetailsEnhanceSettings() override;
+
+    const std::string& GetClassId() const override;
 
     /// What the record says.
     bool IsEmpty() const override;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDirectionalAreaDeformation, DirectionalAreaDeformationSettings>;
 
-DirectionalAreaDeformationSettings::~DirectionalAreaDeformationSettings() = default;
+const std::string& DirectionalAreaDeformationSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

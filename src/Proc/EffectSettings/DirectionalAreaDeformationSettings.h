@@ -13,7 +13,8 @@ class OMBREL_API DirectionalAreaDeformationSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DirectionalAreaDeformationSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDirectionalAreaDeformation, DirectionalAreaDeformationSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDreamscope, DreamscopeSettings>;
 
-DreamscopeSettings::~DreamscopeSettings() = default;
+const std::string& DreamscopeSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API DreamscopeSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~DreamscopeSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectDreamscope, DreamscopeSettings>;

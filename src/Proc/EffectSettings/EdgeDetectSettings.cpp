@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectEdgeDetect, EdgeDetectSettings>;
 
-EdgeDetectSettings::~EdgeDetectSettings() = default;
+const std::string& EdgeDetectSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

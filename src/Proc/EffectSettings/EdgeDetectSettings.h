@@ -12,7 +12,8 @@ class OMBREL_API EdgeDetectSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~EdgeDetectSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectEdgeDetect, EdgeDetectSettings>;

@@ -54,9 +54,27 @@ std::shared_ptr<IEffectSettings> Make(const std::string& id)
 
 EffectSettings::EffectSettings() : m_implName(Proc::ImplNames::DEFAULT_NAME) {}
 EffectSettings::EffectSettings(const EffectSettings&) = default;
-EffectSettings::EffectSettings(EffectSettings&&) noexcept = default;
 EffectSettings& EffectSettings::operator=(const EffectSettings&) = default;
-EffectSettings& EffectSettings::operator=(EffectSettings&&) noexcept = default;
+
+// Both leave the default name, so that a moved-from effect stores none. It is short enough to need no memory.
+
+EffectSettings::EffectSettings(EffectSettings&& other) noexcept
+    : IEffectSettings(std::move(other)), m_implName(std::exchange(other.m_implName, Proc::ImplNames::DEFAULT_NAME)),
+      m_helperSettings(std::move(other.m_helperSettings))
+{
+}
+
+EffectSettings& EffectSettings::operator=(EffectSettings&& other) noexcept
+{
+    if (this != &other)
+    {
+        IEffectSettings::operator=(std::move(other));
+        m_implName = std::exchange(other.m_implName, Proc::ImplNames::DEFAULT_NAME);
+        m_helperSettings = std::move(other.m_helperSettings);
+    }
+    return *this;
+}
+
 EffectSettings::~EffectSettings() = default;
 
 void EffectSettings::Serialize(PropertyTree& tree) const

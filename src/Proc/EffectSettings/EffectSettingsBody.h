@@ -2,7 +2,6 @@
 #define OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_BODY_H
 
 #include "Proc/EffectSettings/EffectSettingsImpl.h"
-#include "Proc/Reflection/FieldList.h"
 #include "Proc/Reflection/PropertyAccessImpl.h"
 #include "Proc/Settings/Settings.h"
 
@@ -15,10 +14,7 @@ namespace Ombrel::PhotoCore
 
 /// A settings class with a field list of its own stores its own members in place of the record's.
 template <class Derived>
-concept StoresItself = requires
-{
-    typename Proc::Fields<Derived>::List;
-};
+concept StoresItself = Proc::DescribesItself<Derived>;
 
 template <class Record, class Derived> const Proc::RecordSchema* EffectSettingsImpl<Record, Derived>::GetSchema() noexcept
 {
@@ -38,7 +34,7 @@ template <class Record, class Derived> const Proc::RecordSchema* EffectSettingsI
 
 template <class Record, class Derived> const std::string& EffectSettingsImpl<Record, Derived>::GetClassId() const
 {
-    return Record::CLASS_ID;
+    return settings.Record::GetClassId();
 }
 
 template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>::Serialize(PropertyTree& tree) const
@@ -124,7 +120,8 @@ template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>:
 
 template <class Record, class Derived> bool EffectSettingsImpl<Record, Derived>::operator==(const IEffectSettings& other) const
 {
-    return other.GetEffectSettings().GetClassId() == settings.GetClassId() && operator==(dynamic_cast<const Derived&>(other));
+    return other.GetEffectSettings().GetClassId() == settings.Record::GetClassId() && operator==(
+                                                                                          dynamic_cast<const Derived&>(other));
 }
 
 template <class Record, class Derived> bool EffectSettingsImpl<Record, Derived>::operator==(const Derived& other) const

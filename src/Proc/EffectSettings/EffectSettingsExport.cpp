@@ -97,21 +97,28 @@
 #include "Proc/EffectSettings/VignetteFilterSettings.h"
 #include "Proc/EffectSettings/VignetteSettings.h"
 #include "Proc/EffectSettings/WhiteBalanceSettings.h"
+#include "Proc/Lasting.h"
 #include "Proc/Reflection/SpelledName.h"
+#include "PropertyTree/KeyHead.h"
 
 #include <algorithm>
 #include <array>
+#include <atomic>
+#include <bit>
 #include <cstddef>
-#include <map>
+#include <cstdint>
+#include <limits>
+#include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace Ombrel::PhotoCore
 {
 namespace
 {
 
-template <class Effect> consteval const char* ClassIdOf()
+template <class Effect> consteval const char* IdOf()
 {
     if constexpr (requires { Effect::CLASS_NAME; })
     {
@@ -143,7 +150,7 @@ template <class Effect> consteval auto SchemaOf()
 
 template <class Effect> consteval EffectClass Entry(Registration registration = Registration::StartUpList)
 {
-    return {Proc::TYPE_NAME<Effect>, ClassIdOf<Effect>(), &Effect::CreateBase, SchemaOf<Effect>(), registration};
+    return {Proc::TYPE_NAME<Effect>, IdOf<Effect>(), &Effect::CreateBase, SchemaOf<Effect>(), registration};
 }
 
 // The order of the start-up list is fixed.
@@ -270,38 +277,118 @@ static_assert(CountOf(Registration::StartUpList) == 93);
 static_assert(CountOf(Registration::Factory) == 1);
 static_assert(CountOf(Registration::None) == 3);
 
-using Registry = std::map<std::string, IEffectSettings::Factory>;
-
-void Register(Registry& registry, const std::string& id, IEffectSettings::Factory&& factory)
+// The ids that the library registers, in a constant hash table: each is at the place that its hash names, or at the next free
+// one.
+class OwnClasses
 {
-    if (!registry.try_emplace(id, std::move(factory)).second)
+public:
+    constexpr OwnClasses()
     {
-        ThrowException("Duplicate class id (" + id + ")!", REGISTER_FACTORY_LOCATION);
-    }
-}
-
-// Makes both steps at once: the initialiser of another file may ask for any class before those of this file have run.
-Registry MakeRegistry()
-{
-    Registry registry;
-    for (const EffectClass& effectClass : CLASSES)
-    {
-        if (effectClass.registration != Registration::None)
+        for (std::size_t index = 0; index != CLASSES.size(); ++index)
         {
-            Register(registry, effectClass.classId, effectClass.create);
+            if (CLASSES[index].registration == Registration::None)
+            {
+                continue;
+            }
+            std::size_t place = PlaceOf(CLASSES[index].classId);
+            while (m_numbers[place] != 0)
+            {
+                place = (place + 1) % PLACES;
+            }
+            m_numbers[place] = static_cast<std::uint8_t>(index + 1);
+            m_ids[index] = CLASSES[index].classId;
         }
     }
-    return registry;
-}
 
-Registry& GetRegistry()
+    const EffectClass* Find(std::string_view id) const noexcept
+    {
+        for (std::size_t place = PlaceOf(id); m_numbers[place] != 0; place = (place + 1) % PLACES)
+        {
+            const std::size_t index = m_numbers[place] - 1U;
+            if (m_ids[index] == id)
+            {
+                return &CLASSES[index];
+            }
+        }
+        return nullptr;
+    }
+
+private:
+    static constexpr std::size_t PLACES = 512;
+    static_assert(CLASSES.size() < PLACES / 2 && CLASSES.size() <= std::numeric_limits<std::uint8_t>::max());
+
+    // What follows the beginning that most ids share, and their ends, tell them apart.
+    static constexpr std::size_t PlaceOf(std::string_view id) noexcept
+    {
+        constexpr std::size_t shared = 7;
+        constexpr std::size_t end = 8;
+        const std::uint64_t middle = HeadOf(id.substr(std::min(id.size(), shared)));
+        const std::uint64_t last = HeadOf(id.substr(id.size() - std::min(id.size(), end)));
+        const std::uint64_t mixed = (middle ^ std::rotl(last, 29) ^ id.size()) * 0x9E3779B97F4A7C15;
+        return static_cast<std::size_t>(mixed >> 32) % PLACES;
+    }
+
+    std::array<std::uint8_t, PLACES> m_numbers{}; // of the classes, from 1; 0 for none
+    std::array<std::string_view, CLASSES.size()> m_ids;
+};
+
+constexpr OwnClasses OWN_CLASSES;
+
+// A factory of a caller's. It stays until the library is unloaded.
+struct RegisteredFactory
 {
-    static Registry registry = MakeRegistry();
-    return registry;
+    std::string id;
+    IEffectSettings::Factory create;
+};
+
+// The callers' factories by their ids. A table never changes: a further factory makes a new table, which takes the place of the
+// old one as a whole. Old tables stay, since another thread may still look into them.
+struct FactoryTable
+{
+    const RegisteredFactory* Find(std::string_view id) const noexcept
+    {
+        const auto place = PlaceOf(id);
+        return place != factories.end() && (*place)->id == id ? *place : nullptr;
+    }
+
+    std::vector<const RegisteredFactory*>::const_iterator PlaceOf(std::string_view id) const noexcept
+    {
+        return std::ranges::lower_bound(factories, id, {},
+                                        [](const RegisteredFactory* factory) -> std::string_view { return factory->id; });
+    }
+
+    std::vector<const RegisteredFactory*> factories;
+    std::unique_ptr<const RegisteredFactory> added; // the one that the table before has not
+    std::unique_ptr<const FactoryTable> before;
+};
+
+struct CallersFactories
+{
+    CallersFactories() = default;
+    CallersFactories(const CallersFactories&) = delete;
+    CallersFactories& operator=(const CallersFactories&) = delete;
+
+    ~CallersFactories()
+    {
+        std::unique_ptr<const FactoryTable> last(table.load());
+        while (last) // one by one: the chain is as long as the list of registered factories
+        {
+            last = std::move(const_cast<FactoryTable&>(*last).before);
+        }
+    }
+
+    mutable std::atomic<const FactoryTable*> table = nullptr;
+};
+
+CallersFactories MakeCallersFactories()
+{
+    return {};
 }
 
-// Builds the registry while the library loads, before any caller can run into it from two threads.
-const bool g_isRegistered = !GetRegistry().empty();
+std::atomic<const FactoryTable*>& CurrentTable()
+{
+    return Proc::Lasting<&MakeCallersFactories>().table;
+}
 
 } // namespace
 
@@ -312,18 +399,35 @@ std::span<const EffectClass> EffectClasses() noexcept
 
 void IEffectSettings::RegisterFactory(const std::string& id, Factory factory)
 {
-    Register(GetRegistry(), id, std::move(factory));
+    std::atomic<const FactoryTable*>& currentTable = CurrentTable();
+    auto table = std::make_unique<FactoryTable>();
+    table->added = std::make_unique<const RegisteredFactory>(RegisteredFactory{id, std::move(factory)});
+    const FactoryTable* before = currentTable.load(std::memory_order_acquire);
+    do
+    {
+        if (OWN_CLASSES.Find(id) || (before && before->Find(id)))
+        {
+            ThrowException("Duplicate class id (" + id + ")!", REGISTER_FACTORY_LOCATION);
+        }
+        table->factories = before ? before->factories : std::vector<const RegisteredFactory*>();
+        table->factories.insert(table->PlaceOf(id), table->added.get());
+    } while (!currentTable.compare_exchange_weak(before, table.get(), std::memory_order_acq_rel, std::memory_order_acquire));
+    table.release()->before.reset(before);
 }
 
 std::shared_ptr<IEffectSettings> IEffectSettings::CreateEffectSettings(const std::string& id)
 {
-    const Registry& registry = GetRegistry();
-    const auto found = registry.find(id);
-    if (found == registry.end())
+    if (const EffectClass* own = OWN_CLASSES.Find(id))
+    {
+        return own->create();
+    }
+    const FactoryTable* table = CurrentTable().load(std::memory_order_acquire);
+    const RegisteredFactory* factory = table ? table->Find(id) : nullptr;
+    if (!factory)
     {
         ThrowException("Unknown Effect Setting type (" + id + ")!", CREATE_EFFECT_SETTINGS_LOCATION);
     }
-    return found->second();
+    return factory->create();
 }
 
 } // namespace Ombrel::PhotoCore

@@ -2,8 +2,8 @@
 #define OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_IMPL_H
 
 #include "Proc/EffectSettings/EffectSettings.h"
+#include "Proc/Reflection/DefaultRecord.h"
 
-#include <concepts>
 #include <memory>
 #include <string>
 
@@ -15,19 +15,6 @@ struct RecordSchema;
 namespace Ombrel::PhotoCore
 {
 
-/// A record without a default constructor says itself what its default is.
-template <class Record> Record MakeDefaultRecord()
-{
-    if constexpr (std::default_initializable<Record>)
-    {
-        return Record();
-    }
-    else
-    {
-        return Record::MakeDefault();
-    }
-}
-
 /// The settings class `Derived` around a record held by value. This and the layers below are declared here; their bodies stand
 /// in `EffectSettingsBody.h`, for the one file of each settings class that compiles them.
 template <class Record, class Derived> class OMBREL_API EffectSettingsImpl : public EffectSettings
@@ -35,7 +22,7 @@ template <class Record, class Derived> class OMBREL_API EffectSettingsImpl : pub
 public:
     using RecordType = Record;
 
-    EffectSettingsImpl() : settings(MakeDefaultRecord<Record>()) {}
+    EffectSettingsImpl() : settings(Proc::MakeDefaultRecord<Record>()) {}
     explicit EffectSettingsImpl(const Record& record) : settings(record) {}
 
     static std::shared_ptr<Derived> Create(const Record& record) { return std::make_shared<Derived>(record); }

@@ -1,6 +1,7 @@
 #include "Proc/EffectSettings/EffectSettingsSimple.h"
 
-#include "Proc/Settings/SettingsRecord.h"
+#include "Proc/Settings/RecordSource.h"
+#include "Proc/Settings/Settings.h"
 
 #include <stdexcept>
 #include <utility>
@@ -11,27 +12,33 @@ namespace
 {
 
 // Stands in where there is no record to ask.
-class NoRecord : public Proc::SettingsRecord<NoRecord>
+class NoRecord : public Proc::Settings
 {
 public:
-    static const std::string& CLASS_ID;
-
+    const std::string& GetClassId() const override { return Proc::ClassIdOf<EffectSettingsSimple>(); }
+    Settings* Clone() const override { return new NoRecord(*this); }
     bool IsEmpty() const override { return true; }
-    bool operator==(const NoRecord&) const { return true; }
+
+    bool IsEqualTo(const Settings& other) const override
+    {
+        static_cast<void>(dynamic_cast<const NoRecord&>(other)); // any two are equal, another type is refused
+        return true;
+    }
 };
 
-const std::string& NoRecord::CLASS_ID = EffectSettingsSimple::CLASS_ID;
+NoRecord MakeNoRecord()
+{
+    return {};
+}
 
 } // namespace
 
-const std::string EffectSettingsSimple::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string EffectSettingsSimple::CLASS_ID{CLASS_NAME};
 
 EffectSettingsSimple::EffectSettingsSimple(InputType type, std::shared_ptr<Proc::Settings> record)
     : inputType(type), settings(std::move(record))
 {
 }
-
-EffectSettingsSimple::~EffectSettingsSimple() = default;
 
 std::shared_ptr<EffectSettingsSimple> EffectSettingsSimple::Create(const std::shared_ptr<Proc::Settings>& record)
 {
@@ -50,7 +57,7 @@ std::shared_ptr<IEffectSettings> EffectSettingsSimple::CreateBase()
 
 const std::string& EffectSettingsSimple::GetClassId() const
 {
-    return CLASS_ID;
+    return Proc::ClassIdOf<EffectSettingsSimple>();
 }
 
 std::shared_ptr<IEffectSettings> EffectSettingsSimple::Clone() const
@@ -60,8 +67,7 @@ std::shared_ptr<IEffectSettings> EffectSettingsSimple::Clone() const
 
 const Proc::Settings& EffectSettingsSimple::GetEffectSettings() const
 {
-    static const NoRecord noRecord;
-    return settings ? static_cast<const Proc::Settings&>(*settings) : noRecord;
+    return settings ? static_cast<const Proc::Settings&>(*settings) : Proc::Lasting<&MakeNoRecord>();
 }
 
 Proc::Settings& EffectSettingsSimple::GetEffectSettingsRef()

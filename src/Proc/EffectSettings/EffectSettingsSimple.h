@@ -20,8 +20,9 @@ public:
     static constexpr const char* CLASS_NAME = "effectSettingsSimple";
     static const std::string CLASS_ID;
 
-    explicit EffectSettingsSimple(InputType type = InputType::One, std::shared_ptr<Proc::Settings> record = nullptr);
-    ~EffectSettingsSimple() override;
+    /// One input and no record.
+    EffectSettingsSimple() : EffectSettingsSimple(InputType::One) {}
+    explicit EffectSettingsSimple(InputType type, std::shared_ptr<Proc::Settings> record = nullptr);
 
     static std::shared_ptr<EffectSettingsSimple> Create(const std::shared_ptr<Proc::Settings>& record);
     static std::shared_ptr<EffectSettingsSimple> Create(InputType type, std::shared_ptr<Proc::Settings> record);

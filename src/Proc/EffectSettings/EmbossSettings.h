@@ -11,7 +11,8 @@ class OMBREL_API EmbossSettings : public EffectSettingsOneInputReflection<Proc::
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~EmbossSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectEmboss, EmbossSettings>;

@@ -7,7 +7,10 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectEmpty, EmptySettings>;
 
-EmptySettings::~EmptySettings() = default;
+const std::string& EmptySettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 bool EmptySettings::operator==(const EmptySettings&) const
 {

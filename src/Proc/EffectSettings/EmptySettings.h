@@ -11,7 +11,8 @@ class OMBREL_API EmptySettings : public EffectSettingsOneInputReflection<Proc::S
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~EmptySettings() override;
+
+    const std::string& GetClassId() const override;
 
     using EffectSettingsImpl::operator==;
 

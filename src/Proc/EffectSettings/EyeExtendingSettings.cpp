@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectEyeExtending, EyeExtendingSettings>;
 
-EyeExtendingSettings::~EyeExtendingSettings() = default;
+const std::string& EyeExtendingSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API EyeExtendingSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~EyeExtendingSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectEyeExtending, EyeExtendingSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectFaceDetection, FaceDetectionSettings>;
 
-FaceDetectionSettings::~FaceDetectionSettings() = default;
+const std::string& FaceDetectionSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API FaceDetectionSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~FaceDetectionSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectFaceDetection, FaceDetectionSettings>;

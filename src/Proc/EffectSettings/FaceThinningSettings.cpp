@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectFaceThinning, FaceThinningSettings>;
 
-FaceThinningSettings::~FaceThinningSettings() = default;
+const std::string& FaceThinningSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API FaceThinningSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~FaceThinningSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectFaceThinning, FaceThinningSettings>;

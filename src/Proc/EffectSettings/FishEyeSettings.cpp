@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectFishEye, FishEyeSettings>;
 
-FishEyeSettings::~FishEyeSettings() = default;
+const std::string& FishEyeSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

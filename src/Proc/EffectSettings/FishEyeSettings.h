@@ -11,7 +11,8 @@ class OMBREL_API FishEyeSettings : public EffectSettingsOneInputReflection<Proc:
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~FishEyeSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectFishEye, FishEyeSettings>;

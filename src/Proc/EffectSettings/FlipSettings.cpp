@@ -7,7 +7,10 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectFlip, FlipSettings>;
 
-FlipSettings::~FlipSettings() = default;
+const std::string& FlipSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 bool FlipSettings::IsAdditive() const
 {

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectGIMPColorCorrection, GIMPColorCorrectionSettings>;
 
-GIMPColorCorrectionSettings::~GIMPColorCorrectionSettings() = default;
+const std::string& GIMPColorCorrectionSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API GIMPColorCorrectionSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~GIMPColorCorrectionSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectGIMPColorCorrection, GIMPColorCorrectionSettings>;

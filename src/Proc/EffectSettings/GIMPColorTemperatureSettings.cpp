@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectGIMPColorTemperature, GIMPColorTemperatureSettings>;
 
-GIMPColorTemperatureSettings::~GIMPColorTemperatureSettings() = default;
+const std::string& GIMPColorTemperatureSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API GIMPColorTemperatureSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~GIMPColorTemperatureSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectGIMPColorTemperature, GIMPColorTemperatureSettings>;

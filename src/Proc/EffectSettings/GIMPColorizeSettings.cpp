@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectGIMPColorize, GIMPColorizeSettings>;
 
-GIMPColorizeSettings::~GIMPColorizeSettings() = default;
+const std::string& GIMPColorizeSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

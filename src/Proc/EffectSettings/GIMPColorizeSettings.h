@@ -12,7 +12,8 @@ class OMBREL_API GIMPColorizeSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~GIMPColorizeSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectGIMPColorize, GIMPColorizeSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectGIMPHueSaturation, GIMPHueSaturationSettings>;
 
-GIMPHueSaturationSettings::~GIMPHueSaturationSettings() = default;
+const std::string& GIMPHueSaturationSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

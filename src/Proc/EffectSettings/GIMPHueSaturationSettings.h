@@ -12,7 +12,8 @@ class OMBREL_API GIMPHueSaturationSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~GIMPHueSaturationSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectGIMPHueSaturation, GIMPHueSaturationSettings>;

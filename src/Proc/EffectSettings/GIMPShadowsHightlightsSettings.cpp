@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectGIMPShadowsHightlights, GIMPShadowsHightlightsSettings>;
 
-GIMPShadowsHightlightsSettings::~GIMPShadowsHightlightsSettings() = default;
+const std::string& GIMPShadowsHightlightsSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API GIMPShadowsHightlightsSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~GIMPShadowsHightlightsSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectGIMPShadowsHightlights, GIMPShadowsHightlightsSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectGradientPosterize, GradientPosterizeSettings>;
 
-GradientPosterizeSettings::~GradientPosterizeSettings() = default;
+const std::string& GradientPosterizeSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API GradientPosterizeSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~GradientPosterizeSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectGradientPosterize, GradientPosterizeSettings>;

@@ -11,7 +11,8 @@ class OMBREL_API GradientSettings : public EffectSettingsOneInputReflection<Proc
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~GradientSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectGradient, GradientSettings>;

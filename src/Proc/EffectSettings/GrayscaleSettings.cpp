@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectGrayscale, GrayscaleSettings>;
 
-GrayscaleSettings::~GrayscaleSettings() = default;
+const std::string& GrayscaleSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

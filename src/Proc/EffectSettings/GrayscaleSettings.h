@@ -11,7 +11,8 @@ class OMBREL_API GrayscaleSettings : public EffectSettingsOneInputReflection<Pro
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~GrayscaleSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectGrayscale, GrayscaleSettings>;

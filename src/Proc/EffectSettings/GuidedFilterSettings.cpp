@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectGuidedFilter, GuidedFilterSettings>;
 
-GuidedFilterSettings::~GuidedFilterSettings() = default;
+const std::string& GuidedFilterSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

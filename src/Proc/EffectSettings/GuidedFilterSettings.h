@@ -12,7 +12,8 @@ class OMBREL_API GuidedFilterSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~GuidedFilterSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectGuidedFilter, GuidedFilterSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectHalfTone, HalfToneSettings>;
 
-HalfToneSettings::~HalfToneSettings() = default;
+const std::string& HalfToneSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

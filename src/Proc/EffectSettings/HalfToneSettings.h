@@ -11,7 +11,8 @@ class OMBREL_API HalfToneSettings : public EffectSettingsOneInputReflection<Proc
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~HalfToneSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectHalfTone, HalfToneSettings>;

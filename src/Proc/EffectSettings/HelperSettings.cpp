@@ -1,5 +1,6 @@
 #include "Proc/EffectSettings/HelperSettings.h"
 
+#include "Proc/Lasting.h"
 #include "Proc/Reflection/Folds.h"
 
 #include <utility>
@@ -25,19 +26,27 @@ template <> struct EnumNames<HelperSettings::ApplySetting>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<HelperSettings>
-{
-    using R = HelperSettings;
-    using List = FieldList<FieldDescriptor<&R::m_undoSet>, FieldDescriptor<&R::m_applyMode>, FieldDescriptor<&R::m_maxWidth>,
-                           FieldDescriptor<&R::m_maxHeight>>;
-};
-
-template struct Reflected<HelperSettings>;
-
 } // namespace Ombrel::Proc
 
 namespace Ombrel::PhotoCore
 {
+namespace
+{
+
+std::string MakeClassId()
+{
+    return "HelperSettings";
+}
+
+} // namespace
+
+const Proc::RecordSchema& HelperSettings::Schema() noexcept
+{
+    using namespace Proc;
+    using R = HelperSettings;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_undoSet>, FieldDescriptor<&R::m_applyMode>,
+                                 FieldDescriptor<&R::m_maxWidth>, FieldDescriptor<&R::m_maxHeight>>>();
+}
 
 HelperSettings::HelperSettings() = default;
 HelperSettings::HelperSettings(const HelperSettings&) = default;
@@ -48,8 +57,7 @@ HelperSettings::~HelperSettings() = default;
 
 const std::string& HelperSettings::GetClassId() const
 {
-    static const std::string classId{"HelperSettings"};
-    return classId;
+    return Proc::Lasting<&MakeClassId>();
 }
 
 void HelperSettings::Serialize(PropertyTree& tree) const

@@ -11,7 +11,7 @@
 
 namespace Ombrel::Proc
 {
-template <class> struct Fields;
+struct RecordSchema;
 }
 
 namespace Ombrel::PhotoCore
@@ -31,6 +31,8 @@ public:
         ApplyToAlpha = 5,
         ApplyAndAddToUndo = 6,
     };
+
+    static const Proc::RecordSchema& Schema() noexcept;
 
     HelperSettings();
     HelperSettings(const HelperSettings&);
@@ -65,8 +67,6 @@ public:
     void SetMaxHeight(std::uint32_t value) { m_maxHeight = value; }
 
 private:
-    template <class> friend struct Proc::Fields;
-
     bool m_undoSet = false;
     std::set<ApplySetting> m_applyMode;
     std::uint32_t m_maxWidth = std::numeric_limits<std::uint32_t>::max();

@@ -11,7 +11,8 @@ class OMBREL_API HistogramSettings : public EffectSettingsOneInputReflection<Pro
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~HistogramSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectHistogram, HistogramSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectImageInpainter, ImageInpainterSettings>;
 
-ImageInpainterSettings::~ImageInpainterSettings() = default;
+const std::string& ImageInpainterSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API ImageInpainterSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~ImageInpainterSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectImageInpainter, ImageInpainterSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectImplode, ImplodeSettings>;
 
-ImplodeSettings::~ImplodeSettings() = default;
+const std::string& ImplodeSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -11,7 +11,8 @@ class OMBREL_API ImplodeSettings : public EffectSettingsOneInputReflection<Proc:
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~ImplodeSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectImplode, ImplodeSettings>;

@@ -11,7 +11,8 @@ class OMBREL_API InpaintSettings : public EffectSettingsTwoInputReflection<Proc:
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~InpaintSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectInpaint, InpaintSettings>;

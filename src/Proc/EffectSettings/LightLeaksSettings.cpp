@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectLightLeaks, LightLeaksSettings>;
 
-LightLeaksSettings::~LightLeaksSettings() = default;
+const std::string& LightLeaksSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API LightLeaksSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~LightLeaksSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectLightLeaks, LightLeaksSettings>;

@@ -11,7 +11,8 @@ class OMBREL_API MattingSettings : public EffectSettingsOneInputReflection<Proc:
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~MattingSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectMatting, MattingSettings>;

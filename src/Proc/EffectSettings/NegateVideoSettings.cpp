@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectNegateVideo, NegateVideoSettings>;
 
-NegateVideoSettings::~NegateVideoSettings() = default;
+const std::string& NegateVideoSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

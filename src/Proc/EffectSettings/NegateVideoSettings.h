@@ -12,7 +12,8 @@ class OMBREL_API NegateVideoSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~NegateVideoSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectNegateVideo, NegateVideoSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectNoiseVideo, NoiseVideoSettings>;
 
-NoiseVideoSettings::~NoiseVideoSettings() = default;
+const std::string& NoiseVideoSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API NoiseVideoSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~NoiseVideoSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectNoiseVideo, NoiseVideoSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectOilPaint, OilPaintSettings>;
 
-OilPaintSettings::~OilPaintSettings() = default;
+const std::string& OilPaintSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -11,7 +11,8 @@ class OMBREL_API OilPaintSettings : public EffectSettingsOneInputReflection<Proc
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~OilPaintSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectOilPaint, OilPaintSettings>;

@@ -11,7 +11,8 @@ class OMBREL_API PopArtSettings : public EffectSettingsOneInputReflection<Proc::
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~PopArtSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectPopArt, PopArtSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectPosterize, PosterizeSettings>;
 
-PosterizeSettings::~PosterizeSettings() = default;
+const std::string& PosterizeSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

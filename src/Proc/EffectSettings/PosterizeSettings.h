@@ -11,7 +11,8 @@ class OMBREL_API PosterizeSettings : public EffectSettingsOneInputReflection<Pro
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~PosterizeSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectPosterize, PosterizeSettings>;

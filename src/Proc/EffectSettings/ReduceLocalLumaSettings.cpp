@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectReduceLocalLuma, ReduceLocalLumaSettings>;
 
-ReduceLocalLumaSettings::~ReduceLocalLumaSettings() = default;
+const std::string& ReduceLocalLumaSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API ReduceLocalLumaSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~ReduceLocalLumaSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectReduceLocalLuma, ReduceLocalLumaSettings>;

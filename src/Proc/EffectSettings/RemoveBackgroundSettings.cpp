@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectRemoveBackground, RemoveBackgroundSettings>;
 
-RemoveBackgroundSettings::~RemoveBackgroundSettings() = default;
+const std::string& RemoveBackgroundSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API RemoveBackgroundSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~RemoveBackgroundSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectRemoveBackground, RemoveBackgroundSettings>;

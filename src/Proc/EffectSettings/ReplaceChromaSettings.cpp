@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectReplaceChroma, ReplaceChromaSettings>;
 
-ReplaceChromaSettings::~ReplaceChromaSettings() = default;
+const std::string& ReplaceChromaSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API ReplaceChromaSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~ReplaceChromaSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectReplaceChroma, ReplaceChromaSettings>;

@@ -1,7 +1,10 @@
 #include "Proc/EffectSettings/ResizeSettings.h"
 
+#include "Exception/Exception.h"
+#include "Proc/EarlyInit.h"
 #include "Proc/EffectSettings/EffectSettingsBody.h"
 #include "Proc/ImplNames.h"
+#include "Proc/Lasting.h"
 #include "Proc/Reflection/Folds.h"
 
 namespace Ombrel::Proc
@@ -27,42 +30,51 @@ template <> struct Fields<Conf::FrameInfo>
         FieldList<FieldDescriptor<&R::width>, FieldDescriptor<&R::height>, FieldDescriptor<&R::ax>, FieldDescriptor<&R::ay>>;
 };
 
-template struct Reflected<Conf::FrameInfo>;
-
-template <> struct Fields<ResizeSettings>
-{
-    using R = ResizeSettings;
-    using List = FieldList<FieldDescriptor<&R::m_resolution>, FieldDescriptor<&R::m_uom>, FieldDescriptor<&R::m_frameInfo>,
-                           FieldDescriptor<&R::m_scaleFactor>>;
-};
-
-template struct Reflected<ResizeSettings>;
-
 } // namespace Ombrel::Proc
 
 namespace Ombrel::PhotoCore
 {
 
+namespace
+{
+
 using SizeModes = Proc::SettingsResizer::SizeModes;
+
+// Where a frame without an aspect is reported. Callers see the place; so its numbers stay as they are, whatever becomes of the
+// lines of this file.
+constexpr ThrowLocation DESERIALIZE_LOCATION{"Proc/EffectSettings/ResizeSettings", 105, "Deserialize", 96};
+
+std::string MakeImplName()
+{
+    return Proc::ImplNames::FFMPEG_NAME;
+}
+
+} // namespace
 
 template class EffectSettingsImpl<Proc::SettingsResizer, ResizeSettings>;
 
-const std::string ResizeSettings::FRAME_SIZE_MODE{"frameSize"};
-const std::string ResizeSettings::SCALE_FACTOR{"scaleFactor"};
-const std::string ResizeSettings::MODE{"resizeMode"};
-const std::string ResizeSettings::METHOD{"resizeMethod"};
-const std::string ResizeSettings::UOM{"UOM"};
+OMBREL_EARLY_INIT const std::string ResizeSettings::FRAME_SIZE_MODE{"frameSize"};
+OMBREL_EARLY_INIT const std::string ResizeSettings::SCALE_FACTOR{"scaleFactor"};
+OMBREL_EARLY_INIT const std::string ResizeSettings::MODE{"resizeMode"};
+OMBREL_EARLY_INIT const std::string ResizeSettings::METHOD{"resizeMethod"};
+OMBREL_EARLY_INIT const std::string ResizeSettings::UOM{"UOM"};
 
-ResizeSettings::ResizeSettings() = default;
-ResizeSettings::ResizeSettings(const ResizeSettings&) = default;
-ResizeSettings::ResizeSettings(ResizeSettings&&) noexcept = default;
-ResizeSettings& ResizeSettings::operator=(const ResizeSettings&) = default;
-ResizeSettings& ResizeSettings::operator=(ResizeSettings&&) noexcept = default;
-ResizeSettings::~ResizeSettings() = default;
+const Proc::RecordSchema& ResizeSettings::Schema() noexcept
+{
+    using namespace Proc;
+    using R = ResizeSettings;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_resolution>, FieldDescriptor<&R::m_uom>,
+                                 FieldDescriptor<&R::m_frameInfo>, FieldDescriptor<&R::m_scaleFactor>>>();
+}
+
+const std::string& ResizeSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 const std::string& ResizeSettings::GetImplName() const
 {
-    return Proc::ImplNames::FFMPEG;
+    return Proc::Lasting<&MakeImplName>();
 }
 
 void ResizeSettings::RefreshMirrors() const
@@ -91,7 +103,7 @@ void ResizeSettings::Deserialize(const PropertyTree& tree)
     {
         if (m_frameInfo.ax == 0 || m_frameInfo.ay == 0)
         {
-            ThrowException("Aspect is not specified", RESIZE_DESERIALIZE_LOCATION);
+            ThrowException("Aspect is not specified", DESERIALIZE_LOCATION);
         }
         settings.SetCustomMode(m_customMode, m_frameInfo);
     }

@@ -2,17 +2,11 @@
 #define OMBREL_PROC_EFFECT_SETTINGS_RESIZE_SETTINGS_H
 
 #include "Conf/FrameInfo.h"
-#include "Exception/Exception.h"
 #include "Proc/EffectSettings/EffectSettingsImpl.h"
 #include "Proc/Settings/SettingsResizer.h"
 
 #include <cstdint>
 #include <string>
-
-namespace Ombrel::Proc
-{
-template <class> struct Fields;
-}
 
 namespace Ombrel::PhotoCore
 {
@@ -38,6 +32,8 @@ public:
         points = 5,
     };
 
+    static const Proc::RecordSchema& Schema() noexcept;
+
     // Names of the resizer's parameters, for callers; none of them is used as a stored key.
     static const std::string FRAME_SIZE_MODE;
     static const std::string SCALE_FACTOR;
@@ -48,12 +44,7 @@ public:
     using EffectSettingsImpl::operator==;
     using EffectSettingsReflection::EffectSettingsReflection;
 
-    ResizeSettings();
-    ResizeSettings(const ResizeSettings&);
-    ResizeSettings(ResizeSettings&&) noexcept;
-    ResizeSettings& operator=(const ResizeSettings&);
-    ResizeSettings& operator=(ResizeSettings&&) noexcept;
-    ~ResizeSettings() override;
+    const std::string& GetClassId() const override;
 
     /// What was entered with a physical unit; -1 for none.
     double GetResolution() const { return m_resolution; }
@@ -84,8 +75,6 @@ public:
     }
 
 private:
-    template <class> friend struct Proc::Fields;
-
     void RefreshMirrors() const;
 
     double m_resolution = -1.0;
@@ -94,9 +83,6 @@ private:
     mutable Proc::SettingsResizer::CustomModes m_customMode = Proc::SettingsResizer::CustomModes::Stretch; // has no key
     mutable double m_scaleFactor = 1.0;
 };
-
-/// Where a frame without an aspect is reported.
-inline constexpr ThrowLocation RESIZE_DESERIALIZE_LOCATION{"Proc/EffectSettings/ResizeSettings", 105, "Deserialize", 96};
 
 extern template class EffectSettingsImpl<Proc::SettingsResizer, ResizeSettings>;
 

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectRetroArtefacts, RetroArtefactsSettings>;
 
-RetroArtefactsSettings::~RetroArtefactsSettings() = default;
+const std::string& RetroArtefactsSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API RetroArtefactsSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~RetroArtefactsSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectRetroArtefacts, RetroArtefactsSettings>;

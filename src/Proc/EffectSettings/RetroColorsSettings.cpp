@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectRetroColors, RetroColorsSettings>;
 
-RetroColorsSettings::~RetroColorsSettings() = default;
+const std::string& RetroColorsSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API RetroColorsSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~RetroColorsSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectRetroColors, RetroColorsSettings>;

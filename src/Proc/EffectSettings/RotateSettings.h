@@ -11,7 +11,8 @@ class OMBREL_API RotateSettings : public EffectSettingsOneInputReflection<Proc::
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~RotateSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectRotate, RotateSettings>;

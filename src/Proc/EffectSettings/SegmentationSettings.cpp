@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectSegmentation, SegmentationSettings>;
 
-SegmentationSettings::~SegmentationSettings() = default;
+const std::string& SegmentationSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

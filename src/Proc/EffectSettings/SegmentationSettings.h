@@ -12,7 +12,8 @@ class OMBREL_API SegmentationSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~SegmentationSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectSegmentation, SegmentationSettings>;

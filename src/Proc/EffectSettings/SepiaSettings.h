@@ -11,7 +11,8 @@ class OMBREL_API SepiaSettings : public EffectSettingsOneInputReflection<Proc::S
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~SepiaSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectSepia, SepiaSettings>;

@@ -1,35 +1,10 @@
 #include "Proc/EffectSettings/SettingsEffectFacePackage.h"
 
 #include "Proc/EffectSettings/EffectPointerCodec.h"
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 #include <algorithm>
 #include <utility>
-
-namespace Ombrel::Proc
-{
-
-using PhotoCore::SettingsEffectFacePackage;
-
-extern template struct Reflected<Face>;
-
-template <> struct Fields<SettingsEffectFacePackage::FaceItem>
-{
-    using R = SettingsEffectFacePackage::FaceItem;
-    using List = FieldList<FieldDescriptor<&R::face>, FieldDescriptor<&R::effect>>;
-};
-
-template struct Reflected<SettingsEffectFacePackage::FaceItem>;
-
-template <> struct Fields<SettingsEffectFacePackage>
-{
-    using R = SettingsEffectFacePackage;
-    using List = FieldList<FieldDescriptor<&R::m_currentFaceIndex>, FieldDescriptor<&R::m_facesEffects>>;
-};
-
-template struct Reflected<SettingsEffectFacePackage>;
-
-} // namespace Ombrel::Proc
 
 namespace Ombrel::PhotoCore
 {
@@ -44,6 +19,13 @@ std::shared_ptr<IEffectSettings> CloneOf(const std::shared_ptr<IEffectSettings>&
 } // namespace
 
 using FaceItem = SettingsEffectFacePackage::FaceItem;
+
+const Proc::RecordSchema& FaceItem::Schema() noexcept
+{
+    using namespace Proc;
+    using R = FaceItem;
+    return Describe<R, FieldList<FieldDescriptor<&R::face>, FieldDescriptor<&R::effect>>>();
+}
 
 FaceItem::FaceItem() = default;
 
@@ -66,7 +48,19 @@ bool FaceItem::operator==(const FaceItem& other) const
     return face == other.face && IEffectSettings::Equals(effect, other.effect);
 }
 
-const std::string SettingsEffectFacePackage::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectFacePackage::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectFacePackage::GetClassId() const
+{
+    return Proc::ClassIdOf<SettingsEffectFacePackage>();
+}
+
+const Proc::RecordSchema& SettingsEffectFacePackage::Schema() noexcept
+{
+    using namespace Proc;
+    using R = SettingsEffectFacePackage;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_currentFaceIndex>, FieldDescriptor<&R::m_facesEffects>>>();
+}
 
 SettingsEffectFacePackage::SettingsEffectFacePackage() = default;
 
@@ -88,9 +82,12 @@ SettingsEffectFacePackage& SettingsEffectFacePackage::operator=(const SettingsEf
 
 SettingsEffectFacePackage& SettingsEffectFacePackage::operator=(SettingsEffectFacePackage&& other) noexcept
 {
-    m_currentFaceIndex = other.m_currentFaceIndex;
-    // The old faces go last: `other` may stand inside the effect of one.
-    const std::vector<FaceItem> old = std::exchange(m_facesEffects, std::move(other.m_facesEffects));
+    if (this != &other)
+    {
+        m_currentFaceIndex = other.m_currentFaceIndex;
+        // The old faces go last: `other` may stand inside the effect of one.
+        const std::vector<FaceItem> old = std::exchange(m_facesEffects, std::move(other.m_facesEffects));
+    }
     return *this;
 }
 

@@ -10,11 +10,6 @@
 #include <string>
 #include <vector>
 
-namespace Ombrel::Proc
-{
-template <class> struct Fields;
-}
-
 namespace Ombrel::PhotoCore
 {
 
@@ -25,6 +20,9 @@ class OMBREL_API SettingsEffectFacePackage : public Proc::SettingsRecord<Setting
 public:
     static constexpr const char* CLASS_NAME = "SettingsEffectFacePackage";
     static const std::string CLASS_ID;
+    static const Proc::RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     class FaceItem;
 
@@ -58,8 +56,6 @@ public:
     bool operator!=(const SettingsEffectFacePackage& other) const { return !operator==(other); }
 
 private:
-    template <class> friend struct Proc::Fields;
-
     std::uint64_t m_currentFaceIndex = 0;
     std::vector<FaceItem> m_facesEffects;
 };
@@ -69,6 +65,8 @@ private:
 class OMBREL_API SettingsEffectFacePackage::FaceItem
 {
 public:
+    static const Proc::RecordSchema& Schema() noexcept;
+
     FaceItem();
     FaceItem(const FaceItem& other);
     FaceItem& operator=(const FaceItem& other);

@@ -1,7 +1,7 @@
 #include "Proc/EffectSettings/SettingsEffectMaskBlender.h"
 
 #include "Proc/EffectSettings/EffectPointerCodec.h"
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 #include <algorithm>
 #include <utility>
@@ -10,8 +10,6 @@ namespace Ombrel::Proc
 {
 
 using PhotoCore::SettingsEffectMaskBlender;
-
-extern template struct Reflected<SettingsEffectShapeMask>;
 
 template <> struct EnumNames<SettingsEffectMaskBlender::SizeOptimization>
 {
@@ -23,17 +21,6 @@ template <> struct EnumNames<SettingsEffectMaskBlender::SizeOptimization>
     };
     static constexpr EnumNameTable TABLE{ROWS};
 };
-
-template <> struct Fields<SettingsEffectMaskBlender>
-{
-    using R = SettingsEffectMaskBlender;
-    using List = FieldList<FieldDescriptor<&R::m_foregroundEffects>, FieldDescriptor<&R::m_backgroundEffects>,
-                           FieldDescriptor<&R::m_optimizationMode>, FieldDescriptor<&R::m_alpha>,
-                           FieldDescriptor<&R::m_useExternalMask>, FieldDescriptor<&R::m_blendingStrength>,
-                           FieldDescriptor<&R::m_swapFramesIfMaskFound>, FieldDescriptor<&R::m_backgroundIndex>>;
-};
-
-template struct Reflected<SettingsEffectMaskBlender>;
 
 } // namespace Ombrel::Proc
 
@@ -59,7 +46,22 @@ bool AreRecordsEmpty(const EffectList& effects)
 
 } // namespace
 
-const std::string SettingsEffectMaskBlender::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectMaskBlender::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectMaskBlender::GetClassId() const
+{
+    return Proc::ClassIdOf<SettingsEffectMaskBlender>();
+}
+
+const Proc::RecordSchema& SettingsEffectMaskBlender::Schema() noexcept
+{
+    using namespace Proc;
+    using R = SettingsEffectMaskBlender;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_foregroundEffects>, FieldDescriptor<&R::m_backgroundEffects>,
+                                 FieldDescriptor<&R::m_optimizationMode>, FieldDescriptor<&R::m_alpha>,
+                                 FieldDescriptor<&R::m_useExternalMask>, FieldDescriptor<&R::m_blendingStrength>,
+                                 FieldDescriptor<&R::m_swapFramesIfMaskFound>, FieldDescriptor<&R::m_backgroundIndex>>>();
+}
 
 SettingsEffectMaskBlender::SettingsEffectMaskBlender()
 {
@@ -77,6 +79,10 @@ SettingsEffectMaskBlender& SettingsEffectMaskBlender::operator=(const SettingsEf
 
 SettingsEffectMaskBlender& SettingsEffectMaskBlender::operator=(SettingsEffectMaskBlender&& other) noexcept
 {
+    if (this == &other)
+    {
+        return *this;
+    }
     // The old effects go last: `other` may stand inside one.
     const EffectList foreground = std::exchange(m_foregroundEffects, std::move(other.m_foregroundEffects));
     const EffectList background = std::exchange(m_backgroundEffects, std::move(other.m_backgroundEffects));

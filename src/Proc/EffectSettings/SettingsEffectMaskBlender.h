@@ -11,11 +11,6 @@
 #include <string>
 #include <utility>
 
-namespace Ombrel::Proc
-{
-template <class> struct Fields;
-}
-
 namespace Ombrel::PhotoCore
 {
 
@@ -28,6 +23,9 @@ class OMBREL_API SettingsEffectMaskBlender : public Proc::SettingsRecord<Setting
 public:
     static constexpr const char* CLASS_NAME = "EffectsPackageOneInputWithBrush";
     static const std::string CLASS_ID;
+    static const Proc::RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     using Effect = std::shared_ptr<const IEffectSettings>;
     using EffectList = IEffectSettings::ConstList;
@@ -103,8 +101,6 @@ public:
     bool operator!=(const SettingsEffectMaskBlender& other) const { return !operator==(other); }
 
 private:
-    template <class> friend struct Proc::Fields;
-
     EffectList& EffectsOf(bool isBackground) { return isBackground ? m_backgroundEffects : m_foregroundEffects; }
     void SetEffectsImpl(const EffectList& effects, bool isBackground);
     void SetEffectImpl(Effect effect, bool isBackground);

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectShapeMask, ShapeMaskSettings>;
 
-ShapeMaskSettings::~ShapeMaskSettings() = default;
+const std::string& ShapeMaskSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

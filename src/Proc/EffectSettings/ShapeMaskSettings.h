@@ -11,7 +11,8 @@ class OMBREL_API ShapeMaskSettings : public EffectSettingsOneInputReflection<Pro
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~ShapeMaskSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectShapeMask, ShapeMaskSettings>;

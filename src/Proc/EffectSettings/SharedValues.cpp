@@ -1,5 +1,6 @@
 #include "Proc/EffectSettings/SharedValues.h"
 
+#include "Proc/EarlyInit.h"
 #include "Proc/EffectSettings/WrappingArithmetic.h"
 
 #include <algorithm>
@@ -18,7 +19,7 @@ ROI& ROI::Unite(const ROI& other)
     return *this;
 }
 
-const std::vector<PixFmt> Const::CorePixelFormats{PixFmt::RGB24, PixFmt::BGRA, PixFmt::BGR0};
+OMBREL_EARLY_INIT const std::vector<PixFmt> Const::CorePixelFormats{PixFmt::RGB24, PixFmt::BGRA, PixFmt::BGR0};
 
 std::uint32_t MaxIndex(std::uint32_t a, std::uint32_t b)
 {

@@ -11,7 +11,8 @@ class OMBREL_API SharpenSettings : public EffectSettingsOneInputReflection<Proc:
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~SharpenSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectSharpen, SharpenSettings>;

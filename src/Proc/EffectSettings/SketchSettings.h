@@ -11,7 +11,8 @@ class OMBREL_API SketchSettings : public EffectSettingsOneInputReflection<Proc::
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~SketchSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectSketch, SketchSettings>;

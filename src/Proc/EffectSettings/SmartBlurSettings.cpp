@@ -7,7 +7,10 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectSmartBlur, SmartBlurSettings>;
 
-SmartBlurSettings::~SmartBlurSettings() = default;
+const std::string& SmartBlurSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 bool SmartBlurSettings::IsEmpty() const
 {

@@ -11,7 +11,8 @@ class OMBREL_API SmartBlurSettings : public EffectSettingsOneInputReflection<Pro
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~SmartBlurSettings() override;
+
+    const std::string& GetClassId() const override;
 
     /// What the record says.
     bool IsEmpty() const override;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectSplitToning, SplitToningSettings>;
 
-SplitToningSettings::~SplitToningSettings() = default;
+const std::string& SplitToningSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -12,7 +12,8 @@ class OMBREL_API SplitToningSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~SplitToningSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectSplitToning, SplitToningSettings>;

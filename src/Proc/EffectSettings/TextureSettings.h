@@ -11,7 +11,8 @@ class OMBREL_API TextureSettings : public EffectSettingsOneInputReflection<Proc:
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~TextureSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectTexture, TextureSettings>;

@@ -9,29 +9,6 @@
 #include <limits>
 #include <utility>
 
-namespace Ombrel::Proc
-{
-
-using PhotoCore::TileSettings;
-
-template <> struct Fields<TileSettings::Row>
-{
-    using R = TileSettings::Row;
-    using List = FieldList<FieldDescriptor<&R::m_cols>>;
-};
-
-template struct Reflected<TileSettings::Row>;
-
-template <> struct Fields<TileSettings>
-{
-    using R = TileSettings;
-    using List = FieldList<FieldDescriptor<&R::m_pre>, FieldDescriptor<&R::m_post>, FieldDescriptor<&R::m_effectRows>>;
-};
-
-template struct Reflected<TileSettings>;
-
-} // namespace Ombrel::Proc
-
 namespace Ombrel::PhotoCore
 {
 
@@ -94,6 +71,19 @@ template <class Element> bool AreEqual(const std::vector<Element>& a, const std:
 
 } // namespace
 
+const Proc::RecordSchema& Row::Schema() noexcept
+{
+    using namespace Proc;
+    return Describe<Row, FieldList<FieldDescriptor<&Row::m_cols>>>();
+}
+
+const Proc::RecordSchema& TileSettings::Schema() noexcept
+{
+    using namespace Proc;
+    using R = TileSettings;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_pre>, FieldDescriptor<&R::m_post>, FieldDescriptor<&R::m_effectRows>>>();
+}
+
 TileSettings::TileSettings() = default;
 
 TileSettings::TileSettings(std::uint64_t width, std::uint64_t height)
@@ -116,7 +106,27 @@ TileSettings& TileSettings::operator=(const TileSettings& other)
     return *this;
 }
 
+TileSettings::TileSettings(TileSettings&&) noexcept = default;
+
+TileSettings& TileSettings::operator=(TileSettings&& other) noexcept
+{
+    if (this != &other)
+    {
+        // The old effects go last: `other` may stand inside one.
+        const List pre = std::exchange(m_pre, std::move(other.m_pre));
+        const List post = std::exchange(m_post, std::move(other.m_post));
+        const std::vector<Row> rows = std::exchange(m_effectRows, std::move(other.m_effectRows));
+        EffectSettingsReflection::operator=(std::move(other));
+    }
+    return *this;
+}
+
 TileSettings::~TileSettings() = default;
+
+const std::string& TileSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 std::shared_ptr<TileSettings> TileSettings::Create(std::uint64_t width, std::uint64_t height)
 {

@@ -7,13 +7,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
-
-namespace Ombrel::Proc
-{
-template <class> struct Fields;
-}
 
 namespace Ombrel::PhotoCore
 {
@@ -29,10 +25,14 @@ public:
     /// One row of the grid: a list of effects per cell.
     struct Row
     {
+        OMBREL_API static const Proc::RecordSchema& Schema() noexcept;
+
         std::vector<List> m_cols;
 
         bool operator==(const Row&) const = default;
     };
+
+    static const Proc::RecordSchema& Schema() noexcept;
 
     using EffectSettingsImpl::operator==;
     using EffectSettingsImpl::Create;
@@ -50,7 +50,13 @@ public:
     TileSettings(const TileSettings& other);
     TileSettings& operator=(const TileSettings& other);
 
+    /// Takes everything, also implementation name and helper settings.
+    TileSettings(TileSettings&& other) noexcept;
+    TileSettings& operator=(TileSettings&& other) noexcept;
+
     ~TileSettings() override;
+
+    const std::string& GetClassId() const override;
 
     static std::shared_ptr<TileSettings> Create(std::uint64_t width, std::uint64_t height);
 
@@ -89,8 +95,6 @@ public:
     }
 
 private:
-    template <class> friend struct Proc::Fields;
-
     void CopyFrom(const TileSettings& other);
 
     List m_pre;

@@ -1,10 +1,15 @@
 #include "Proc/EffectSettings/TileSettingsStub.h"
 
+#include "Proc/Settings/RecordSource.h"
+
 namespace Ombrel::PhotoCore
 {
 
-const std::string TileSettingsStub::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string TileSettingsStub::CLASS_ID{CLASS_NAME};
 
-TileSettingsStub::~TileSettingsStub() = default;
+const std::string& TileSettingsStub::GetClassId() const
+{
+    return Proc::ClassIdOf<TileSettingsStub>();
+}
 
 } // namespace Ombrel::PhotoCore

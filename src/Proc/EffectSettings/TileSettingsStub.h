@@ -15,7 +15,7 @@ public:
     static constexpr const char* CLASS_NAME = "effectSettingsTileStub";
     static const std::string CLASS_ID;
 
-    ~TileSettingsStub() override;
+    const std::string& GetClassId() const override;
 
     /// Any two are equal.
     bool operator==(const TileSettingsStub&) const { return true; }

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectTiltShift, TiltShiftSettings>;
 
-TiltShiftSettings::~TiltShiftSettings() = default;
+const std::string& TiltShiftSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

@@ -11,7 +11,8 @@ class OMBREL_API TiltShiftSettings : public EffectSettingsOneInputReflection<Pro
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~TiltShiftSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectTiltShift, TiltShiftSettings>;

@@ -7,7 +7,10 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectTintTemperature, TintTemperatureSettings>;
 
-TintTemperatureSettings::~TintTemperatureSettings() = default;
+const std::string& TintTemperatureSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 bool TintTemperatureSettings::IsEmpty() const
 {

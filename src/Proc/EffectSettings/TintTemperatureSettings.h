@@ -12,7 +12,8 @@ class OMBREL_API TintTemperatureSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~TintTemperatureSettings() override;
+
+    const std::string& GetClassId() const override;
 
     /// What the record says.
     bool IsEmpty() const override;

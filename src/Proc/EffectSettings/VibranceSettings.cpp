@@ -7,7 +7,10 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectVibrance, VibranceSettings>;
 
-VibranceSettings::~VibranceSettings() = default;
+const std::string& VibranceSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 bool VibranceSettings::IsEmpty() const
 {

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectVignetteFilter, VignetteFilterSettings>;
 
-VignetteFilterSettings::~VignetteFilterSettings() = default;
+const std::string& VignetteFilterSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

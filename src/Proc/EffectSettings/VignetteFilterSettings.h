@@ -12,7 +12,8 @@ class OMBREL_API VignetteFilterSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~VignetteFilterSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectVignetteFilter, VignetteFilterSettings>;

@@ -7,6 +7,9 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectWhiteBalance, WhiteBalanceSettings>;
 
-WhiteBalanceSettings::~WhiteBalanceSettings() = default;
+const std::string& WhiteBalanceSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 } // namespace Ombrel::PhotoCore

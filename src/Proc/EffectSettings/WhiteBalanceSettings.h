@@ -12,7 +12,8 @@ class OMBREL_API WhiteBalanceSettings
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~WhiteBalanceSettings() override;
+
+    const std::string& GetClassId() const override;
 };
 
 extern template class EffectSettingsImpl<Proc::SettingsEffectWhiteBalance, WhiteBalanceSettings>;

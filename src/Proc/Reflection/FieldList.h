@@ -2,6 +2,7 @@
 #define OMBREL_PROC_REFLECTION_FIELD_LIST_H
 
 #include "Proc/Reflection/Codec.h"
+#include "Proc/Reflection/Reflected.h"
 #include "Proc/Reflection/SpelledName.h"
 
 #include <array>
@@ -16,10 +17,11 @@ namespace Ombrel::Proc
 {
 
 /// A reflected data member; its key is the member's name without the prefix. The member may be inherited, and private where
-/// the record says `template <class> friend struct Fields;`.
+/// the list stands in a member function of the record.
 template <auto Member> struct FieldDescriptor
 {
     static constexpr std::string_view KEY = MEMBER_KEY<Member>;
+    static constexpr std::string_view ACCESS = MEMBER_NAME<Member>;
 
     template <class Record> using Value = std::remove_cvref_t<decltype(std::declval<Record&>().*Member)>;
 
@@ -72,6 +74,17 @@ constexpr decltype(auto) Invoke(Function function, Record& record, Arguments&&..
 template <KeyText Key, auto Setter, auto Getter> struct AccessorDescriptor
 {
     static constexpr std::string_view KEY{Key.value, sizeof(Key.value) - 1};
+    static constexpr std::string_view ACCESS = []
+    {
+        if constexpr (std::is_member_function_pointer_v<decltype(Setter)>)
+        {
+            return ACCESSOR_NAMES<Setter, Getter>;
+        }
+        else
+        {
+            return MEMBER_NAME<Getter>; // the setter belongs to the list, no caller knows it
+        }
+    }();
 
     template <class Record> using Value = std::remove_cvref_t<std::invoke_result_t<decltype(Getter), const Record&>>;
 
@@ -143,9 +156,6 @@ template <class... Descriptors> struct FieldList
     static_assert(SIZE <= std::numeric_limits<std::uint16_t>::max());
     static_assert(HasUniqueKeys(), "two fields of one list have the same key");
 };
-
-/// Names the fields of a record once: specialised with `using List = FieldList<...>`, in one .cpp per record.
-template <class Record> struct Fields;
 
 template <class First, class Second> struct Fields<std::pair<First, Second>>
 {

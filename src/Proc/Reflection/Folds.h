@@ -1,11 +1,12 @@
 #ifndef OMBREL_PROC_REFLECTION_FOLDS_H
 #define OMBREL_PROC_REFLECTION_FOLDS_H
 
+#include "Proc/Lasting.h"
+#include "Proc/Reflection/DefaultRecord.h"
 #include "Proc/Reflection/FieldList.h"
 #include "Proc/Reflection/Reflected.h"
 
 #include <array>
-#include <concepts>
 #include <cstddef>
 #include <utility>
 
@@ -23,13 +24,13 @@ namespace ReflectedDetail
 {
 
 // A record whose map is not its own alone says in RESERVED_KEYS which keys are taken.
-template <class Record> consteval bool HasOwnKeys()
+template <class Record, class List> consteval bool HasOwnKeys()
 {
     if constexpr (requires { Record::RESERVED_KEYS; })
     {
         for (const std::string_view key : Record::RESERVED_KEYS)
         {
-            if (Fields<Record>::List::HasKey(key))
+            if (List::HasKey(key))
             {
                 return false;
             }
@@ -39,15 +40,17 @@ template <class Record> consteval bool HasOwnKeys()
 }
 
 /// The folds over the fields of `Record`, which are told apart by their place in the list.
-template <class Record, class List = typename Fields<Record>::List, class Indices = std::make_index_sequence<List::SIZE>>
-struct Folds;
+template <class Record, class List, class Indices = std::make_index_sequence<List::SIZE>> struct Folds;
 
 template <class Record, class... Descriptors, std::size_t... Index>
 struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
 {
-    static_assert(HasOwnKeys<Record>(), "a field has a key that belongs to the effect itself");
-
     using List = FieldList<Descriptors...>;
+
+    static_assert(HasOwnKeys<Record, List>(), "a field has a key that belongs to the effect itself");
+
+    static const Record& Default() { return Lasting<&MakeDefaultRecord<Record>>(); }
+    static const void* ErasedDefault() { return &Default(); }
 
     template <class Descriptor>
     static void ReadOrReset(const PropertyTree* child, Record& record, const ReadFlags* flags, const Record& defaults)
@@ -62,14 +65,13 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         }
     }
 
-    // Neither the read nor the write is inlined: each would stand in the code twice, for callers with and without the record's
-    // type. And the flag is asked for anew at each field: of what it knew beforehand the compiler would make two copies.
-    [[gnu::noinline]] static void Read([[maybe_unused]] Record& record, const PropertyTree::Map& source,
-                                       [[maybe_unused]] const ReadFlags* flags)
+    // The flag is asked for anew at each field: of what it knew beforehand the compiler would make two copies.
+    static void Read([[maybe_unused]] void* subject, const PropertyTree::Map& source, [[maybe_unused]] const ReadFlags* flags)
     {
         std::array<const PropertyTree*, List::SIZE> children;
         FindChildren(SCHEMA, source, children.data());
-        [[maybe_unused]] const Record& defaults = Reflected<Record>::Default();
+        [[maybe_unused]] Record& record = *static_cast<Record*>(subject);
+        [[maybe_unused]] const Record& defaults = Default();
         (ReadOrReset<Descriptors>(children[Index], record, flags, defaults), ...);
     }
 
@@ -82,13 +84,13 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         }
     }
 
-    [[gnu::noinline]] static void Write([[maybe_unused]] const Record& record, PropertyTree::Map& target,
-                                        const WriteFlags* flags, std::size_t others)
+    static void Write(const void* subject, PropertyTree::Map& target, const WriteFlags* flags, std::size_t others)
     {
+        [[maybe_unused]] const Record& record = *static_cast<const Record*>(subject);
         std::array<bool, List::SIZE> isWritten;
         if (flags->omitDefaults)
         {
-            [[maybe_unused]] const Record& defaults = Reflected<Record>::Default();
+            [[maybe_unused]] const Record& defaults = Default();
             isWritten = {!Descriptors::Equal(record, defaults)...};
         }
         else
@@ -101,20 +103,9 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         targets.Finish();
     }
 
-    static bool Equal(const Record& a, const Record& b) { return (Descriptors::Equal(a, b) && ...); }
-
-    // The same for a record whose type the caller does not name.
-
-    static const void* ErasedDefault() { return &Reflected<Record>::Default(); }
-
-    static void ErasedRead(void* record, const PropertyTree::Map& source, const ReadFlags* flags)
+    static bool Equal([[maybe_unused]] const void* a, [[maybe_unused]] const void* b)
     {
-        Read(*static_cast<Record*>(record), source, flags);
-    }
-
-    static void ErasedWrite(const void* record, PropertyTree::Map& target, const WriteFlags* flags)
-    {
-        Write(*static_cast<const Record*>(record), target, flags, 0);
+        return (Descriptors::Equal(*static_cast<const Record*>(a), *static_cast<const Record*>(b)) && ...);
     }
 
     static void ReadField([[maybe_unused]] std::size_t index, [[maybe_unused]] void* record,
@@ -130,15 +121,16 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
     }
 
     static constexpr std::array<FieldSchema, List::SIZE> FIELDS{
-        FieldSchema{Descriptors::KEY, &SCHEMA_OF<typename Descriptors::template Value<Record>>}...};
+        FieldSchema{Descriptors::KEY, &SCHEMA_OF<typename Descriptors::template Value<Record>>, Descriptors::ACCESS}...};
 
     static constexpr RecordSchema SCHEMA{
         .name = TYPE_NAME<Record>,
         .fields = FIELDS,
         .sortedKeys = List::SORTED_KEYS.data(),
         .defaults = &ErasedDefault,
-        .read = &ErasedRead,
-        .write = &ErasedWrite,
+        .read = &Read,
+        .write = &Write,
+        .equal = &Equal,
         .readField = &ReadField,
         .writeField = &WriteField,
     };
@@ -146,38 +138,9 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
 
 } // namespace ReflectedDetail
 
-template <class Record> const Record& Reflected<Record>::Default()
+template <class Record, class List> const RecordSchema& Describe() noexcept
 {
-    if constexpr (std::default_initializable<Record>)
-    {
-        static const Record record{};
-        return record;
-    }
-    else
-    {
-        static const Record record = Record::MakeDefault();
-        return record;
-    }
-}
-
-template <class Record> void Reflected<Record>::Read(const ReadContext<Record>& context)
-{
-    ReflectedDetail::Folds<Record>::Read(context.record, context.source, context.flags);
-}
-
-template <class Record> void Reflected<Record>::Write(const WriteContext<Record>& context)
-{
-    ReflectedDetail::Folds<Record>::Write(context.record, context.target, context.flags, context.others);
-}
-
-template <class Record> bool Reflected<Record>::Equal(const Record& a, const Record& b)
-{
-    return ReflectedDetail::Folds<Record>::Equal(a, b);
-}
-
-template <class Record> const RecordSchema& Reflected<Record>::Schema() noexcept
-{
-    return ReflectedDetail::Folds<Record>::SCHEMA;
+    return ReflectedDetail::Folds<Record, List>::SCHEMA;
 }
 
 } // namespace Ombrel::Proc

@@ -3,28 +3,55 @@
 
 #include "Proc/Reflection/Codec.h"
 
+#include <concepts>
+
 namespace Ombrel::Proc
 {
 
-/// The folds over a record's field list: everything that serialisation, comparison and property access do with a record is
-/// one of these, and a further algorithm is a further fold. None is inlined, so that each exists once per record.
-///
-/// Their bodies stand in `Folds.h`, for the one file that holds the list and compiles them: `template struct
-/// Reflected<Record>;`. Another file with a list that nests the record writes `extern template struct Reflected<Record>;`.
+/// Names the fields of a type that cannot have a `Schema` function of its own, such as a pair: specialised with
+/// `using List = FieldList<...>` where every file that stores the type sees it.
+template <class Record> struct Fields;
+
+/// Describes a record by its field list. Defined in `Folds.h`.
+template <class Record, class List> const RecordSchema& Describe() noexcept;
+
+/// A record that describes itself: its `Schema()` returns `Describe<Record, FieldList<...>>()`.
+template <class Record>
+concept DescribesItself = requires
+{
+    {
+        Record::Schema()
+        } -> std::same_as<const RecordSchema&>;
+};
+
+/// The folds over a record's field list, for callers that know the record's type. Each calls the one in its schema.
 template <class Record> struct Reflected
 {
+    static const RecordSchema& Schema() noexcept
+    {
+        if constexpr (DescribesItself<Record>)
+        {
+            return Record::Schema();
+        }
+        else
+        {
+            return Describe<Record, typename Fields<Record>::List>();
+        }
+    }
+
     /// The record that missing keys are reset to and written values are compared with. Made on first use.
-    [[gnu::noinline]] static const Record& Default();
+    static const Record& Default() { return *static_cast<const Record*>(Schema().defaults()); }
 
     // Both go through the fields in declaration order.
-    static void Read(const ReadContext<Record>& context);
-    static void Write(const WriteContext<Record>& context);
+    static void Read(const ReadContext<Record>& context) { Schema().read(&context.record, context.source, context.flags); }
+
+    static void Write(const WriteContext<Record>& context)
+    {
+        Schema().write(&context.record, context.target, context.flags, context.others);
+    }
 
     /// Field by field in declaration order, each by its own `==`.
-    [[gnu::noinline]] static bool Equal(const Record& a, const Record& b);
-
-    /// The fields as constant data, with the way to each of them.
-    static const RecordSchema& Schema() noexcept;
+    static bool Equal(const Record& a, const Record& b) { return Schema().equal(&a, &b); }
 };
 
 /// What has no codec of its own is a record, stored as a nested map.

@@ -57,6 +57,7 @@ struct FieldSchema
 {
     std::string_view key;
     const ValueSchema* value;
+    std::string_view access; // how C++ reaches it: "m_radius", or "SetHue, GetHue" for a setter and a getter
 };
 
 /// A key as a search needs it, with the place of its field in the list. Constant data.
@@ -89,7 +90,8 @@ struct RecordSchema
 
     const void* (*defaults)(); // what missing keys are reset to; made on first use
     void (*read)(void* record, const PropertyTree::Map& source, const ReadFlags* flags);
-    void (*write)(const void* record, PropertyTree::Map& target, const WriteFlags* flags);
+    void (*write)(const void* record, PropertyTree::Map& target, const WriteFlags* flags, std::size_t others);
+    bool (*equal)(const void* a, const void* b); // field by field, each by its own `==`
     void (*readField)(std::size_t index, void* record, const PropertyTree& child, const ReadFlags* flags);
     void (*writeField)(std::size_t index, const void* record, PropertyTree& child, const WriteFlags* flags);
 };

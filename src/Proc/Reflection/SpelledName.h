@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <initializer_list>
 #include <string_view>
 
 namespace Ombrel::Proc
@@ -12,22 +13,22 @@ namespace SpelledNameDetail
 
 // The compiler spells the template argument out in the name of the function: "... [with auto Member = &Record::m_radius]".
 // Nothing may follow the argument but brackets, so the functions must not return a class.
-template <auto Member> consteval const char* Spelling()
+template <auto Member> constexpr const char* Spelling()
 {
     return __PRETTY_FUNCTION__;
 }
 
-template <class Type> consteval const char* Spelling()
+template <class Type> constexpr const char* Spelling()
 {
     return __PRETTY_FUNCTION__;
 }
 
-consteval bool IsNameCharacter(char c)
+constexpr bool IsNameCharacter(char c)
 {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
 }
 
-consteval std::string_view LastName(std::string_view spelling)
+constexpr std::string_view LastName(std::string_view spelling)
 {
     std::size_t end = spelling.size();
     while (!IsNameCharacter(spelling[end - 1]))
@@ -42,20 +43,22 @@ consteval std::string_view LastName(std::string_view spelling)
     return spelling.substr(begin, end - begin);
 }
 
-consteval std::string_view WithoutPrefix(std::string_view name)
+constexpr std::string_view WithoutPrefix(std::string_view name)
 {
     return name.starts_with("m_") ? name.substr(2) : name;
 }
 
 struct Probe
 {
+    void Function();
+
     int m_member;
 };
 
 static_assert(LastName(Spelling<&Probe::m_member>()) == "m_member", "this compiler spells member pointers in another way");
+static_assert(LastName(Spelling<&Probe::Function>()) == "Function", "this compiler spells member functions in another way");
 static_assert(LastName(Spelling<Probe>()) == "Probe", "this compiler spells types in another way");
 
-// An array of its own keeps the long spelling out of the binary.
 template <std::size_t Size> consteval std::array<char, Size> CopyOf(std::string_view text)
 {
     std::array<char, Size> copy{};
@@ -66,29 +69,54 @@ template <std::size_t Size> consteval std::array<char, Size> CopyOf(std::string_
     return copy;
 }
 
-template <auto Member> struct MemberKey
+// An array of its own keeps the long spelling out of the binary.
+template <const char* (*Spelled)()> struct Name
 {
-    static constexpr std::string_view SOURCE = WithoutPrefix(LastName(Spelling<Member>()));
+    static constexpr std::string_view SOURCE = LastName(Spelled());
     static constexpr auto TEXT = CopyOf<SOURCE.size()>(SOURCE);
+    static constexpr std::string_view VIEW{TEXT.data(), TEXT.size()};
 };
 
-template <class Type> struct TypeName
+template <auto First, auto Second> struct Pair
 {
-    static constexpr std::string_view SOURCE = LastName(Spelling<Type>());
-    static constexpr auto TEXT = CopyOf<SOURCE.size()>(SOURCE);
+    static constexpr std::string_view FIRST = LastName(Spelling<First>());
+    static constexpr std::string_view SECOND = LastName(Spelling<Second>());
+    static constexpr std::string_view SEPARATOR = ", ";
+    static constexpr std::size_t SIZE = FIRST.size() + SEPARATOR.size() + SECOND.size();
+
+    static constexpr std::array<char, SIZE> TEXT = []
+    {
+        std::array<char, SIZE> text{};
+        std::size_t end = 0;
+        for (const std::string_view part : {FIRST, SEPARATOR, SECOND})
+        {
+            for (const char c : part)
+            {
+                text[end++] = c;
+            }
+        }
+        return text;
+    }();
+
+    static constexpr std::string_view VIEW{TEXT.data(), TEXT.size()};
 };
 
 } // namespace SpelledNameDetail
 
-/// The key of a data member: its name without the prefix, "radius" for `&Record::m_radius`.
+/// The name of a data member or member function: "m_radius" for `&Record::m_radius`.
 template <auto Member>
-inline constexpr std::string_view MEMBER_KEY{SpelledNameDetail::MemberKey<Member>::TEXT.data(),
-                                             SpelledNameDetail::MemberKey<Member>::TEXT.size()};
+inline constexpr std::string_view MEMBER_NAME = SpelledNameDetail::Name<&SpelledNameDetail::Spelling<Member>>::VIEW;
+
+/// The key of a data member: its name without the prefix, "radius" for `&Record::m_radius`.
+template <auto Member> inline constexpr std::string_view MEMBER_KEY = SpelledNameDetail::WithoutPrefix(MEMBER_NAME<Member>);
+
+/// The names of a setter and a getter of a record: "SetHue, GetHue".
+template <auto Setter, auto Getter>
+inline constexpr std::string_view ACCESSOR_NAMES = SpelledNameDetail::Pair<Setter, Getter>::VIEW;
 
 /// The name of a class that is no template, without its namespace.
 template <class Type>
-inline constexpr std::string_view TYPE_NAME{SpelledNameDetail::TypeName<Type>::TEXT.data(),
-                                            SpelledNameDetail::TypeName<Type>::TEXT.size()};
+inline constexpr std::string_view TYPE_NAME = SpelledNameDetail::Name<&SpelledNameDetail::Spelling<Type>>::VIEW;
 
 } // namespace Ombrel::Proc
 

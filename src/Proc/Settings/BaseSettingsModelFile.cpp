@@ -1,9 +1,16 @@
 #include "Proc/Settings/BaseSettingsModelFile.h"
 
+#include "Proc/Settings/RecordSource.h"
+
 namespace Ombrel::Proc
 {
 
-const std::string BaseSettingsModelFile::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string BaseSettingsModelFile::CLASS_ID{CLASS_NAME};
+
+const std::string& BaseSettingsModelFile::GetClassId() const
+{
+    return ClassIdOf<BaseSettingsModelFile>();
+}
 
 bool BaseSettingsModelFile::IsEmpty() const
 {

@@ -16,6 +16,8 @@ public:
     static constexpr const char* CLASS_NAME = "BASE_MODELFILE";
     static const std::string CLASS_ID;
 
+    const std::string& GetClassId() const override;
+
     /// False: an effect with a model always does something.
     bool IsEmpty() const override;
 

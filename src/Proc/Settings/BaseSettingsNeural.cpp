@@ -1,11 +1,16 @@
 #include "Proc/Settings/BaseSettingsNeural.h"
 
+#include "Proc/Settings/RecordSource.h"
+
 namespace Ombrel::Proc
 {
 
-const std::string BaseSettingsNeural::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string BaseSettingsNeural::CLASS_ID{CLASS_NAME};
 
-BaseSettingsNeural::~BaseSettingsNeural() = default;
+const std::string& BaseSettingsNeural::GetClassId() const
+{
+    return ClassIdOf<BaseSettingsNeural>();
+}
 
 bool BaseSettingsNeural::operator==(const BaseSettingsNeural& other) const
 {

@@ -16,7 +16,7 @@ public:
     static constexpr const char* CLASS_NAME = "BASE_NEURAL";
     static const std::string CLASS_ID;
 
-    ~BaseSettingsNeural() override;
+    const std::string& GetClassId() const override;
 
     /// Looks at the six members of the base records and at nothing that a derived record adds: it is the comparison of them
     /// all.

@@ -5,84 +5,67 @@
 namespace Ombrel::Proc
 {
 
-template <> struct Fields<FacePoint>
+const RecordSchema& FacePoint::Schema() noexcept
 {
     using R = FacePoint;
-    using List = FieldList<FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>>;
-};
+    return Describe<R, FieldList<FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>>>();
+}
 
-template struct Reflected<FacePoint>;
-template struct Reflected<FramePoints>;
-
-template <> struct Fields<FaceContour>
+const RecordSchema& FaceContour::Schema() noexcept
 {
-    using List = FieldList<FieldDescriptor<&FaceContour::m_contour>>;
-};
+    using R = FaceContour;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_contour>>>();
+}
 
-template struct Reflected<FaceContour>;
-
-template <> struct Fields<EyeContour>
+const RecordSchema& EyeContour::Schema() noexcept
 {
-    using List = FieldList<FieldDescriptor<&EyeContour::m_contour>>;
-};
+    using R = EyeContour;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_contour>>>();
+}
 
-template struct Reflected<EyeContour>;
-
-template <> struct Fields<PupilPoint>
+const RecordSchema& PupilPoint::Schema() noexcept
 {
-    using List = FieldList<FieldDescriptor<&PupilPoint::m_point>>;
-};
+    using R = PupilPoint;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_point>>>();
+}
 
-template struct Reflected<PupilPoint>;
-
-template <> struct Fields<Eye>
+const RecordSchema& Eye::Schema() noexcept
 {
     using R = Eye;
-    using List = FieldList<FieldDescriptor<&R::m_contour>, FieldDescriptor<&R::m_pupil>>;
-};
+    return Describe<R, FieldList<FieldDescriptor<&R::m_contour>, FieldDescriptor<&R::m_pupil>>>();
+}
 
-template struct Reflected<Eye>;
-
-template <> struct Fields<Eyes>
+const RecordSchema& Eyes::Schema() noexcept
 {
     using R = Eyes;
-    using List = FieldList<FieldDescriptor<&R::m_left>, FieldDescriptor<&R::m_right>>;
-};
+    return Describe<R, FieldList<FieldDescriptor<&R::m_left>, FieldDescriptor<&R::m_right>>>();
+}
 
-template struct Reflected<Eyes>;
-
-template <> struct Fields<Eyebrows>
+const RecordSchema& Eyebrows::Schema() noexcept
 {
     using R = Eyebrows;
-    using List = FieldList<FieldDescriptor<&R::m_left>, FieldDescriptor<&R::m_right>>;
-};
+    return Describe<R, FieldList<FieldDescriptor<&R::m_left>, FieldDescriptor<&R::m_right>>>();
+}
 
-template struct Reflected<Eyebrows>;
-
-template <> struct Fields<Nose>
+const RecordSchema& Nose::Schema() noexcept
 {
     using R = Nose;
-    using List = FieldList<FieldDescriptor<&R::m_vertical>, FieldDescriptor<&R::m_horizontal>>;
-};
+    return Describe<R, FieldList<FieldDescriptor<&R::m_vertical>, FieldDescriptor<&R::m_horizontal>>>();
+}
 
-template struct Reflected<Nose>;
-
-template <> struct Fields<Mouth>
+const RecordSchema& Mouth::Schema() noexcept
 {
     using R = Mouth;
-    using List = FieldList<FieldDescriptor<&R::m_outer>, FieldDescriptor<&R::m_inner>>;
-};
+    return Describe<R, FieldList<FieldDescriptor<&R::m_outer>, FieldDescriptor<&R::m_inner>>>();
+}
 
-template struct Reflected<Mouth>;
-
-template <> struct Fields<Face>
+const RecordSchema& Face::Schema() noexcept
 {
     using R = Face;
-    using List = FieldList<FieldDescriptor<&R::m_outline>, FieldDescriptor<&R::m_eyebrows>, FieldDescriptor<&R::m_nose>,
-                           FieldDescriptor<&R::m_eyes>, FieldDescriptor<&R::m_mouth>, FieldDescriptor<&R::m_framePoints>>;
-};
-
-template struct Reflected<Face>;
+    return Describe<R,
+                    FieldList<FieldDescriptor<&R::m_outline>, FieldDescriptor<&R::m_eyebrows>, FieldDescriptor<&R::m_nose>,
+                              FieldDescriptor<&R::m_eyes>, FieldDescriptor<&R::m_mouth>, FieldDescriptor<&R::m_framePoints>>>();
+}
 
 bool Face::IsEmpty() const
 {

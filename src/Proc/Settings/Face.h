@@ -13,8 +13,12 @@
 namespace Ombrel::Proc
 {
 
+struct RecordSchema;
+
 struct FacePoint
 {
+    OMBREL_API static const RecordSchema& Schema() noexcept;
+
     bool operator==(const FacePoint&) const = default;
 
     std::int32_t m_x = 0;
@@ -24,6 +28,8 @@ struct FacePoint
 /// A line through points: the outline of a face, an eyebrow, a line of the nose, a lip.
 struct FaceContour
 {
+    OMBREL_API static const RecordSchema& Schema() noexcept;
+
     bool operator==(const FaceContour&) const = default;
 
     std::vector<FacePoint> m_contour;
@@ -32,6 +38,8 @@ struct FaceContour
 /// The lid line of an eye. A type of its own, so that it is not taken for any other line.
 struct EyeContour
 {
+    OMBREL_API static const RecordSchema& Schema() noexcept;
+
     bool operator==(const EyeContour&) const = default;
 
     std::vector<FacePoint> m_contour;
@@ -40,6 +48,8 @@ struct EyeContour
 /// The centre of a pupil, outside the image where none was found.
 struct PupilPoint
 {
+    OMBREL_API static const RecordSchema& Schema() noexcept;
+
     bool operator==(const PupilPoint&) const = default;
 
     FacePoint m_point{-1, -1};
@@ -47,6 +57,8 @@ struct PupilPoint
 
 struct Eye
 {
+    OMBREL_API static const RecordSchema& Schema() noexcept;
+
     bool operator==(const Eye&) const = default;
 
     EyeContour m_contour;
@@ -55,6 +67,8 @@ struct Eye
 
 struct Eyes
 {
+    OMBREL_API static const RecordSchema& Schema() noexcept;
+
     bool operator==(const Eyes&) const = default;
 
     Eye m_left;
@@ -63,6 +77,8 @@ struct Eyes
 
 struct Eyebrows
 {
+    OMBREL_API static const RecordSchema& Schema() noexcept;
+
     bool operator==(const Eyebrows&) const = default;
 
     FaceContour m_left;
@@ -71,6 +87,8 @@ struct Eyebrows
 
 struct Nose
 {
+    OMBREL_API static const RecordSchema& Schema() noexcept;
+
     bool operator==(const Nose&) const = default;
 
     FaceContour m_vertical;
@@ -79,6 +97,8 @@ struct Nose
 
 struct Mouth
 {
+    OMBREL_API static const RecordSchema& Schema() noexcept;
+
     bool operator==(const Mouth&) const = default;
 
     FaceContour m_outer;
@@ -92,6 +112,8 @@ using FramePoints = std::pair<FacePoint, FacePoint>;
 class OMBREL_API Face
 {
 public:
+    static const RecordSchema& Schema() noexcept;
+
     /// True if the face equals a default one: nothing was found.
     bool IsEmpty() const;
 

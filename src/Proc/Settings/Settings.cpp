@@ -1,5 +1,8 @@
 #include "Proc/Settings/Settings.h"
 
+#include "Proc/Reflection/Schema.h"
+#include "Proc/Settings/SettingsRecord.h"
+
 namespace Ombrel::Proc
 {
 
@@ -9,5 +12,10 @@ bool Settings::IsEmpty() const
 }
 
 void Settings::Deserialize(const std::string&) {}
+
+bool AreFieldsEqual(const RecordSchema& schema, const void* a, const void* b)
+{
+    return schema.equal(a, b);
+}
 
 } // namespace Ombrel::Proc

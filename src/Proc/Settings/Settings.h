@@ -4,10 +4,13 @@
 #include "OmbrelExport.h"
 #include "Proc/Settings/StoredKeys.h"
 
+#include <concepts>
 #include <string>
 
 namespace Ombrel::Proc
 {
+
+struct RecordSchema;
 
 /// The base of every record: the plain parameters of one effect. The order of the virtual operations is fixed.
 class OMBREL_API Settings
@@ -38,6 +41,10 @@ public:
 protected:
     Settings() = default;
 };
+
+/// Records of two types do not compare, though both may be converted to a base that does.
+template <std::derived_from<Settings> A, std::derived_from<Settings> B>
+requires(!std::same_as<A, B>) bool operator==(const A&, const B&) = delete;
 
 } // namespace Ombrel::Proc
 

@@ -1,14 +1,14 @@
 #include "Proc/Settings/SettingsColorspaceConverter.h"
 
-#include "Proc/Reflection/Folds.h"
 #include "Proc/Settings/PixFmtNames.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
+namespace
+{
 
-const std::string SettingsColorspaceConverter::CLASS_ID{CLASS_NAME};
-
-template <> struct Fields<SettingsColorspaceConverter>
+struct ConverterFields
 {
     using R = SettingsColorspaceConverter;
 
@@ -46,7 +46,19 @@ template <> struct Fields<SettingsColorspaceConverter>
                            AccessorDescriptor<"requiredFormats", &AddFormats, &R::GetRequiredFormats>>;
 };
 
-template struct Reflected<SettingsColorspaceConverter>;
+} // namespace
+
+OMBREL_EARLY_INIT const std::string SettingsColorspaceConverter::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsColorspaceConverter::GetClassId() const
+{
+    return ClassIdOf<SettingsColorspaceConverter>();
+}
+
+const RecordSchema& SettingsColorspaceConverter::Schema() noexcept
+{
+    return Describe<SettingsColorspaceConverter, ConverterFields::List>();
+}
 
 bool SettingsColorspaceConverter::IsEmpty() const
 {

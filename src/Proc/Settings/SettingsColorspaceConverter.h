@@ -15,6 +15,9 @@ class OMBREL_API SettingsColorspaceConverter : public SettingsRecord<SettingsCol
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_COLORSPACE_CONVERTER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if every value has its default.
     bool IsEmpty() const override;

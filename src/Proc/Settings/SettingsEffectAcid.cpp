@@ -1,28 +1,26 @@
 #include "Proc/Settings/SettingsEffectAcid.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectAcid::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectAcid::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectAcid>
+const std::string& SettingsEffectAcid::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectAcid>();
+}
+
+const RecordSchema& SettingsEffectAcid::Schema() noexcept
 {
     using R = SettingsEffectAcid;
-    using List = FieldList<FieldDescriptor<&R::radius>, FieldDescriptor<&R::sigma>>;
-};
-
-template struct Reflected<SettingsEffectAcid>;
+    return Describe<R, FieldList<FieldDescriptor<&R::radius>, FieldDescriptor<&R::sigma>>>();
+}
 
 bool SettingsEffectAcid::IsEmpty() const
 {
     return radius == 0;
-}
-
-bool SettingsEffectAcid::operator==(const SettingsEffectAcid& other) const
-{
-    return Reflected<SettingsEffectAcid>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -8,16 +8,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectAcid : public SettingsRecord<SettingsEffectAcid>
+class OMBREL_API SettingsEffectAcid : public ComparedRecord<SettingsEffectAcid>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_ACID";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if `radius` is 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectAcid& other) const;
 
     std::int32_t radius = 0;
     double sigma = 0.5;

@@ -13,18 +13,17 @@ namespace Ombrel::Proc
 
 /// The tone panel: five records of other effects side by side with fifteen controls of its own. A missing nested record takes
 /// the value that it has in here by default, a missing field of one that is present the nested record's own default.
-class OMBREL_API SettingsEffectAdjuster : public SettingsRecord<SettingsEffectAdjuster>
+class OMBREL_API SettingsEffectAdjuster : public ComparedRecord<SettingsEffectAdjuster>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_ADJUSTER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// The smart blur starts with both radii at 100, unlike a smart blur that stands alone.
     SettingsEffectAdjuster();
-    ~SettingsEffectAdjuster() override;
-
-    bool operator==(const SettingsEffectAdjuster& other) const;
-
     SettingsEffectColorBalanceAuto m_colorBalanceAuto;
     SettingsEffectColorBalance m_colorBalance;
     SettingsEffectVibrance m_vibrance;

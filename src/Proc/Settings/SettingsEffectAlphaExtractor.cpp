@@ -1,25 +1,20 @@
 #include "Proc/Settings/SettingsEffectAlphaExtractor.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectAlphaExtractor::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectAlphaExtractor::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectAlphaExtractor>
+const std::string& SettingsEffectAlphaExtractor::GetClassId() const
 {
-    using R = SettingsEffectAlphaExtractor;
-    using List = FieldList<>;
-};
+    return ClassIdOf<SettingsEffectAlphaExtractor>();
+}
 
-template struct Reflected<SettingsEffectAlphaExtractor>;
-
-SettingsEffectAlphaExtractor::~SettingsEffectAlphaExtractor() = default;
-
-bool SettingsEffectAlphaExtractor::operator==(const SettingsEffectAlphaExtractor& other) const
+const RecordSchema& SettingsEffectAlphaExtractor::Schema() noexcept
 {
-    return Reflected<SettingsEffectAlphaExtractor>::Equal(*this, other);
+    return Describe<SettingsEffectAlphaExtractor, FieldList<>>();
 }
 
 } // namespace Ombrel::Proc

@@ -6,17 +6,16 @@
 namespace Ombrel::Proc
 {
 
-/// Makes a picture of the alpha channel. It has no parameters and no neutral state: it is never empty.
-class OMBREL_API SettingsEffectAlphaExtractor : public SettingsRecord<SettingsEffectAlphaExtractor>
+/// Makes a picture of the alpha channel. It has no parameters and no neutral state: it is never empty, and any two are
+/// equal.
+class OMBREL_API SettingsEffectAlphaExtractor : public ComparedRecord<SettingsEffectAlphaExtractor>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_ALPHA_EXTRACTOR";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectAlphaExtractor() override;
-
-    /// True: there is nothing to differ in.
-    bool operator==(const SettingsEffectAlphaExtractor& other) const;
+    const std::string& GetClassId() const override;
 };
 
 } // namespace Ombrel::Proc

@@ -1,25 +1,21 @@
 #include "Proc/Settings/SettingsEffectAutoEnhance.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectAutoEnhance::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectAutoEnhance::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectAutoEnhance>
+const std::string& SettingsEffectAutoEnhance::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectAutoEnhance>();
+}
+
+const RecordSchema& SettingsEffectAutoEnhance::Schema() noexcept
 {
     using R = SettingsEffectAutoEnhance;
-    using List = FieldList<FieldDescriptor<&R::m_intensity>>;
-};
-
-template struct Reflected<SettingsEffectAutoEnhance>;
-
-SettingsEffectAutoEnhance::~SettingsEffectAutoEnhance() = default;
-
-bool SettingsEffectAutoEnhance::operator==(const SettingsEffectAutoEnhance& other) const
-{
-    return Reflected<SettingsEffectAutoEnhance>::Equal(*this, other);
+    return Describe<R, FieldList<FieldDescriptor<&R::m_intensity>>>();
 }
 
 } // namespace Ombrel::Proc

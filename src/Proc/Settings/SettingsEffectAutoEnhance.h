@@ -6,15 +6,14 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectAutoEnhance : public SettingsRecord<SettingsEffectAutoEnhance>
+class OMBREL_API SettingsEffectAutoEnhance : public ComparedRecord<SettingsEffectAutoEnhance>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_AUTO_ENHANCE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectAutoEnhance() override;
-
-    bool operator==(const SettingsEffectAutoEnhance& other) const;
+    const std::string& GetClassId() const override;
 
     double m_intensity = 100.0;
 };

@@ -1,30 +1,26 @@
 #include "Proc/Settings/SettingsEffectAutoGlareRemove.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectAutoGlareRemove::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectAutoGlareRemove::CLASS_ID{CLASS_NAME};
 
-extern template struct Reflected<Face>;
+const std::string& SettingsEffectAutoGlareRemove::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectAutoGlareRemove>();
+}
 
-template <> struct Fields<SettingsEffectAutoGlareRemove>
+const RecordSchema& SettingsEffectAutoGlareRemove::Schema() noexcept
 {
     using R = SettingsEffectAutoGlareRemove;
-    using List = FieldList<FieldDescriptor<&R::m_face>>;
-};
-
-template struct Reflected<SettingsEffectAutoGlareRemove>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_face>>>();
+}
 
 bool SettingsEffectAutoGlareRemove::IsEmpty() const
 {
     return m_face.IsEmpty();
-}
-
-bool SettingsEffectAutoGlareRemove::operator==(const SettingsEffectAutoGlareRemove& other) const
-{
-    return Reflected<SettingsEffectAutoGlareRemove>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

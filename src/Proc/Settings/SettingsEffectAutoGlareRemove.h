@@ -7,16 +7,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectAutoGlareRemove : public SettingsRecord<SettingsEffectAutoGlareRemove>
+class OMBREL_API SettingsEffectAutoGlareRemove : public ComparedRecord<SettingsEffectAutoGlareRemove>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_AUTO_GLARE_REMOVE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if the face is empty.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectAutoGlareRemove& other) const;
 
     Face m_face;
 };

@@ -8,16 +8,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectBalanceLuma : public SettingsRecord<SettingsEffectBalanceLuma>
+class OMBREL_API SettingsEffectBalanceLuma : public ComparedRecord<SettingsEffectBalanceLuma>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_BALANCE_LUMA";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if the three numbers are 0 and the automatic contrast is off.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectBalanceLuma& other) const;
 
     std::int32_t m_shadows = 0;
     std::int32_t m_highlights = 0;

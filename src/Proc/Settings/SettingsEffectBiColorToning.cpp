@@ -1,26 +1,22 @@
 #include "Proc/Settings/SettingsEffectBiColorToning.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 #include "Proc/Settings/RgbaColorCodec.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectBiColorToning::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectBiColorToning::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectBiColorToning>
+const std::string& SettingsEffectBiColorToning::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectBiColorToning>();
+}
+
+const RecordSchema& SettingsEffectBiColorToning::Schema() noexcept
 {
     using R = SettingsEffectBiColorToning;
-    using List = FieldList<FieldDescriptor<&R::m_colorFirst>, FieldDescriptor<&R::m_colorSecond>>;
-};
-
-template struct Reflected<SettingsEffectBiColorToning>;
-
-SettingsEffectBiColorToning::~SettingsEffectBiColorToning() = default;
-
-bool SettingsEffectBiColorToning::operator==(const SettingsEffectBiColorToning& other) const
-{
-    return Reflected<SettingsEffectBiColorToning>::Equal(*this, other);
+    return Describe<R, FieldList<FieldDescriptor<&R::m_colorFirst>, FieldDescriptor<&R::m_colorSecond>>>();
 }
 
 } // namespace Ombrel::Proc

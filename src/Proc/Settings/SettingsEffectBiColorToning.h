@@ -7,15 +7,14 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectBiColorToning : public SettingsRecord<SettingsEffectBiColorToning>
+class OMBREL_API SettingsEffectBiColorToning : public ComparedRecord<SettingsEffectBiColorToning>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_BI_COLOR_TONING";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectBiColorToning() override;
-
-    bool operator==(const SettingsEffectBiColorToning& other) const;
+    const std::string& GetClassId() const override;
 
     RgbaColor m_colorFirst;
     RgbaColor m_colorSecond{255, 255, 255, 255};

@@ -7,15 +7,14 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectBlackWhite : public SettingsRecord<SettingsEffectBlackWhite>
+class OMBREL_API SettingsEffectBlackWhite : public ComparedRecord<SettingsEffectBlackWhite>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_BLACK_WHITE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectBlackWhite() override;
-
-    bool operator==(const SettingsEffectBlackWhite& other) const;
+    const std::string& GetClassId() const override;
 
     double m_threshold = 0.5;
     RgbaColor m_black;

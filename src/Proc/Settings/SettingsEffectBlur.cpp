@@ -1,12 +1,17 @@
 #include "Proc/Settings/SettingsEffectBlur.h"
 
-#include "Proc/Reflection/Folds.h"
 #include "Proc/Settings/PixFmtNames.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectBlur::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectBlur::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectBlur::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectBlur>();
+}
 
 template <> struct EnumNames<SettingsEffectBlur::Algorithm>
 {
@@ -35,25 +40,24 @@ template <> struct EnumNames<SettingsEffectBlur::BlurScaleType>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectBlur>
+const RecordSchema& SettingsEffectBlur::Schema() noexcept
 {
     using R = SettingsEffectBlur;
-    using List = FieldList<FieldDescriptor<&R::m_algorithm>, FieldDescriptor<&R::m_scaleType>,
-                           FieldDescriptor<&R::m_pixelFormat>, FieldDescriptor<&R::m_kernelLength>,
-                           FieldDescriptor<&R::m_iterations>, FieldDescriptor<&R::m_planesMask>, FieldDescriptor<&R::m_devX>,
-                           FieldDescriptor<&R::m_devY>, FieldDescriptor<&R::m_scaleX>, FieldDescriptor<&R::m_scaleY>>;
-};
-
-template struct Reflected<SettingsEffectBlur>;
+    return Describe<
+        R, FieldList<AccessorDescriptor<"algorithm", &R::SetAlgorithm, &R::GetAlgorithm>,
+                     AccessorDescriptor<"scaleType", &R::SetScaleType, &R::GetScaleType>,
+                     AccessorDescriptor<"pixelFormat", &R::SetPixelFormat, &R::GetPixelFormat>,
+                     AccessorDescriptor<"kernelLength", &R::SetKernelLength, &R::GetKernelLength>,
+                     AccessorDescriptor<"iterations", &R::SetIterations, &R::GetIterations>,
+                     AccessorDescriptor<"planesMask", &R::SetPlanesMask, &R::GetPlanesMask>,
+                     AccessorDescriptor<"devX", &R::SetDevX, &R::GetDevX>, AccessorDescriptor<"devY", &R::SetDevY, &R::GetDevY>,
+                     AccessorDescriptor<"scaleX", &R::SetScaleX, &R::GetScaleX>,
+                     AccessorDescriptor<"scaleY", &R::SetScaleY, &R::GetScaleY>>>();
+}
 
 bool SettingsEffectBlur::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectBlur>::Default();
-}
-
-bool SettingsEffectBlur::operator==(const SettingsEffectBlur& other) const
-{
-    return Reflected<SettingsEffectBlur>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

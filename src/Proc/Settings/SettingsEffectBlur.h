@@ -11,11 +11,14 @@ namespace Ombrel::Proc
 
 /// Blur by one of several algorithms. Every value is stored as given. With a kernel length and deviations of 0 the picture
 /// stays as it is.
-class OMBREL_API SettingsEffectBlur : public SettingsRecord<SettingsEffectBlur>
+class OMBREL_API SettingsEffectBlur : public ComparedRecord<SettingsEffectBlur>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_BLUR";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class Algorithm : std::int32_t
     {
@@ -71,11 +74,7 @@ public:
     double GetScaleY() const { return m_scaleY; }
     void SetScaleY(double value) { m_scaleY = value; }
 
-    bool operator==(const SettingsEffectBlur& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     // The stored order of the keys is another.
     Algorithm m_algorithm;
     std::int32_t m_kernelLength = 0;

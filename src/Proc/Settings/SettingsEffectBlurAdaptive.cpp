@@ -1,28 +1,26 @@
 #include "Proc/Settings/SettingsEffectBlurAdaptive.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectBlurAdaptive::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectBlurAdaptive::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectBlurAdaptive>
+const std::string& SettingsEffectBlurAdaptive::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectBlurAdaptive>();
+}
+
+const RecordSchema& SettingsEffectBlurAdaptive::Schema() noexcept
 {
     using R = SettingsEffectBlurAdaptive;
-    using List = FieldList<FieldDescriptor<&R::m_radius>, FieldDescriptor<&R::m_sigma>>;
-};
-
-template struct Reflected<SettingsEffectBlurAdaptive>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_radius>, FieldDescriptor<&R::m_sigma>>>();
+}
 
 bool SettingsEffectBlurAdaptive::IsEmpty() const
 {
     return m_radius == 0.0 || m_sigma == 0.0;
-}
-
-bool SettingsEffectBlurAdaptive::operator==(const SettingsEffectBlurAdaptive& other) const
-{
-    return Reflected<SettingsEffectBlurAdaptive>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -6,16 +6,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectBlurAdaptive : public SettingsRecord<SettingsEffectBlurAdaptive>
+class OMBREL_API SettingsEffectBlurAdaptive : public ComparedRecord<SettingsEffectBlurAdaptive>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_BLUR_ADAPTIVE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if `m_radius` or `m_sigma` is 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectBlurAdaptive& other) const;
 
     double m_radius = 3.0;
     double m_sigma = 1.0;

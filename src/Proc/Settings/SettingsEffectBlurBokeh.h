@@ -8,16 +8,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectBlurBokeh : public SettingsRecord<SettingsEffectBlurBokeh>
+class OMBREL_API SettingsEffectBlurBokeh : public ComparedRecord<SettingsEffectBlurBokeh>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_BLUR_BOKEH";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if `m_bokeh` is empty, or `m_size` or `m_strength` is 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectBlurBokeh& other) const;
 
     std::string m_bokeh;
     double m_size = 0.05;

@@ -1,28 +1,26 @@
 #include "Proc/Settings/SettingsEffectBlurMotion.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectBlurMotion::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectBlurMotion::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectBlurMotion>
+const std::string& SettingsEffectBlurMotion::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectBlurMotion>();
+}
+
+const RecordSchema& SettingsEffectBlurMotion::Schema() noexcept
 {
     using R = SettingsEffectBlurMotion;
-    using List = FieldList<FieldDescriptor<&R::m_radius>, FieldDescriptor<&R::m_sigma>, FieldDescriptor<&R::m_angle>>;
-};
-
-template struct Reflected<SettingsEffectBlurMotion>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_radius>, FieldDescriptor<&R::m_sigma>, FieldDescriptor<&R::m_angle>>>();
+}
 
 bool SettingsEffectBlurMotion::IsEmpty() const
 {
     return m_radius == 0;
-}
-
-bool SettingsEffectBlurMotion::operator==(const SettingsEffectBlurMotion& other) const
-{
-    return Reflected<SettingsEffectBlurMotion>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectBlurRadial.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectBlurRadial::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectBlurRadial::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectBlurRadial::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectBlurRadial>();
+}
 
 template <> struct EnumNames<SettingsEffectBlurRadial::BlurRadialMode>
 {
@@ -19,31 +24,23 @@ template <> struct EnumNames<SettingsEffectBlurRadial::BlurRadialMode>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectBlurRadial::TracePoint>
+const RecordSchema& SettingsEffectBlurRadial::TracePoint::Schema() noexcept
 {
-    using R = SettingsEffectBlurRadial::TracePoint;
-    using List = FieldList<FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>>;
-};
+    using R = TracePoint;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>>>();
+}
 
-template struct Reflected<SettingsEffectBlurRadial::TracePoint>;
-
-template <> struct Fields<SettingsEffectBlurRadial>
+const RecordSchema& SettingsEffectBlurRadial::Schema() noexcept
 {
     using R = SettingsEffectBlurRadial;
-    using List = FieldList<FieldDescriptor<&R::m_mode>, FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>,
-                           FieldDescriptor<&R::m_strength>, FieldDescriptor<&R::m_angle>, FieldDescriptor<&R::m_trace>>;
-};
-
-template struct Reflected<SettingsEffectBlurRadial>;
+    return Describe<R,
+                    FieldList<FieldDescriptor<&R::m_mode>, FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>,
+                              FieldDescriptor<&R::m_strength>, FieldDescriptor<&R::m_angle>, FieldDescriptor<&R::m_trace>>>();
+}
 
 bool SettingsEffectBlurRadial::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectBlurRadial>::Default();
-}
-
-bool SettingsEffectBlurRadial::operator==(const SettingsEffectBlurRadial& other) const
-{
-    return Reflected<SettingsEffectBlurRadial>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

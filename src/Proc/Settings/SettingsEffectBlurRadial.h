@@ -10,11 +10,14 @@ namespace Ombrel::Proc
 {
 
 /// Blur around a point, along a line or along a trace of points. With a strength of 0 the picture stays as it is.
-class OMBREL_API SettingsEffectBlurRadial : public SettingsRecord<SettingsEffectBlurRadial>
+class OMBREL_API SettingsEffectBlurRadial : public ComparedRecord<SettingsEffectBlurRadial>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_BLUR_RADIAL";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class BlurRadialMode : std::int32_t
     {
@@ -25,6 +28,8 @@ public:
 
     struct TracePoint
     {
+        OMBREL_API static const RecordSchema& Schema() noexcept;
+
         bool operator==(const TracePoint&) const = default;
 
         std::int32_t m_x = 0;
@@ -33,8 +38,6 @@ public:
 
     /// True if the record is as by default.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectBlurRadial& other) const;
 
     BlurRadialMode m_mode = BlurRadialMode::Radial;
     double m_x = 0.0;

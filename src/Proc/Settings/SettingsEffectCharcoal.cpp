@@ -1,28 +1,26 @@
 #include "Proc/Settings/SettingsEffectCharcoal.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectCharcoal::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectCharcoal::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectCharcoal>
+const std::string& SettingsEffectCharcoal::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectCharcoal>();
+}
+
+const RecordSchema& SettingsEffectCharcoal::Schema() noexcept
 {
     using R = SettingsEffectCharcoal;
-    using List = FieldList<FieldDescriptor<&R::m_radius>, FieldDescriptor<&R::m_sigma>>;
-};
-
-template struct Reflected<SettingsEffectCharcoal>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_radius>, FieldDescriptor<&R::m_sigma>>>();
+}
 
 bool SettingsEffectCharcoal::IsEmpty() const
 {
     return m_radius == 0;
-}
-
-bool SettingsEffectCharcoal::operator==(const SettingsEffectCharcoal& other) const
-{
-    return Reflected<SettingsEffectCharcoal>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -9,16 +9,17 @@ namespace Ombrel::Proc
 {
 
 /// Charcoal drawing.
-class OMBREL_API SettingsEffectCharcoal : public SettingsRecord<SettingsEffectCharcoal>
+class OMBREL_API SettingsEffectCharcoal : public ComparedRecord<SettingsEffectCharcoal>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_CHARCOAL";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if `m_radius` is 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectCharcoal& other) const;
 
     std::int32_t m_radius = 0;
     double m_sigma = 0.5;

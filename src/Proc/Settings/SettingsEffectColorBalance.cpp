@@ -1,22 +1,30 @@
 #include "Proc/Settings/SettingsEffectColorBalance.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectColorBalance::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectColorBalance::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectColorBalance>
+const std::string& SettingsEffectColorBalance::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectColorBalance>();
+}
+
+const RecordSchema& SettingsEffectColorBalance::Schema() noexcept
 {
     using R = SettingsEffectColorBalance;
-    using List = FieldList<FieldDescriptor<&R::m_brightness>, FieldDescriptor<&R::m_contrast>,
-                           FieldDescriptor<&R::m_saturation>, AccessorDescriptor<"hue", &R::SetHue, &R::GetHue>,
-                           FieldDescriptor<&R::m_gamma>, FieldDescriptor<&R::m_gammaRed>, FieldDescriptor<&R::m_gammaGreen>,
-                           FieldDescriptor<&R::m_gammaBlue>, FieldDescriptor<&R::m_gammaWeight>>;
-};
-
-template struct Reflected<SettingsEffectColorBalance>;
+    return Describe<
+        R, FieldList<AccessorDescriptor<"brightness", &R::SetBrightness, &R::GetBrightness>,
+                     AccessorDescriptor<"contrast", &R::SetContrast, &R::GetContrast>,
+                     AccessorDescriptor<"saturation", &R::SetSaturation, &R::GetSaturation>,
+                     AccessorDescriptor<"hue", &R::SetHue, &R::GetHue>, AccessorDescriptor<"gamma", &R::SetGamma, &R::GetGamma>,
+                     AccessorDescriptor<"gammaRed", &R::SetGammaRed, &R::GetGammaRed>,
+                     AccessorDescriptor<"gammaGreen", &R::SetGammaGreen, &R::GetGammaGreen>,
+                     AccessorDescriptor<"gammaBlue", &R::SetGammaBlue, &R::GetGammaBlue>,
+                     AccessorDescriptor<"gammaWeight", &R::SetGammaWeight, &R::GetGammaWeight>>>();
+}
 
 bool SettingsEffectColorBalance::IsEmpty() const
 {
@@ -32,11 +40,6 @@ void SettingsEffectColorBalance::SetHue(std::int32_t value)
     }
     const std::int64_t turned = (std::int64_t{value} + 180) % 360; // 64 bits: the sum may not fit 32
     m_hue = static_cast<std::int32_t>((turned + 360) % 360 - 180);
-}
-
-bool SettingsEffectColorBalance::operator==(const SettingsEffectColorBalance& other) const
-{
-    return Reflected<SettingsEffectColorBalance>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -9,11 +9,14 @@ namespace Ombrel::Proc
 {
 
 /// Manual colour balance. Every value is stored as given but the hue.
-class OMBREL_API SettingsEffectColorBalance : public SettingsRecord<SettingsEffectColorBalance>
+class OMBREL_API SettingsEffectColorBalance : public ComparedRecord<SettingsEffectColorBalance>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_COLOR_BALANCE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if all nine values are 0.
     bool IsEmpty() const override;
@@ -47,11 +50,7 @@ public:
     std::int32_t GetGammaWeight() const { return m_gammaWeight; }
     void SetGammaWeight(std::int32_t value) { m_gammaWeight = value; }
 
-    bool operator==(const SettingsEffectColorBalance& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     std::int32_t m_brightness = 0;
     std::int32_t m_contrast = 0;
     std::int32_t m_saturation = 0;

@@ -8,16 +8,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectColorBalanceAuto : public SettingsRecord<SettingsEffectColorBalanceAuto>
+class OMBREL_API SettingsEffectColorBalanceAuto : public ComparedRecord<SettingsEffectColorBalanceAuto>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_COLOR_BALANCE_AUTO";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if both balances are off and `m_exposure` is 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectColorBalanceAuto& other) const;
 
     bool m_whiteBalance = false;
     bool m_lightBalance = false;

@@ -5,6 +5,11 @@
 namespace Ombrel::Proc
 {
 
+SettingsEffectColorBlender::SettingsEffectColorBlender() = default;
+SettingsEffectColorBlender::SettingsEffectColorBlender(const SettingsEffectColorBlender&) = default;
+SettingsEffectColorBlender::SettingsEffectColorBlender(SettingsEffectColorBlender&&) noexcept = default;
+SettingsEffectColorBlender& SettingsEffectColorBlender::operator=(const SettingsEffectColorBlender&) = default;
+SettingsEffectColorBlender& SettingsEffectColorBlender::operator=(SettingsEffectColorBlender&&) noexcept = default;
 SettingsEffectColorBlender::~SettingsEffectColorBlender() = default;
 
 std::int32_t SettingsEffectColorBlender::GetAlpha() const

@@ -8,8 +8,6 @@
 namespace Ombrel::Proc
 {
 
-template <class> struct Fields;
-
 /// Where something is laid on a picture, and how strongly. A base for records; every value is stored as given.
 class OMBREL_API SettingsEffectColorBlender : public Settings
 {
@@ -20,6 +18,10 @@ public:
         KeepDstAlpha = 26,
     };
 
+    SettingsEffectColorBlender(const SettingsEffectColorBlender&);
+    SettingsEffectColorBlender(SettingsEffectColorBlender&&) noexcept;
+    SettingsEffectColorBlender& operator=(const SettingsEffectColorBlender&);
+    SettingsEffectColorBlender& operator=(SettingsEffectColorBlender&&) noexcept;
     ~SettingsEffectColorBlender() override;
 
     std::int32_t GetPositionX() const { return m_positionX; }
@@ -45,11 +47,9 @@ public:
     bool operator==(const SettingsEffectColorBlender& other) const;
 
 protected:
-    SettingsEffectColorBlender() = default;
+    SettingsEffectColorBlender();
 
 private:
-    template <class> friend struct Fields;
-
     std::int32_t m_positionX = 0;
     std::int32_t m_positionY = 0;
     float m_intensity = 0.0f;

@@ -1,13 +1,13 @@
 #include "Proc/Settings/SettingsEffectColorChannelMixer.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
+namespace
+{
 
-const std::string SettingsEffectColorChannelMixer::CLASS_ID{CLASS_NAME};
-
-template <> struct Fields<SettingsEffectColorChannelMixer>
+struct ChannelMixerFields
 {
     using Mixer = SettingsEffectColorChannelMixer;
     using Channel = Mixer::Channel;
@@ -31,7 +31,19 @@ template <> struct Fields<SettingsEffectColorChannelMixer>
     // clang-format on
 };
 
-template struct Reflected<SettingsEffectColorChannelMixer>;
+} // namespace
+
+OMBREL_EARLY_INIT const std::string SettingsEffectColorChannelMixer::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectColorChannelMixer::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectColorChannelMixer>();
+}
+
+const RecordSchema& SettingsEffectColorChannelMixer::Schema() noexcept
+{
+    return Describe<SettingsEffectColorChannelMixer, ChannelMixerFields::List>();
+}
 
 bool SettingsEffectColorChannelMixer::IsEmpty() const
 {

@@ -17,6 +17,9 @@ class OMBREL_API SettingsEffectColorChannelMixer : public SettingsRecord<Setting
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_COLOR_CHANNEL_MIXER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class Channel : std::int32_t
     {

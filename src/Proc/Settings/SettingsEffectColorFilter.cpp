@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectColorFilter.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectColorFilter::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectColorFilter::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectColorFilter::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectColorFilter>();
+}
 
 template <> struct EnumNames<SettingsEffectColorFilter::Preset>
 {
@@ -53,28 +58,21 @@ template <> struct EnumNames<SettingsEffectColorFilter::Preset>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectColorFilter>
+const RecordSchema& SettingsEffectColorFilter::Schema() noexcept
 {
     using R = SettingsEffectColorFilter;
-    using List = FieldList<AccessorDescriptor<"preset", &R::SetPreset, &R::GetPreset>,
-                           AccessorDescriptor<"filterId", &R::SetFilterId, &R::GetFilterId>,
-                           AccessorDescriptor<"RFactor", &R::SetRFactor, &R::GetRFactor>,
-                           AccessorDescriptor<"GFactor", &R::SetGFactor, &R::GetGFactor>,
-                           AccessorDescriptor<"BFactor", &R::SetBFactor, &R::GetBFactor>,
-                           AccessorDescriptor<"colorFactor", &R::SetColorFactor, &R::GetColorFactor>,
-                           AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>;
-};
-
-template struct Reflected<SettingsEffectColorFilter>;
+    return Describe<R, FieldList<AccessorDescriptor<"preset", &R::SetPreset, &R::GetPreset>,
+                                 AccessorDescriptor<"filterId", &R::SetFilterId, &R::GetFilterId>,
+                                 AccessorDescriptor<"RFactor", &R::SetRFactor, &R::GetRFactor>,
+                                 AccessorDescriptor<"GFactor", &R::SetGFactor, &R::GetGFactor>,
+                                 AccessorDescriptor<"BFactor", &R::SetBFactor, &R::GetBFactor>,
+                                 AccessorDescriptor<"colorFactor", &R::SetColorFactor, &R::GetColorFactor>,
+                                 AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>>();
+}
 
 bool SettingsEffectColorFilter::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectColorFilter>::Default();
-}
-
-bool SettingsEffectColorFilter::operator==(const SettingsEffectColorFilter& other) const
-{
-    return Reflected<SettingsEffectColorFilter>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

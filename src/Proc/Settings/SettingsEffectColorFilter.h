@@ -10,11 +10,14 @@ namespace Ombrel::Proc
 
 /// A filter by preset. Any preset colours a picture, so that the intensity is what starts at 0. Every value is stored as
 /// given.
-class OMBREL_API SettingsEffectColorFilter : public SettingsRecord<SettingsEffectColorFilter>
+class OMBREL_API SettingsEffectColorFilter : public ComparedRecord<SettingsEffectColorFilter>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_COLOR_FILTER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class Preset : std::int32_t
     {
@@ -80,8 +83,6 @@ public:
 
     float GetIntensity() const { return m_intensity; }
     void SetIntensity(float value) { m_intensity = value; }
-
-    bool operator==(const SettingsEffectColorFilter& other) const;
 
 private:
     Preset m_preset = Preset::enPraset01;

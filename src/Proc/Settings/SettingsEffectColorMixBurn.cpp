@@ -1,28 +1,26 @@
 #include "Proc/Settings/SettingsEffectColorMixBurn.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectColorMixBurn::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectColorMixBurn::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectColorMixBurn>
+const std::string& SettingsEffectColorMixBurn::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectColorMixBurn>();
+}
+
+const RecordSchema& SettingsEffectColorMixBurn::Schema() noexcept
 {
     using R = SettingsEffectColorMixBurn;
-    using List = FieldList<AccessorDescriptor<"strength", &R::SetStrength, &R::GetStrength>>;
-};
-
-template struct Reflected<SettingsEffectColorMixBurn>;
+    return Describe<R, FieldList<AccessorDescriptor<"strength", &R::SetStrength, &R::GetStrength>>>();
+}
 
 bool SettingsEffectColorMixBurn::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectColorMixBurn>::Default();
-}
-
-bool SettingsEffectColorMixBurn::operator==(const SettingsEffectColorMixBurn& other) const
-{
-    return Reflected<SettingsEffectColorMixBurn>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectColorReduce.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectColorReduce::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectColorReduce::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectColorReduce::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectColorReduce>();
+}
 
 template <> struct EnumNames<SettingsEffectColorReduce::ReducedColor>
 {
@@ -19,19 +24,10 @@ template <> struct EnumNames<SettingsEffectColorReduce::ReducedColor>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectColorReduce>
+const RecordSchema& SettingsEffectColorReduce::Schema() noexcept
 {
     using R = SettingsEffectColorReduce;
-    using List = FieldList<FieldDescriptor<&R::m_threshold>, FieldDescriptor<&R::m_reducedColor>>;
-};
-
-template struct Reflected<SettingsEffectColorReduce>;
-
-SettingsEffectColorReduce::~SettingsEffectColorReduce() = default;
-
-bool SettingsEffectColorReduce::operator==(const SettingsEffectColorReduce& other) const
-{
-    return Reflected<SettingsEffectColorReduce>::Equal(*this, other);
+    return Describe<R, FieldList<FieldDescriptor<&R::m_threshold>, FieldDescriptor<&R::m_reducedColor>>>();
 }
 
 } // namespace Ombrel::Proc

@@ -8,11 +8,14 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectColorReduce : public SettingsRecord<SettingsEffectColorReduce>
+class OMBREL_API SettingsEffectColorReduce : public ComparedRecord<SettingsEffectColorReduce>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_COLOR_REDUCE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class ReducedColor : std::int32_t
     {
@@ -20,10 +23,6 @@ public:
         Green = 1,
         Blue = 2,
     };
-
-    ~SettingsEffectColorReduce() override;
-
-    bool operator==(const SettingsEffectColorReduce& other) const;
 
     double m_threshold = 1.2;
     ReducedColor m_reducedColor = ReducedColor::Red;

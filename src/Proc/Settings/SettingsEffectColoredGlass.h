@@ -9,16 +9,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectColoredGlass : public SettingsRecord<SettingsEffectColoredGlass>
+class OMBREL_API SettingsEffectColoredGlass : public ComparedRecord<SettingsEffectColoredGlass>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_COLORED_GLASS";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if `m_alpha` is 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectColoredGlass& other) const;
 
     RgbaColor m_color;
     std::int32_t m_alpha = 0;

@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectCompose.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectCompose::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectCompose::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectCompose::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectCompose>();
+}
 
 // An unknown name reads as NoCompositeOp, which is 0, and not as the default.
 template <> struct EnumNames<SettingsEffectCompose::CompositeOperator>
@@ -86,15 +91,11 @@ template <> struct EnumNames<SettingsEffectCompose::CompositeOperator>
     static constexpr EnumNameTable TABLE{ROWS, static_cast<std::int32_t>(E::NoCompositeOp)};
 };
 
-template <> struct Fields<SettingsEffectCompose>
+const RecordSchema& SettingsEffectCompose::Schema() noexcept
 {
     using R = SettingsEffectCompose;
-    using List = FieldList<FieldDescriptor<&R::m_operator>>;
-};
-
-template struct Reflected<SettingsEffectCompose>;
-
-SettingsEffectCompose::~SettingsEffectCompose() = default;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_operator>>>();
+}
 
 bool SettingsEffectCompose::operator==(const SettingsEffectCompose& other) const
 {

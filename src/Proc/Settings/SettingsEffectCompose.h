@@ -14,6 +14,9 @@ class OMBREL_API SettingsEffectCompose : public SettingsRecord<SettingsEffectCom
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_COMPOSE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class CompositeOperator : std::int32_t
     {
@@ -87,8 +90,6 @@ public:
         LightenIntensityCompositeOp = 66,
         HardMixCompositeOp = 67,
     };
-
-    ~SettingsEffectCompose() override;
 
     bool operator==(const SettingsEffectCompose& other) const;
 

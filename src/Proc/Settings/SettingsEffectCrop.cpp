@@ -1,29 +1,28 @@
 #include "Proc/Settings/SettingsEffectCrop.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectCrop::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectCrop::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectCrop>
+const std::string& SettingsEffectCrop::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectCrop>();
+}
+
+const RecordSchema& SettingsEffectCrop::Schema() noexcept
 {
     using R = SettingsEffectCrop;
-    using List = FieldList<FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>, FieldDescriptor<&R::m_width>,
-                           FieldDescriptor<&R::m_height>>;
-};
-
-template struct Reflected<SettingsEffectCrop>;
+    return Describe<R, FieldList<AccessorDescriptor<"x", &R::SetX, &R::GetX>, AccessorDescriptor<"y", &R::SetY, &R::GetY>,
+                                 AccessorDescriptor<"width", &R::SetWidth, &R::GetWidth>,
+                                 AccessorDescriptor<"height", &R::SetHeight, &R::GetHeight>>>();
+}
 
 bool SettingsEffectCrop::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectCrop>::Default();
-}
-
-bool SettingsEffectCrop::operator==(const SettingsEffectCrop& other) const
-{
-    return Reflected<SettingsEffectCrop>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -10,11 +10,14 @@ namespace Ombrel::Proc
 
 /// The area of the picture that is kept, in pixels. Every value is stored as given, inside the picture or not; all 0 keeps the
 /// picture as it is.
-class OMBREL_API SettingsEffectCrop : public SettingsRecord<SettingsEffectCrop>
+class OMBREL_API SettingsEffectCrop : public ComparedRecord<SettingsEffectCrop>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_CROP";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if all four values are 0.
     bool IsEmpty() const override;
@@ -31,11 +34,7 @@ public:
     std::int32_t GetHeight() const { return m_height; }
     void SetHeight(std::int32_t value) { m_height = value; }
 
-    bool operator==(const SettingsEffectCrop& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     std::int32_t m_x = 0;
     std::int32_t m_y = 0;
     std::int32_t m_width = 0;

@@ -1,21 +1,23 @@
 #include "Proc/Settings/SettingsEffectDeepAdjuster.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDeepAdjuster::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDeepAdjuster::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDeepAdjuster>
+const std::string& SettingsEffectDeepAdjuster::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectDeepAdjuster>();
+}
+
+const RecordSchema& SettingsEffectDeepAdjuster::Schema() noexcept
 {
     using R = SettingsEffectDeepAdjuster;
-    using List = FieldList<FieldDescriptor<&R::m_brightness>, FieldDescriptor<&R::m_contrast>, FieldDescriptor<&R::m_vibrance>,
-                           FieldDescriptor<&R::m_exposure>, FieldDescriptor<&R::m_shadows>, FieldDescriptor<&R::m_hightlights>>;
-};
-
-template struct Reflected<SettingsEffectDeepAdjuster>;
-
-SettingsEffectDeepAdjuster::~SettingsEffectDeepAdjuster() = default;
+    return Describe<
+        R, FieldList<FieldDescriptor<&R::m_brightness>, FieldDescriptor<&R::m_contrast>, FieldDescriptor<&R::m_vibrance>,
+                     FieldDescriptor<&R::m_exposure>, FieldDescriptor<&R::m_shadows>, FieldDescriptor<&R::m_hightlights>>>();
+}
 
 } // namespace Ombrel::Proc

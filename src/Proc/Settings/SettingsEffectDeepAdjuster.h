@@ -15,8 +15,9 @@ class OMBREL_API SettingsEffectDeepAdjuster : public SettingsRecord<SettingsEffe
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DEEP_ADJUSTER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectDeepAdjuster() override;
+    const std::string& GetClassId() const override;
 
     std::int32_t m_brightness = 0;
     std::int32_t m_contrast = 0;

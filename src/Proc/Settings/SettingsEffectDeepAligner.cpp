@@ -1,20 +1,21 @@
 #include "Proc/Settings/SettingsEffectDeepAligner.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDeepAligner::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDeepAligner::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDeepAligner>
+const std::string& SettingsEffectDeepAligner::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectDeepAligner>();
+}
+
+const RecordSchema& SettingsEffectDeepAligner::Schema() noexcept
 {
     using R = SettingsEffectDeepAligner;
-    using List = FieldList<FieldDescriptor<&R::m_angle>, FieldDescriptor<&R::m_horizonDetected>>;
-};
-
-template struct Reflected<SettingsEffectDeepAligner>;
-
-SettingsEffectDeepAligner::~SettingsEffectDeepAligner() = default;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_angle>, FieldDescriptor<&R::m_horizonDetected>>>();
+}
 
 } // namespace Ombrel::Proc

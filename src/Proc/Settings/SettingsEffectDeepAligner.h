@@ -13,8 +13,9 @@ class OMBREL_API SettingsEffectDeepAligner : public SettingsRecord<SettingsEffec
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DEEP_ALIGNER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectDeepAligner() override;
+    const std::string& GetClassId() const override;
 
     double m_angle = 0.0;
     bool m_horizonDetected = false;

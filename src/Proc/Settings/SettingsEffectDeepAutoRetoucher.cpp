@@ -1,19 +1,20 @@
 #include "Proc/Settings/SettingsEffectDeepAutoRetoucher.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDeepAutoRetoucher::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDeepAutoRetoucher::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDeepAutoRetoucher>
+const std::string& SettingsEffectDeepAutoRetoucher::GetClassId() const
 {
-    using List = FieldList<>;
-};
+    return ClassIdOf<SettingsEffectDeepAutoRetoucher>();
+}
 
-template struct Reflected<SettingsEffectDeepAutoRetoucher>;
-
-SettingsEffectDeepAutoRetoucher::~SettingsEffectDeepAutoRetoucher() = default;
+const RecordSchema& SettingsEffectDeepAutoRetoucher::Schema() noexcept
+{
+    return Describe<SettingsEffectDeepAutoRetoucher, FieldList<>>();
+}
 
 } // namespace Ombrel::Proc

@@ -15,8 +15,9 @@ class OMBREL_API SettingsEffectDeepAutoRetoucher : public SettingsRecord<Setting
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DEEP_AUTO_RETOUCHER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectDeepAutoRetoucher() override;
+    const std::string& GetClassId() const override;
 
     std::vector<Face> faces; // copied with the record, neither stored nor compared
 };

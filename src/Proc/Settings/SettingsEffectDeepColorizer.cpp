@@ -1,24 +1,25 @@
 #include "Proc/Settings/SettingsEffectDeepColorizer.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDeepColorizer::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDeepColorizer::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDeepColorizer>
+const std::string& SettingsEffectDeepColorizer::GetClassId() const
 {
-    using List = FieldList<>;
-};
+    return ClassIdOf<SettingsEffectDeepColorizer>();
+}
 
-template struct Reflected<SettingsEffectDeepColorizer>;
+const RecordSchema& SettingsEffectDeepColorizer::Schema() noexcept
+{
+    return Describe<SettingsEffectDeepColorizer, FieldList<>>();
+}
 
 SettingsEffectDeepColorizer::SettingsEffectDeepColorizer()
 {
     neuralMode = 1;
 }
-
-SettingsEffectDeepColorizer::~SettingsEffectDeepColorizer() = default;
 
 } // namespace Ombrel::Proc

@@ -12,10 +12,12 @@ class OMBREL_API SettingsEffectDeepColorizer : public SettingsRecord<SettingsEff
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DEEP_COLORIZER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// `neuralMode` starts at 1, unlike in the base.
     SettingsEffectDeepColorizer();
-    ~SettingsEffectDeepColorizer() override;
 };
 
 } // namespace Ombrel::Proc

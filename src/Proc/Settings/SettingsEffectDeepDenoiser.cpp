@@ -1,19 +1,20 @@
 #include "Proc/Settings/SettingsEffectDeepDenoiser.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDeepDenoiser::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDeepDenoiser::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDeepDenoiser>
+const std::string& SettingsEffectDeepDenoiser::GetClassId() const
 {
-    using List = FieldList<>;
-};
+    return ClassIdOf<SettingsEffectDeepDenoiser>();
+}
 
-template struct Reflected<SettingsEffectDeepDenoiser>;
-
-SettingsEffectDeepDenoiser::~SettingsEffectDeepDenoiser() = default;
+const RecordSchema& SettingsEffectDeepDenoiser::Schema() noexcept
+{
+    return Describe<SettingsEffectDeepDenoiser, FieldList<>>();
+}
 
 } // namespace Ombrel::Proc

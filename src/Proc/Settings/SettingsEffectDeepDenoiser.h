@@ -13,8 +13,9 @@ class OMBREL_API SettingsEffectDeepDenoiser
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DEEP_DENOISER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectDeepDenoiser() override;
+    const std::string& GetClassId() const override;
 };
 
 } // namespace Ombrel::Proc

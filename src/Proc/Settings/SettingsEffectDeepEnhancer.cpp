@@ -1,19 +1,20 @@
 #include "Proc/Settings/SettingsEffectDeepEnhancer.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDeepEnhancer::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDeepEnhancer::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDeepEnhancer>
+const std::string& SettingsEffectDeepEnhancer::GetClassId() const
 {
-    using List = FieldList<>;
-};
+    return ClassIdOf<SettingsEffectDeepEnhancer>();
+}
 
-template struct Reflected<SettingsEffectDeepEnhancer>;
-
-SettingsEffectDeepEnhancer::~SettingsEffectDeepEnhancer() = default;
+const RecordSchema& SettingsEffectDeepEnhancer::Schema() noexcept
+{
+    return Describe<SettingsEffectDeepEnhancer, FieldList<>>();
+}
 
 } // namespace Ombrel::Proc

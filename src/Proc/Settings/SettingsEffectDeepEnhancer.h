@@ -13,8 +13,9 @@ class OMBREL_API SettingsEffectDeepEnhancer
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DEEP_ENHANCER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectDeepEnhancer() override;
+    const std::string& GetClassId() const override;
 };
 
 } // namespace Ombrel::Proc

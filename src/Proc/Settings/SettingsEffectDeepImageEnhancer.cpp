@@ -1,19 +1,20 @@
 #include "Proc/Settings/SettingsEffectDeepImageEnhancer.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDeepImageEnhancer::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDeepImageEnhancer::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDeepImageEnhancer>
+const std::string& SettingsEffectDeepImageEnhancer::GetClassId() const
 {
-    using List = FieldList<>;
-};
+    return ClassIdOf<SettingsEffectDeepImageEnhancer>();
+}
 
-template struct Reflected<SettingsEffectDeepImageEnhancer>;
-
-SettingsEffectDeepImageEnhancer::~SettingsEffectDeepImageEnhancer() = default;
+const RecordSchema& SettingsEffectDeepImageEnhancer::Schema() noexcept
+{
+    return Describe<SettingsEffectDeepImageEnhancer, FieldList<>>();
+}
 
 } // namespace Ombrel::Proc

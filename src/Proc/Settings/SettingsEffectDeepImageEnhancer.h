@@ -12,8 +12,9 @@ class OMBREL_API SettingsEffectDeepImageEnhancer : public SettingsRecord<Setting
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DEEP_IMAGE_ENHANCER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectDeepImageEnhancer() override;
+    const std::string& GetClassId() const override;
 };
 
 } // namespace Ombrel::Proc

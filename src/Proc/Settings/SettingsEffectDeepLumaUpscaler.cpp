@@ -1,19 +1,20 @@
 #include "Proc/Settings/SettingsEffectDeepLumaUpscaler.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDeepLumaUpscaler::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDeepLumaUpscaler::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDeepLumaUpscaler>
+const std::string& SettingsEffectDeepLumaUpscaler::GetClassId() const
 {
-    using List = FieldList<>;
-};
+    return ClassIdOf<SettingsEffectDeepLumaUpscaler>();
+}
 
-template struct Reflected<SettingsEffectDeepLumaUpscaler>;
-
-SettingsEffectDeepLumaUpscaler::~SettingsEffectDeepLumaUpscaler() = default;
+const RecordSchema& SettingsEffectDeepLumaUpscaler::Schema() noexcept
+{
+    return Describe<SettingsEffectDeepLumaUpscaler, FieldList<>>();
+}
 
 } // namespace Ombrel::Proc

@@ -13,8 +13,9 @@ class OMBREL_API SettingsEffectDeepLumaUpscaler
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DEEP_LUMA_UPSCALER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectDeepLumaUpscaler() override;
+    const std::string& GetClassId() const override;
 };
 
 } // namespace Ombrel::Proc

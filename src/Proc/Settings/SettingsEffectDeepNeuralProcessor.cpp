@@ -1,10 +1,15 @@
 #include "Proc/Settings/SettingsEffectDeepNeuralProcessor.h"
 
+#include "Proc/Settings/RecordSource.h"
+
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDeepNeuralProcessor::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDeepNeuralProcessor::CLASS_ID{CLASS_NAME};
 
-SettingsEffectDeepNeuralProcessor::~SettingsEffectDeepNeuralProcessor() = default;
+const std::string& SettingsEffectDeepNeuralProcessor::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectDeepNeuralProcessor>();
+}
 
 } // namespace Ombrel::Proc

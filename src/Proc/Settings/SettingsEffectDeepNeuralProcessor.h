@@ -18,7 +18,7 @@ public:
     static constexpr const char* CLASS_NAME = "EFFECT_DEEP_NEURAL_PROCESSOR";
     static const std::string CLASS_ID;
 
-    ~SettingsEffectDeepNeuralProcessor() override;
+    const std::string& GetClassId() const override;
 
     std::int32_t processorMode = 3;
     std::int32_t processorIndex = -1;

@@ -1,19 +1,20 @@
 #include "Proc/Settings/SettingsEffectDeepRestorer.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDeepRestorer::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDeepRestorer::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDeepRestorer>
+const std::string& SettingsEffectDeepRestorer::GetClassId() const
 {
-    using List = FieldList<>;
-};
+    return ClassIdOf<SettingsEffectDeepRestorer>();
+}
 
-template struct Reflected<SettingsEffectDeepRestorer>;
-
-SettingsEffectDeepRestorer::~SettingsEffectDeepRestorer() = default;
+const RecordSchema& SettingsEffectDeepRestorer::Schema() noexcept
+{
+    return Describe<SettingsEffectDeepRestorer, FieldList<>>();
+}
 
 } // namespace Ombrel::Proc

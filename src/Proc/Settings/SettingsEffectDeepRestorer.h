@@ -12,8 +12,9 @@ class OMBREL_API SettingsEffectDeepRestorer : public SettingsRecord<SettingsEffe
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DEEP_RESTORER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectDeepRestorer() override;
+    const std::string& GetClassId() const override;
 };
 
 } // namespace Ombrel::Proc

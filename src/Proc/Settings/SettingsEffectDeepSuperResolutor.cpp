@@ -1,19 +1,20 @@
 #include "Proc/Settings/SettingsEffectDeepSuperResolutor.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDeepSuperResolutor::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDeepSuperResolutor::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDeepSuperResolutor>
+const std::string& SettingsEffectDeepSuperResolutor::GetClassId() const
 {
-    using List = FieldList<>;
-};
+    return ClassIdOf<SettingsEffectDeepSuperResolutor>();
+}
 
-template struct Reflected<SettingsEffectDeepSuperResolutor>;
-
-SettingsEffectDeepSuperResolutor::~SettingsEffectDeepSuperResolutor() = default;
+const RecordSchema& SettingsEffectDeepSuperResolutor::Schema() noexcept
+{
+    return Describe<SettingsEffectDeepSuperResolutor, FieldList<>>();
+}
 
 } // namespace Ombrel::Proc

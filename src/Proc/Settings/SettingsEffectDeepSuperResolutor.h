@@ -12,8 +12,9 @@ class OMBREL_API SettingsEffectDeepSuperResolutor : public SettingsRecord<Settin
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DEEP_SUPER_RESOLUTOR";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectDeepSuperResolutor() override;
+    const std::string& GetClassId() const override;
 };
 
 } // namespace Ombrel::Proc

@@ -1,29 +1,31 @@
 #include "Proc/Settings/SettingsEffectDenoiseChromaLuma.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDenoiseChromaLuma::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDenoiseChromaLuma::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDenoiseChromaLuma>
+const std::string& SettingsEffectDenoiseChromaLuma::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectDenoiseChromaLuma>();
+}
+
+const RecordSchema& SettingsEffectDenoiseChromaLuma::Schema() noexcept
 {
     using R = SettingsEffectDenoiseChromaLuma;
-    using List = FieldList<FieldDescriptor<&R::m_lumaStrength>, FieldDescriptor<&R::m_chromaStrength>,
-                           FieldDescriptor<&R::m_lumaStrengthTemporal>, FieldDescriptor<&R::m_chromaStrengthTemporal>>;
-};
-
-template struct Reflected<SettingsEffectDenoiseChromaLuma>;
+    return Describe<
+        R, FieldList<
+               AccessorDescriptor<"lumaStrength", &R::SetLumaStrength, &R::GetLumaStrength>,
+               AccessorDescriptor<"chromaStrength", &R::SetChromaStrength, &R::GetChromaStrength>,
+               AccessorDescriptor<"lumaStrengthTemporal", &R::SetLumaStrengthTemporal, &R::GetLumaStrengthTemporal>,
+               AccessorDescriptor<"chromaStrengthTemporal", &R::SetChromaStrengthTemporal, &R::GetChromaStrengthTemporal>>>();
+}
 
 bool SettingsEffectDenoiseChromaLuma::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectDenoiseChromaLuma>::Default();
-}
-
-bool SettingsEffectDenoiseChromaLuma::operator==(const SettingsEffectDenoiseChromaLuma& other) const
-{
-    return Reflected<SettingsEffectDenoiseChromaLuma>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

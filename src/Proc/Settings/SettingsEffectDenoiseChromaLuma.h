@@ -7,11 +7,14 @@ namespace Ombrel::Proc
 {
 
 /// Removes noise from luma and chroma apart, within a picture and over time. Every value is stored as given.
-class OMBREL_API SettingsEffectDenoiseChromaLuma : public SettingsRecord<SettingsEffectDenoiseChromaLuma>
+class OMBREL_API SettingsEffectDenoiseChromaLuma : public ComparedRecord<SettingsEffectDenoiseChromaLuma>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DENOISE_CHROMA_LUMA";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if the record is as by default.
     bool IsEmpty() const override;
@@ -28,11 +31,7 @@ public:
     double GetChromaStrengthTemporal() const { return m_chromaStrengthTemporal; }
     void SetChromaStrengthTemporal(double value) { m_chromaStrengthTemporal = value; }
 
-    bool operator==(const SettingsEffectDenoiseChromaLuma& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     double m_lumaStrength = 0.0;
     double m_chromaStrength = 0.0;
     double m_lumaStrengthTemporal = 0.0;

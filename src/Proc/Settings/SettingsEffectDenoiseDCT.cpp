@@ -1,29 +1,28 @@
 #include "Proc/Settings/SettingsEffectDenoiseDCT.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDenoiseDCT::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDenoiseDCT::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDenoiseDCT>
+const std::string& SettingsEffectDenoiseDCT::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectDenoiseDCT>();
+}
+
+const RecordSchema& SettingsEffectDenoiseDCT::Schema() noexcept
 {
     using R = SettingsEffectDenoiseDCT;
-    using List =
-        FieldList<FieldDescriptor<&R::m_sigma>, FieldDescriptor<&R::m_overlapSize>, FieldDescriptor<&R::m_blockSizeBits>>;
-};
-
-template struct Reflected<SettingsEffectDenoiseDCT>;
+    return Describe<R, FieldList<AccessorDescriptor<"sigma", &R::SetSigma, &R::GetSigma>,
+                                 AccessorDescriptor<"overlapSize", &R::SetOverlapSize, &R::GetOverlapSize>,
+                                 AccessorDescriptor<"blockSizeBits", &R::SetBlockSizeBits, &R::GetBlockSizeBits>>>();
+}
 
 bool SettingsEffectDenoiseDCT::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectDenoiseDCT>::Default();
-}
-
-bool SettingsEffectDenoiseDCT::operator==(const SettingsEffectDenoiseDCT& other) const
-{
-    return Reflected<SettingsEffectDenoiseDCT>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

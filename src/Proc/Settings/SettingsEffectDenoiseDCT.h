@@ -9,11 +9,14 @@ namespace Ombrel::Proc
 {
 
 /// Removes noise block by block. Every value is stored as given.
-class OMBREL_API SettingsEffectDenoiseDCT : public SettingsRecord<SettingsEffectDenoiseDCT>
+class OMBREL_API SettingsEffectDenoiseDCT : public ComparedRecord<SettingsEffectDenoiseDCT>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DENOISE_DCT";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if the record is as by default.
     bool IsEmpty() const override;
@@ -27,11 +30,7 @@ public:
     std::int32_t GetBlockSizeBits() const { return m_blockSizeBits; }
     void SetBlockSizeBits(std::int32_t value) { m_blockSizeBits = value; }
 
-    bool operator==(const SettingsEffectDenoiseDCT& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     double m_sigma = 0.0;
     std::int32_t m_overlapSize = 0;
     std::int32_t m_blockSizeBits = 0;

@@ -1,29 +1,28 @@
 #include "Proc/Settings/SettingsEffectDenoiseOvercompleteWavelet.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDenoiseOvercompleteWavelet::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDenoiseOvercompleteWavelet::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDenoiseOvercompleteWavelet>
+const std::string& SettingsEffectDenoiseOvercompleteWavelet::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectDenoiseOvercompleteWavelet>();
+}
+
+const RecordSchema& SettingsEffectDenoiseOvercompleteWavelet::Schema() noexcept
 {
     using R = SettingsEffectDenoiseOvercompleteWavelet;
-    using List =
-        FieldList<FieldDescriptor<&R::m_depth>, FieldDescriptor<&R::m_lumaStrength>, FieldDescriptor<&R::m_chromaStrength>>;
-};
-
-template struct Reflected<SettingsEffectDenoiseOvercompleteWavelet>;
+    return Describe<R, FieldList<AccessorDescriptor<"depth", &R::SetDepth, &R::GetDepth>,
+                                 AccessorDescriptor<"lumaStrength", &R::SetLumaStrength, &R::GetLumaStrength>,
+                                 AccessorDescriptor<"chromaStrength", &R::SetChromaStrength, &R::GetChromaStrength>>>();
+}
 
 bool SettingsEffectDenoiseOvercompleteWavelet::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectDenoiseOvercompleteWavelet>::Default();
-}
-
-bool SettingsEffectDenoiseOvercompleteWavelet::operator==(const SettingsEffectDenoiseOvercompleteWavelet& other) const
-{
-    return Reflected<SettingsEffectDenoiseOvercompleteWavelet>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

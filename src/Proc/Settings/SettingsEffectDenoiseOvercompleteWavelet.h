@@ -9,11 +9,14 @@ namespace Ombrel::Proc
 {
 
 /// Removes noise from luma and chroma apart by wavelets. Every value is stored as given.
-class OMBREL_API SettingsEffectDenoiseOvercompleteWavelet : public SettingsRecord<SettingsEffectDenoiseOvercompleteWavelet>
+class OMBREL_API SettingsEffectDenoiseOvercompleteWavelet : public ComparedRecord<SettingsEffectDenoiseOvercompleteWavelet>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DENOISE_OVERCOMPLETE_WAVELET";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if the record is as by default.
     bool IsEmpty() const override;
@@ -27,11 +30,7 @@ public:
     double GetChromaStrength() const { return m_chromaStrength; }
     void SetChromaStrength(double value) { m_chromaStrength = value; }
 
-    bool operator==(const SettingsEffectDenoiseOvercompleteWavelet& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     std::int32_t m_depth = 0;
     double m_lumaStrength = 0.0;
     double m_chromaStrength = 0.0;

@@ -1,28 +1,26 @@
 #include "Proc/Settings/SettingsEffectDetailsEnhance.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDetailsEnhance::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDetailsEnhance::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDetailsEnhance>
+const std::string& SettingsEffectDetailsEnhance::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectDetailsEnhance>();
+}
+
+const RecordSchema& SettingsEffectDetailsEnhance::Schema() noexcept
 {
     using R = SettingsEffectDetailsEnhance;
-    using List = FieldList<FieldDescriptor<&R::m_strength>>;
-};
-
-template struct Reflected<SettingsEffectDetailsEnhance>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_strength>>>();
+}
 
 bool SettingsEffectDetailsEnhance::IsEmpty() const
 {
     return m_strength == 0;
-}
-
-bool SettingsEffectDetailsEnhance::operator==(const SettingsEffectDetailsEnhance& other) const
-{
-    return Reflected<SettingsEffectDetailsEnhance>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

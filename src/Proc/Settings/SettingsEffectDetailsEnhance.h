@@ -8,16 +8,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectDetailsEnhance : public SettingsRecord<SettingsEffectDetailsEnhance>
+class OMBREL_API SettingsEffectDetailsEnhance : public ComparedRecord<SettingsEffectDetailsEnhance>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DETAILS";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if `m_strength` is 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectDetailsEnhance& other) const;
 
     std::int32_t m_strength = 0;
 };

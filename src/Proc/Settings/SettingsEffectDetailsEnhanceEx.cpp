@@ -1,28 +1,26 @@
 #include "Proc/Settings/SettingsEffectDetailsEnhanceEx.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDetailsEnhanceEx::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDetailsEnhanceEx::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDetailsEnhanceEx>
+const std::string& SettingsEffectDetailsEnhanceEx::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectDetailsEnhanceEx>();
+}
+
+const RecordSchema& SettingsEffectDetailsEnhanceEx::Schema() noexcept
 {
     using R = SettingsEffectDetailsEnhanceEx;
-    using List = FieldList<FieldDescriptor<&R::m_strength>>;
-};
-
-template struct Reflected<SettingsEffectDetailsEnhanceEx>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_strength>>>();
+}
 
 bool SettingsEffectDetailsEnhanceEx::IsEmpty() const
 {
     return m_strength == 0.0;
-}
-
-bool SettingsEffectDetailsEnhanceEx::operator==(const SettingsEffectDetailsEnhanceEx& other) const
-{
-    return Reflected<SettingsEffectDetailsEnhanceEx>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

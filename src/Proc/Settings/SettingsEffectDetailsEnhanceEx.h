@@ -6,16 +6,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectDetailsEnhanceEx : public SettingsRecord<SettingsEffectDetailsEnhanceEx>
+class OMBREL_API SettingsEffectDetailsEnhanceEx : public ComparedRecord<SettingsEffectDetailsEnhanceEx>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DETAILS_EX";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if `m_strength` is 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectDetailsEnhanceEx& other) const;
 
     double m_strength = 0.0; // not whole, unlike that of the plain details effect
 };

@@ -9,16 +9,17 @@ namespace Ombrel::Proc
 {
 
 /// Pushes an area of the given size from one point of the picture to another.
-class OMBREL_API SettingsEffectDirectionalAreaDeformation : public SettingsRecord<SettingsEffectDirectionalAreaDeformation>
+class OMBREL_API SettingsEffectDirectionalAreaDeformation : public ComparedRecord<SettingsEffectDirectionalAreaDeformation>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DIRECTIONAL_AREA_DEFORMATION";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if `m_strength` is 0, wherever the points are.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectDirectionalAreaDeformation& other) const;
 
     double m_strength = 0.0;
     std::int32_t m_fromX = 0;

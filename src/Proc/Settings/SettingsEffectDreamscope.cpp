@@ -1,21 +1,24 @@
 #include "Proc/Settings/SettingsEffectDreamscope.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectDreamscope::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectDreamscope::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectDreamscope>
+const std::string& SettingsEffectDreamscope::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectDreamscope>();
+}
+
+const RecordSchema& SettingsEffectDreamscope::Schema() noexcept
 {
     using R = SettingsEffectDreamscope;
-    using List = FieldList<FieldDescriptor<&R::m_modelName>, FieldDescriptor<&R::m_model64Bit>,
-                           FieldDescriptor<&R::m_workingSize>, FieldDescriptor<&R::m_denoiseChroma>,
-                           FieldDescriptor<&R::m_denoiseBlurRadius>, FieldDescriptor<&R::m_denoiseBlurSigma>>;
-};
-
-template struct Reflected<SettingsEffectDreamscope>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_modelName>, FieldDescriptor<&R::m_model64Bit>,
+                                 FieldDescriptor<&R::m_workingSize>, FieldDescriptor<&R::m_denoiseChroma>,
+                                 FieldDescriptor<&R::m_denoiseBlurRadius>, FieldDescriptor<&R::m_denoiseBlurSigma>>>();
+}
 
 bool SettingsEffectDreamscope::IsEmpty() const
 {

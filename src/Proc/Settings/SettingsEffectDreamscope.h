@@ -15,6 +15,9 @@ class OMBREL_API SettingsEffectDreamscope : public SettingsRecord<SettingsEffect
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_DREAMSCOPE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if there is no model name or `m_workingSize` is 0, so by default.
     bool IsEmpty() const override;

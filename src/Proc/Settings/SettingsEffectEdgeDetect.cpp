@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectEdgeDetect.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectEdgeDetect::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectEdgeDetect::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectEdgeDetect::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectEdgeDetect>();
+}
 
 template <> struct EnumNames<SettingsEffectEdgeDetect::EdgeDetectMode>
 {
@@ -19,23 +24,17 @@ template <> struct EnumNames<SettingsEffectEdgeDetect::EdgeDetectMode>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectEdgeDetect>
+const RecordSchema& SettingsEffectEdgeDetect::Schema() noexcept
 {
     using R = SettingsEffectEdgeDetect;
-    using List =
-        FieldList<FieldDescriptor<&R::m_mode>, FieldDescriptor<&R::m_lowThreshold>, FieldDescriptor<&R::m_highThreshold>>;
-};
-
-template struct Reflected<SettingsEffectEdgeDetect>;
+    return Describe<R, FieldList<AccessorDescriptor<"mode", &R::SetMode, &R::GetMode>,
+                                 AccessorDescriptor<"lowThreshold", &R::SetLowThreshold, &R::GetLowThreshold>,
+                                 AccessorDescriptor<"highThreshold", &R::SetHighThreshold, &R::GetHighThreshold>>>();
+}
 
 bool SettingsEffectEdgeDetect::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectEdgeDetect>::Default();
-}
-
-bool SettingsEffectEdgeDetect::operator==(const SettingsEffectEdgeDetect& other) const
-{
-    return Reflected<SettingsEffectEdgeDetect>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -9,11 +9,14 @@ namespace Ombrel::Proc
 {
 
 /// Every value is stored as given.
-class OMBREL_API SettingsEffectEdgeDetect : public SettingsRecord<SettingsEffectEdgeDetect>
+class OMBREL_API SettingsEffectEdgeDetect : public ComparedRecord<SettingsEffectEdgeDetect>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_EDGE_DETECT";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class EdgeDetectMode : std::int32_t
     {
@@ -34,11 +37,7 @@ public:
     double GetHighThreshold() const { return m_highThreshold; }
     void SetHighThreshold(double value) { m_highThreshold = value; }
 
-    bool operator==(const SettingsEffectEdgeDetect& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     EdgeDetectMode m_mode = EdgeDetectMode::None;
     double m_lowThreshold = 0.0;
     double m_highThreshold = 0.0;

@@ -1,28 +1,27 @@
 #include "Proc/Settings/SettingsEffectEmboss.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectEmboss::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectEmboss::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectEmboss>
+const std::string& SettingsEffectEmboss::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectEmboss>();
+}
+
+const RecordSchema& SettingsEffectEmboss::Schema() noexcept
 {
     using R = SettingsEffectEmboss;
-    using List = FieldList<FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>, FieldDescriptor<&R::m_colored>>;
-};
-
-template struct Reflected<SettingsEffectEmboss>;
+    return Describe<R, FieldList<AccessorDescriptor<"x", &R::SetX, &R::GetX>, AccessorDescriptor<"y", &R::SetY, &R::GetY>,
+                                 AccessorDescriptor<"colored", &R::SetColored, &R::GetColored>>>();
+}
 
 bool SettingsEffectEmboss::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectEmboss>::Default();
-}
-
-bool SettingsEffectEmboss::operator==(const SettingsEffectEmboss& other) const
-{
-    return Reflected<SettingsEffectEmboss>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -9,11 +9,14 @@ namespace Ombrel::Proc
 {
 
 /// Relief along the direction (x, y). Every value is stored as given.
-class OMBREL_API SettingsEffectEmboss : public SettingsRecord<SettingsEffectEmboss>
+class OMBREL_API SettingsEffectEmboss : public ComparedRecord<SettingsEffectEmboss>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_EMBOSS";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if the record is as by default.
     bool IsEmpty() const override;
@@ -27,11 +30,7 @@ public:
     bool GetColored() const { return m_colored; }
     void SetColored(bool value) { m_colored = value; }
 
-    bool operator==(const SettingsEffectEmboss& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     std::int32_t m_x = 0;
     std::int32_t m_y = 0;
     bool m_colored = false;

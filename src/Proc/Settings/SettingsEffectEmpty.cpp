@@ -1,25 +1,21 @@
 #include "Proc/Settings/SettingsEffectEmpty.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectEmpty::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectEmpty::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectEmpty>
+const std::string& SettingsEffectEmpty::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectEmpty>();
+}
+
+const RecordSchema& SettingsEffectEmpty::Schema() noexcept
 {
     using R = SettingsEffectEmpty;
-    using List = FieldList<FieldDescriptor<&R::m_value>>;
-};
-
-template struct Reflected<SettingsEffectEmpty>;
-
-SettingsEffectEmpty::~SettingsEffectEmpty() = default;
-
-bool SettingsEffectEmpty::operator==(const SettingsEffectEmpty& other) const
-{
-    return Reflected<SettingsEffectEmpty>::Equal(*this, other);
+    return Describe<R, FieldList<FieldDescriptor<&R::m_value>>>();
 }
 
 } // namespace Ombrel::Proc

@@ -9,15 +9,14 @@ namespace Ombrel::Proc
 {
 
 /// An effect that does nothing.
-class OMBREL_API SettingsEffectEmpty : public SettingsRecord<SettingsEffectEmpty>
+class OMBREL_API SettingsEffectEmpty : public ComparedRecord<SettingsEffectEmpty>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_EMPTY";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectEmpty() override;
-
-    bool operator==(const SettingsEffectEmpty& other) const;
+    const std::string& GetClassId() const override;
 
     std::string m_value;
 };

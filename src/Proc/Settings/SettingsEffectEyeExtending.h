@@ -7,16 +7,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectEyeExtending : public SettingsRecord<SettingsEffectEyeExtending>
+class OMBREL_API SettingsEffectEyeExtending : public ComparedRecord<SettingsEffectEyeExtending>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_EYE_EXTENDING";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if one of the eyes has no contour, whatever the strength.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectEyeExtending& other) const;
 
     Eyes m_eyes;
     double m_strength = 0.0;

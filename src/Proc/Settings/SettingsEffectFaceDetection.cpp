@@ -1,21 +1,22 @@
 #include "Proc/Settings/SettingsEffectFaceDetection.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectFaceDetection::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectFaceDetection::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectFaceDetection::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectFaceDetection>();
+}
 
 // Without keys: what detection found belongs to one image and one run.
-template <> struct Fields<SettingsEffectFaceDetection>
+const RecordSchema& SettingsEffectFaceDetection::Schema() noexcept
 {
-    using List = FieldList<>;
-};
-
-template struct Reflected<SettingsEffectFaceDetection>;
-
-SettingsEffectFaceDetection::~SettingsEffectFaceDetection() = default;
+    return Describe<SettingsEffectFaceDetection, FieldList<>>();
+}
 
 bool SettingsEffectFaceDetection::operator==(const SettingsEffectFaceDetection& other) const
 {

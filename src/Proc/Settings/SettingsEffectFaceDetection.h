@@ -17,8 +17,9 @@ class OMBREL_API SettingsEffectFaceDetection : public SettingsRecord<SettingsEff
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_FACE_DETECTION";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectFaceDetection() override;
+    const std::string& GetClassId() const override;
 
     /// Compares the mode alone: the faces are a result.
     bool operator==(const SettingsEffectFaceDetection& other) const;

@@ -1,30 +1,26 @@
 #include "Proc/Settings/SettingsEffectFaceThinning.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectFaceThinning::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectFaceThinning::CLASS_ID{CLASS_NAME};
 
-extern template struct Reflected<FaceContour>;
+const std::string& SettingsEffectFaceThinning::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectFaceThinning>();
+}
 
-template <> struct Fields<SettingsEffectFaceThinning>
+const RecordSchema& SettingsEffectFaceThinning::Schema() noexcept
 {
     using R = SettingsEffectFaceThinning;
-    using List = FieldList<FieldDescriptor<&R::m_faceOutline>, FieldDescriptor<&R::m_strength>>;
-};
-
-template struct Reflected<SettingsEffectFaceThinning>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_faceOutline>, FieldDescriptor<&R::m_strength>>>();
+}
 
 bool SettingsEffectFaceThinning::IsEmpty() const
 {
     return m_strength == 0.0;
-}
-
-bool SettingsEffectFaceThinning::operator==(const SettingsEffectFaceThinning& other) const
-{
-    return Reflected<SettingsEffectFaceThinning>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

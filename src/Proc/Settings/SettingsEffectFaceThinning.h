@@ -7,16 +7,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectFaceThinning : public SettingsRecord<SettingsEffectFaceThinning>
+class OMBREL_API SettingsEffectFaceThinning : public ComparedRecord<SettingsEffectFaceThinning>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_FACE_THINNING";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if `m_strength` is 0, whatever the outline.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectFaceThinning& other) const;
 
     FaceContour m_faceOutline;
     double m_strength = 0.0;

@@ -1,22 +1,25 @@
 #include "Proc/Settings/SettingsEffectFishEye.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 #include <cmath>
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectFishEye::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectFishEye::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectFishEye>
+const std::string& SettingsEffectFishEye::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectFishEye>();
+}
+
+const RecordSchema& SettingsEffectFishEye::Schema() noexcept
 {
     using R = SettingsEffectFishEye;
-    using List = FieldList<AccessorDescriptor<"deviation", &R::SetDeviation, &R::GetDeviation>,
-                           AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>;
-};
-
-template struct Reflected<SettingsEffectFishEye>;
+    return Describe<R, FieldList<AccessorDescriptor<"deviation", &R::SetDeviation, &R::GetDeviation>,
+                                 AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>>();
+}
 
 bool SettingsEffectFishEye::IsEmpty() const
 {

@@ -13,6 +13,9 @@ class OMBREL_API SettingsEffectFishEye : public SettingsRecord<SettingsEffectFis
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_FISH_EYE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if the factor is 0 and the intensity 1.
     bool IsEmpty() const override;

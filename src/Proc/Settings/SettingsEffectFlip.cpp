@@ -1,28 +1,27 @@
 #include "Proc/Settings/SettingsEffectFlip.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectFlip::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectFlip::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectFlip>
+const std::string& SettingsEffectFlip::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectFlip>();
+}
+
+const RecordSchema& SettingsEffectFlip::Schema() noexcept
 {
     using R = SettingsEffectFlip;
-    using List = FieldList<FieldDescriptor<&R::m_horizontal>, FieldDescriptor<&R::m_vertical>>;
-};
-
-template struct Reflected<SettingsEffectFlip>;
+    return Describe<R, FieldList<AccessorDescriptor<"horizontal", &R::SetHorizontal, &R::GetHorizontal>,
+                                 AccessorDescriptor<"vertical", &R::SetVertical, &R::GetVertical>>>();
+}
 
 bool SettingsEffectFlip::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectFlip>::Default();
-}
-
-bool SettingsEffectFlip::operator==(const SettingsEffectFlip& other) const
-{
-    return Reflected<SettingsEffectFlip>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -7,11 +7,14 @@ namespace Ombrel::Proc
 {
 
 /// Mirrors the picture along one axis, both or none.
-class OMBREL_API SettingsEffectFlip : public SettingsRecord<SettingsEffectFlip>
+class OMBREL_API SettingsEffectFlip : public ComparedRecord<SettingsEffectFlip>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_FLIP";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if neither axis is flipped.
     bool IsEmpty() const override;
@@ -22,11 +25,7 @@ public:
     bool GetVertical() const { return m_vertical; }
     void SetVertical(bool value) { m_vertical = value; }
 
-    bool operator==(const SettingsEffectFlip& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     bool m_horizontal = false;
     bool m_vertical = false;
 };

@@ -1,29 +1,27 @@
 #include "Proc/Settings/SettingsEffectGIMPColorCorrection.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectGIMPColorCorrection::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectGIMPColorCorrection::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectGIMPColorCorrection>
+const std::string& SettingsEffectGIMPColorCorrection::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectGIMPColorCorrection>();
+}
+
+const RecordSchema& SettingsEffectGIMPColorCorrection::Schema() noexcept
 {
     using R = SettingsEffectGIMPColorCorrection;
-    using List = FieldList<AccessorDescriptor<"brightness", &R::SetBrightness, &R::GetBrightness>,
-                           AccessorDescriptor<"contrast", &R::SetContrast, &R::GetContrast>>;
-};
-
-template struct Reflected<SettingsEffectGIMPColorCorrection>;
+    return Describe<R, FieldList<AccessorDescriptor<"brightness", &R::SetBrightness, &R::GetBrightness>,
+                                 AccessorDescriptor<"contrast", &R::SetContrast, &R::GetContrast>>>();
+}
 
 bool SettingsEffectGIMPColorCorrection::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectGIMPColorCorrection>::Default();
-}
-
-bool SettingsEffectGIMPColorCorrection::operator==(const SettingsEffectGIMPColorCorrection& other) const
-{
-    return Reflected<SettingsEffectGIMPColorCorrection>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

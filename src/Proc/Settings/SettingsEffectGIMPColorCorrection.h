@@ -7,11 +7,14 @@ namespace Ombrel::Proc
 {
 
 /// Brightness and contrast. Every value is stored as given; 0 changes nothing.
-class OMBREL_API SettingsEffectGIMPColorCorrection : public SettingsRecord<SettingsEffectGIMPColorCorrection>
+class OMBREL_API SettingsEffectGIMPColorCorrection : public ComparedRecord<SettingsEffectGIMPColorCorrection>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_GIMP_COLOR_CORRECTION";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if every value has its default.
     bool IsEmpty() const override;
@@ -21,8 +24,6 @@ public:
 
     float GetContrast() const { return m_contrast; }
     void SetContrast(float value) { m_contrast = value; }
-
-    bool operator==(const SettingsEffectGIMPColorCorrection& other) const;
 
 private:
     float m_brightness = 0.0f;

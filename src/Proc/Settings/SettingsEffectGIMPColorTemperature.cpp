@@ -1,30 +1,29 @@
 #include "Proc/Settings/SettingsEffectGIMPColorTemperature.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectGIMPColorTemperature::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectGIMPColorTemperature::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectGIMPColorTemperature>
+const std::string& SettingsEffectGIMPColorTemperature::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectGIMPColorTemperature>();
+}
+
+const RecordSchema& SettingsEffectGIMPColorTemperature::Schema() noexcept
 {
     using R = SettingsEffectGIMPColorTemperature;
-    using List = FieldList<AccessorDescriptor<"originalTemperature", &R::SetOriginalTemperature, &R::GetOriginalTemperature>,
-                           AccessorDescriptor<"intendedTemperature", &R::SetIntendedTemperature, &R::GetIntendedTemperature>,
-                           AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>;
-};
-
-template struct Reflected<SettingsEffectGIMPColorTemperature>;
+    return Describe<R,
+                    FieldList<AccessorDescriptor<"originalTemperature", &R::SetOriginalTemperature, &R::GetOriginalTemperature>,
+                              AccessorDescriptor<"intendedTemperature", &R::SetIntendedTemperature, &R::GetIntendedTemperature>,
+                              AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>>();
+}
 
 bool SettingsEffectGIMPColorTemperature::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectGIMPColorTemperature>::Default();
-}
-
-bool SettingsEffectGIMPColorTemperature::operator==(const SettingsEffectGIMPColorTemperature& other) const
-{
-    return Reflected<SettingsEffectGIMPColorTemperature>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -8,11 +8,14 @@ namespace Ombrel::Proc
 
 /// Moves a picture from one colour temperature to another, both in kelvin; two equal ones change nothing. Every value is
 /// stored as given.
-class OMBREL_API SettingsEffectGIMPColorTemperature : public SettingsRecord<SettingsEffectGIMPColorTemperature>
+class OMBREL_API SettingsEffectGIMPColorTemperature : public ComparedRecord<SettingsEffectGIMPColorTemperature>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_GIMP_COLOR_TEMPERATURE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if every value has its default.
     bool IsEmpty() const override;
@@ -25,8 +28,6 @@ public:
 
     float GetIntensity() const { return m_intensity; }
     void SetIntensity(float value) { m_intensity = value; }
-
-    bool operator==(const SettingsEffectGIMPColorTemperature& other) const;
 
 private:
     float m_originalTemperature = 6500.0f;

@@ -8,11 +8,14 @@ namespace Ombrel::Proc
 
 /// Gives a picture one hue. Any hue changes a picture, so that the intensity is what starts at 0. Every value is stored as
 /// given.
-class OMBREL_API SettingsEffectGIMPColorize : public SettingsRecord<SettingsEffectGIMPColorize>
+class OMBREL_API SettingsEffectGIMPColorize : public ComparedRecord<SettingsEffectGIMPColorize>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_GIMP_COLORIZE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if every value has its default.
     bool IsEmpty() const override;
@@ -37,8 +40,6 @@ public:
 
     float GetIntensity() const { return m_intensity; }
     void SetIntensity(float value) { m_intensity = value; }
-
-    bool operator==(const SettingsEffectGIMPColorize& other) const;
 
 private:
     float m_hue = 0.0f;

@@ -1,13 +1,13 @@
 #include "Proc/Settings/SettingsEffectGIMPHueSaturation.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
+namespace
+{
 
-const std::string SettingsEffectGIMPHueSaturation::CLASS_ID{CLASS_NAME};
-
-template <> struct Fields<SettingsEffectGIMPHueSaturation>
+struct HueSaturationFields
 {
     using R = SettingsEffectGIMPHueSaturation;
 
@@ -21,7 +21,19 @@ template <> struct Fields<SettingsEffectGIMPHueSaturation>
                            AccessorDescriptor<"overlap", &R::SetOverlap, &R::GetOverlap>>;
 };
 
-template struct Reflected<SettingsEffectGIMPHueSaturation>;
+} // namespace
+
+OMBREL_EARLY_INIT const std::string SettingsEffectGIMPHueSaturation::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectGIMPHueSaturation::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectGIMPHueSaturation>();
+}
+
+const RecordSchema& SettingsEffectGIMPHueSaturation::Schema() noexcept
+{
+    return Describe<SettingsEffectGIMPHueSaturation, HueSaturationFields::List>();
+}
 
 bool SettingsEffectGIMPHueSaturation::IsEmpty() const
 {

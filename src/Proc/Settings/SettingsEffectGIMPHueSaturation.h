@@ -19,6 +19,9 @@ class OMBREL_API SettingsEffectGIMPHueSaturation : public SettingsRecord<Setting
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_GIMP_HUE_SATURATION";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class HueRange : std::int32_t
     {

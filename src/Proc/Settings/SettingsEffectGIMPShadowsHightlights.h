@@ -8,11 +8,14 @@ namespace Ombrel::Proc
 
 /// Lightens shadows and darkens highlights. The names of the classes are misspelled, and the class id with them, as stored; the
 /// keys are not. Every value is stored as given; shadows, highlights and a white point of 0 change nothing.
-class OMBREL_API SettingsEffectGIMPShadowsHightlights : public SettingsRecord<SettingsEffectGIMPShadowsHightlights>
+class OMBREL_API SettingsEffectGIMPShadowsHightlights : public ComparedRecord<SettingsEffectGIMPShadowsHightlights>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_GIMP_SHADOWS_HIGHTLIGHTS";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if every value has its default.
     bool IsEmpty() const override;
@@ -37,8 +40,6 @@ public:
 
     float GetIntensity() const { return m_intensity; }
     void SetIntensity(float value) { m_intensity = value; }
-
-    bool operator==(const SettingsEffectGIMPShadowsHightlights& other) const;
 
 private:
     float m_shadows = 0.0f;

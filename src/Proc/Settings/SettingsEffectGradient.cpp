@@ -1,29 +1,27 @@
 #include "Proc/Settings/SettingsEffectGradient.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 #include "Proc/Settings/RgbaColorCodec.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectGradient::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectGradient::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectGradient>
+const std::string& SettingsEffectGradient::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectGradient>();
+}
+
+const RecordSchema& SettingsEffectGradient::Schema() noexcept
 {
     using R = SettingsEffectGradient;
-    using List = FieldList<FieldDescriptor<&R::m_gradient>>;
-};
-
-template struct Reflected<SettingsEffectGradient>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_gradient>>>();
+}
 
 bool SettingsEffectGradient::IsEmpty() const
 {
     return m_gradient.empty();
-}
-
-bool SettingsEffectGradient::operator==(const SettingsEffectGradient& other) const
-{
-    return Reflected<SettingsEffectGradient>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -1,28 +1,26 @@
 #include "Proc/Settings/SettingsEffectGradientPosterize.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectGradientPosterize::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectGradientPosterize::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectGradientPosterize>
+const std::string& SettingsEffectGradientPosterize::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectGradientPosterize>();
+}
+
+const RecordSchema& SettingsEffectGradientPosterize::Schema() noexcept
 {
     using R = SettingsEffectGradientPosterize;
-    using List = FieldList<FieldDescriptor<&R::m_colorCount>>;
-};
-
-template struct Reflected<SettingsEffectGradientPosterize>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_colorCount>>>();
+}
 
 bool SettingsEffectGradientPosterize::IsEmpty() const
 {
     return m_colorCount == 0;
-}
-
-bool SettingsEffectGradientPosterize::operator==(const SettingsEffectGradientPosterize& other) const
-{
-    return Reflected<SettingsEffectGradientPosterize>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

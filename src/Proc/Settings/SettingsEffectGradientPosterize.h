@@ -8,16 +8,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectGradientPosterize : public SettingsRecord<SettingsEffectGradientPosterize>
+class OMBREL_API SettingsEffectGradientPosterize : public ComparedRecord<SettingsEffectGradientPosterize>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_GRADIENT_POSTERIZE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if `m_colorCount` is 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectGradientPosterize& other) const;
 
     std::uint8_t m_colorCount = 0;
 };

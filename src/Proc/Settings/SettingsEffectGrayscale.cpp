@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectGrayscale.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectGrayscale::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectGrayscale::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectGrayscale::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectGrayscale>();
+}
 
 template <> struct EnumNames<SettingsEffectGrayscale::GrayscaleMethod>
 {
@@ -21,22 +26,15 @@ template <> struct EnumNames<SettingsEffectGrayscale::GrayscaleMethod>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectGrayscale>
+const RecordSchema& SettingsEffectGrayscale::Schema() noexcept
 {
     using R = SettingsEffectGrayscale;
-    using List = FieldList<FieldDescriptor<&R::m_method>>;
-};
-
-template struct Reflected<SettingsEffectGrayscale>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_method>>>();
+}
 
 bool SettingsEffectGrayscale::IsEmpty() const
 {
     return m_method == GrayscaleMethod::Empty;
-}
-
-bool SettingsEffectGrayscale::operator==(const SettingsEffectGrayscale& other) const
-{
-    return Reflected<SettingsEffectGrayscale>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -8,11 +8,14 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectGrayscale : public SettingsRecord<SettingsEffectGrayscale>
+class OMBREL_API SettingsEffectGrayscale : public ComparedRecord<SettingsEffectGrayscale>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_GRAYSCALE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class GrayscaleMethod : std::int32_t
     {
@@ -28,14 +31,13 @@ public:
         Rec709Luminance = 9,
     };
 
-    explicit SettingsEffectGrayscale(GrayscaleMethod method = GrayscaleMethod::Empty) : m_method(method) {}
+    SettingsEffectGrayscale() = default;
+    explicit SettingsEffectGrayscale(GrayscaleMethod method) : m_method(method) {}
 
     /// True if `m_method` is `Empty`.
     bool IsEmpty() const override;
 
-    bool operator==(const SettingsEffectGrayscale& other) const;
-
-    GrayscaleMethod m_method;
+    GrayscaleMethod m_method = GrayscaleMethod::Empty;
 };
 
 } // namespace Ombrel::Proc

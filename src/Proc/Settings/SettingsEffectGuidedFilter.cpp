@@ -1,19 +1,22 @@
 #include "Proc/Settings/SettingsEffectGuidedFilter.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectGuidedFilter::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectGuidedFilter::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectGuidedFilter>
+const std::string& SettingsEffectGuidedFilter::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectGuidedFilter>();
+}
+
+const RecordSchema& SettingsEffectGuidedFilter::Schema() noexcept
 {
     using R = SettingsEffectGuidedFilter;
-    using List = FieldList<FieldDescriptor<&R::m_radius>, FieldDescriptor<&R::m_depth>, FieldDescriptor<&R::m_eps>>;
-};
-
-template struct Reflected<SettingsEffectGuidedFilter>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_radius>, FieldDescriptor<&R::m_depth>, FieldDescriptor<&R::m_eps>>>();
+}
 
 SettingsEffectGuidedFilter::SettingsEffectGuidedFilter(std::int32_t radius, std::int32_t depth, double eps)
     : m_radius(radius), m_depth(depth), m_eps(eps)
@@ -23,11 +26,6 @@ SettingsEffectGuidedFilter::SettingsEffectGuidedFilter(std::int32_t radius, std:
 bool SettingsEffectGuidedFilter::IsEmpty() const
 {
     return m_radius == 0 || m_depth == 0 || m_eps == 0.0;
-}
-
-bool SettingsEffectGuidedFilter::operator==(const SettingsEffectGuidedFilter& other) const
-{
-    return Reflected<SettingsEffectGuidedFilter>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

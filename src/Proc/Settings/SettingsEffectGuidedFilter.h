@@ -8,22 +8,24 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectGuidedFilter : public SettingsRecord<SettingsEffectGuidedFilter>
+class OMBREL_API SettingsEffectGuidedFilter : public ComparedRecord<SettingsEffectGuidedFilter>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_GUIDED_FILTER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    explicit SettingsEffectGuidedFilter(std::int32_t radius = 10, std::int32_t depth = -1, double eps = 1e-05);
+    const std::string& GetClassId() const override;
+
+    SettingsEffectGuidedFilter() = default;
+    SettingsEffectGuidedFilter(std::int32_t radius, std::int32_t depth, double eps);
 
     /// True if one of the three values is 0.
     bool IsEmpty() const override;
 
-    bool operator==(const SettingsEffectGuidedFilter& other) const;
-
-    std::int32_t m_radius;
-    std::int32_t m_depth;
-    double m_eps;
+    std::int32_t m_radius = 10;
+    std::int32_t m_depth = -1;
+    double m_eps = 1e-05;
 };
 
 } // namespace Ombrel::Proc

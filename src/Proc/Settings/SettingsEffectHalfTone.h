@@ -11,11 +11,14 @@ namespace Ombrel::Proc
 
 /// The picture as printed in dots. It starts with black dots of no size on white, which draw nothing. Every value is stored as
 /// given.
-class OMBREL_API SettingsEffectHalfTone : public SettingsRecord<SettingsEffectHalfTone>
+class OMBREL_API SettingsEffectHalfTone : public ComparedRecord<SettingsEffectHalfTone>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_HALF_TONE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if every value has its default.
     bool IsEmpty() const override;
@@ -38,11 +41,7 @@ public:
     std::int32_t GetAngle() const { return m_angle; }
     void SetAngle(std::int32_t value) { m_angle = value; }
 
-    bool operator==(const SettingsEffectHalfTone& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     // Held in another order than the keys are stored in: the threshold stands before the size of the dots.
     RgbaColor m_backgroundColor{255, 255, 255, 255};
     RgbaColor m_dotColor;

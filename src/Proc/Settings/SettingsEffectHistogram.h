@@ -10,15 +10,14 @@ namespace Ombrel::Proc
 {
 
 /// A histogram drawn over the picture.
-class OMBREL_API SettingsEffectHistogram : public SettingsRecord<SettingsEffectHistogram>
+class OMBREL_API SettingsEffectHistogram : public ComparedRecord<SettingsEffectHistogram>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_HISTOGRAM";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectHistogram() override;
-
-    bool operator==(const SettingsEffectHistogram& other) const;
+    const std::string& GetClassId() const override;
 
     std::uint32_t m_width = 256;
     std::uint32_t m_heightLevel = 50;

@@ -1,6 +1,6 @@
 #include "Proc/Settings/SettingsEffectImageBlender.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
@@ -22,7 +22,12 @@ void SetFromBlendingMode(SettingsEffectImageBlender& record, Blender::BlendingMo
 
 } // namespace
 
-const std::string SettingsEffectImageBlender::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectImageBlender::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectImageBlender::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectImageBlender>();
+}
 
 template <> struct EnumNames<Blender::BlendingMode>
 {
@@ -35,15 +40,14 @@ template <> struct EnumNames<Blender::BlendingMode>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectImageBlender>
+const RecordSchema& SettingsEffectImageBlender::Schema() noexcept
 {
     using R = SettingsEffectImageBlender;
-    using List = FieldList<FieldDescriptor<&R::m_positionX>, FieldDescriptor<&R::m_positionY>,
-                           AccessorDescriptor<"alpha", &SetAlpha, &R::GetAlpha>,
-                           AccessorDescriptor<"blendingMode", &SetFromBlendingMode, &R::GetBlendingMode>>;
-};
-
-template struct Reflected<SettingsEffectImageBlender>;
+    return Describe<R, FieldList<AccessorDescriptor<"positionX", &R::SetPositionX, &R::GetPositionX>,
+                                 AccessorDescriptor<"positionY", &R::SetPositionY, &R::GetPositionY>,
+                                 AccessorDescriptor<"alpha", &SetAlpha, &R::GetAlpha>,
+                                 AccessorDescriptor<"blendingMode", &SetFromBlendingMode, &R::GetBlendingMode>>>();
+}
 
 bool SettingsEffectImageBlender::IsEmpty() const
 {

@@ -16,6 +16,9 @@ class OMBREL_API SettingsEffectImageBlender : public SettingsRecord<SettingsEffe
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_BLEND";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if the record is as by default.
     bool IsEmpty() const override;

@@ -1,24 +1,25 @@
 #include "Proc/Settings/SettingsEffectImageInpainter.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectImageInpainter::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectImageInpainter::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectImageInpainter>
+const std::string& SettingsEffectImageInpainter::GetClassId() const
 {
-    using List = FieldList<>;
-};
+    return ClassIdOf<SettingsEffectImageInpainter>();
+}
 
-template struct Reflected<SettingsEffectImageInpainter>;
+const RecordSchema& SettingsEffectImageInpainter::Schema() noexcept
+{
+    return Describe<SettingsEffectImageInpainter, FieldList<>>();
+}
 
 SettingsEffectImageInpainter::SettingsEffectImageInpainter()
 {
     neuralMode = 1;
 }
-
-SettingsEffectImageInpainter::~SettingsEffectImageInpainter() = default;
 
 } // namespace Ombrel::Proc

@@ -12,10 +12,12 @@ class OMBREL_API SettingsEffectImageInpainter : public SettingsRecord<SettingsEf
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_IMAGE_INPAINTER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// `neuralMode` starts at 1, unlike in the base.
     SettingsEffectImageInpainter();
-    ~SettingsEffectImageInpainter() override;
 };
 
 } // namespace Ombrel::Proc

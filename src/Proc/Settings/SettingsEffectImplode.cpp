@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectImplode.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectImplode::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectImplode::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectImplode::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectImplode>();
+}
 
 template <> struct EnumNames<SettingsEffectImplode::ImplodeMode>
 {
@@ -18,22 +23,15 @@ template <> struct EnumNames<SettingsEffectImplode::ImplodeMode>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectImplode>
+const RecordSchema& SettingsEffectImplode::Schema() noexcept
 {
     using R = SettingsEffectImplode;
-    using List = FieldList<FieldDescriptor<&R::m_strength>, FieldDescriptor<&R::m_mode>>;
-};
-
-template struct Reflected<SettingsEffectImplode>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_strength>, FieldDescriptor<&R::m_mode>>>();
+}
 
 bool SettingsEffectImplode::IsEmpty() const
 {
     return m_strength == 0.0;
-}
-
-bool SettingsEffectImplode::operator==(const SettingsEffectImplode& other) const
-{
-    return Reflected<SettingsEffectImplode>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

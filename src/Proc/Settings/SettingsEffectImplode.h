@@ -8,11 +8,14 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectImplode : public SettingsRecord<SettingsEffectImplode>
+class OMBREL_API SettingsEffectImplode : public ComparedRecord<SettingsEffectImplode>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_IMPLODE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class ImplodeMode : std::int32_t
     {
@@ -22,8 +25,6 @@ public:
 
     /// True if `m_strength` is 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectImplode& other) const;
 
     double m_strength = 0.0;
     ImplodeMode m_mode = ImplodeMode::Shrink;

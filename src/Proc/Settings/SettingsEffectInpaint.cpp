@@ -1,23 +1,24 @@
 #include "Proc/Settings/SettingsEffectInpaint.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 #include <cmath>
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectInpaint::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectInpaint::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectInpaint>
+const std::string& SettingsEffectInpaint::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectInpaint>();
+}
+
+const RecordSchema& SettingsEffectInpaint::Schema() noexcept
 {
     using R = SettingsEffectInpaint;
-    using List = FieldList<FieldDescriptor<&R::m_lookupSize>, FieldDescriptor<&R::m_patchSize>>;
-};
-
-template struct Reflected<SettingsEffectInpaint>;
-
-SettingsEffectInpaint::~SettingsEffectInpaint() = default;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_lookupSize>, FieldDescriptor<&R::m_patchSize>>>();
+}
 
 bool SettingsEffectInpaint::operator==(const SettingsEffectInpaint& other) const
 {

@@ -13,8 +13,9 @@ class OMBREL_API SettingsEffectInpaint : public SettingsRecord<SettingsEffectInp
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_INPAINT";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectInpaint() override;
+    const std::string& GetClassId() const override;
 
     /// `m_lookupSize` is equal below a difference of 1e-05; a NaN equals nothing, and neither does an infinity.
     bool operator==(const SettingsEffectInpaint& other) const;

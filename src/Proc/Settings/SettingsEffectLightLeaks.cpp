@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectLightLeaks.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectLightLeaks::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectLightLeaks::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectLightLeaks::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectLightLeaks>();
+}
 
 template <> struct EnumNames<SettingsEffectLightLeaks::LeakPreset>
 {
@@ -22,19 +27,10 @@ template <> struct EnumNames<SettingsEffectLightLeaks::LeakPreset>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectLightLeaks>
+const RecordSchema& SettingsEffectLightLeaks::Schema() noexcept
 {
     using R = SettingsEffectLightLeaks;
-    using List = FieldList<FieldDescriptor<&R::m_preset>>;
-};
-
-template struct Reflected<SettingsEffectLightLeaks>;
-
-SettingsEffectLightLeaks::~SettingsEffectLightLeaks() = default;
-
-bool SettingsEffectLightLeaks::operator==(const SettingsEffectLightLeaks& other) const
-{
-    return Reflected<SettingsEffectLightLeaks>::Equal(*this, other);
+    return Describe<R, FieldList<AccessorDescriptor<"preset", &R::SetPreset, &R::GetPreset>>>();
 }
 
 } // namespace Ombrel::Proc

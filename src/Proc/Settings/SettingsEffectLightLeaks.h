@@ -9,11 +9,14 @@ namespace Ombrel::Proc
 {
 
 /// Light that fell into the camera. Any preset changes a picture: there is no neutral state, and the record is never empty.
-class OMBREL_API SettingsEffectLightLeaks : public SettingsRecord<SettingsEffectLightLeaks>
+class OMBREL_API SettingsEffectLightLeaks : public ComparedRecord<SettingsEffectLightLeaks>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_LIGHT_LEAKS";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// Counted from 0, named from 1.
     enum class LeakPreset : std::int32_t
@@ -36,16 +39,10 @@ public:
         enPreset16 = 15,
     };
 
-    ~SettingsEffectLightLeaks() override;
-
     LeakPreset GetPreset() const { return m_preset; }
     void SetPreset(LeakPreset value) { m_preset = value; }
 
-    bool operator==(const SettingsEffectLightLeaks& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     LeakPreset m_preset = LeakPreset::enPreset1;
 };
 

@@ -1,20 +1,21 @@
 #include "Proc/Settings/SettingsEffectMatting.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectMatting::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectMatting::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectMatting>
+const std::string& SettingsEffectMatting::GetClassId() const
 {
-    using List = FieldList<>;
-};
+    return ClassIdOf<SettingsEffectMatting>();
+}
 
-template struct Reflected<SettingsEffectMatting>;
-
-SettingsEffectMatting::~SettingsEffectMatting() = default;
+const RecordSchema& SettingsEffectMatting::Schema() noexcept
+{
+    return Describe<SettingsEffectMatting, FieldList<>>();
+}
 
 bool SettingsEffectMatting::operator==(const SettingsEffectMatting&) const
 {

@@ -12,8 +12,9 @@ class OMBREL_API SettingsEffectMatting : public SettingsRecord<SettingsEffectMat
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_MATTING";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectMatting() override;
+    const std::string& GetClassId() const override;
 
     /// Always true.
     bool operator==(const SettingsEffectMatting& other) const;

@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectNegateVideo.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectNegateVideo::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectNegateVideo::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectNegateVideo::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectNegateVideo>();
+}
 
 template <> struct EnumNames<SettingsEffectNegateVideo::Channel>
 {
@@ -20,13 +25,11 @@ template <> struct EnumNames<SettingsEffectNegateVideo::Channel>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectNegateVideo>
+const RecordSchema& SettingsEffectNegateVideo::Schema() noexcept
 {
     using R = SettingsEffectNegateVideo;
-    using List = FieldList<AccessorDescriptor<"mode", &R::SetMode, &R::GetMode>>;
-};
-
-template struct Reflected<SettingsEffectNegateVideo>;
+    return Describe<R, FieldList<AccessorDescriptor<"mode", &R::SetMode, &R::GetMode>>>();
+}
 
 bool SettingsEffectNegateVideo::IsEmpty() const
 {

@@ -15,6 +15,9 @@ class OMBREL_API SettingsEffectNegateVideo : public SettingsRecord<SettingsEffec
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_NEGATE_VIDEO";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// Each channel is a bit of its own in the mask.
     enum class Channel : std::int32_t

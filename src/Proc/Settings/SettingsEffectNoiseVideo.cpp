@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectNoiseVideo.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectNoiseVideo::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectNoiseVideo::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectNoiseVideo::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectNoiseVideo>();
+}
 
 template <> struct EnumNames<SettingsEffectNoiseVideo::Method>
 {
@@ -19,22 +24,17 @@ template <> struct EnumNames<SettingsEffectNoiseVideo::Method>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectNoiseVideo>
+const RecordSchema& SettingsEffectNoiseVideo::Schema() noexcept
 {
     using R = SettingsEffectNoiseVideo;
-    using List = FieldList<FieldDescriptor<&R::m_method>, FieldDescriptor<&R::m_seed>, FieldDescriptor<&R::m_strength>>;
-};
-
-template struct Reflected<SettingsEffectNoiseVideo>;
+    return Describe<R, FieldList<AccessorDescriptor<"method", &R::SetMethod, &R::GetMethod>,
+                                 AccessorDescriptor<"seed", &R::SetSeed, &R::GetSeed>,
+                                 AccessorDescriptor<"strength", &R::SetStrength, &R::GetStrength>>>();
+}
 
 bool SettingsEffectNoiseVideo::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectNoiseVideo>::Default();
-}
-
-bool SettingsEffectNoiseVideo::operator==(const SettingsEffectNoiseVideo& other) const
-{
-    return Reflected<SettingsEffectNoiseVideo>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -9,11 +9,14 @@ namespace Ombrel::Proc
 {
 
 /// Adds noise. Every value is stored as given.
-class OMBREL_API SettingsEffectNoiseVideo : public SettingsRecord<SettingsEffectNoiseVideo>
+class OMBREL_API SettingsEffectNoiseVideo : public ComparedRecord<SettingsEffectNoiseVideo>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_NOISE_VIDEO";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class Method : std::int32_t
     {
@@ -42,11 +45,7 @@ public:
     std::int32_t GetStrength() const { return m_strength; }
     void SetStrength(std::int32_t value) { m_strength = value; }
 
-    bool operator==(const SettingsEffectNoiseVideo& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     Method m_method;
     std::int32_t m_seed = 0;
     std::int32_t m_strength;

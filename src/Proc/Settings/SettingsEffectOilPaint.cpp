@@ -1,21 +1,24 @@
 #include "Proc/Settings/SettingsEffectOilPaint.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 #include "Proc/Settings/ScaledInteger.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectOilPaint::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectOilPaint::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectOilPaint>
+const std::string& SettingsEffectOilPaint::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectOilPaint>();
+}
+
+const RecordSchema& SettingsEffectOilPaint::Schema() noexcept
 {
     using R = SettingsEffectOilPaint;
-    using List = FieldList<AccessorDescriptor<"radius", &R::SetRadius, &R::GetRadius>,
-                           AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>;
-};
-
-template struct Reflected<SettingsEffectOilPaint>;
+    return Describe<R, FieldList<AccessorDescriptor<"radius", &R::SetRadius, &R::GetRadius>,
+                                 AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>>();
+}
 
 bool SettingsEffectOilPaint::IsEmpty() const
 {

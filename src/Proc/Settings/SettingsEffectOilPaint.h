@@ -15,6 +15,9 @@ class OMBREL_API SettingsEffectOilPaint : public SettingsRecord<SettingsEffectOi
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_OIL_PAINT";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if the radius was set to 0 and the intensity is 1.
     bool IsEmpty() const override;

@@ -1,6 +1,6 @@
 #include "Proc/Settings/SettingsEffectPixelate.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 #include <cmath>
 
@@ -13,7 +13,12 @@ constexpr double TOLERANCE = 1e-5;
 
 } // namespace
 
-const std::string SettingsEffectPixelate::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectPixelate::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectPixelate::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectPixelate>();
+}
 
 template <> struct EnumNames<SettingsEffectPixelate::ScaleMethod>
 {
@@ -35,14 +40,12 @@ template <> struct EnumNames<SettingsEffectPixelate::ScaleMethod>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectPixelate>
+const RecordSchema& SettingsEffectPixelate::Schema() noexcept
 {
     using R = SettingsEffectPixelate;
-    using List = FieldList<FieldDescriptor<&R::m_strength>, FieldDescriptor<&R::m_methodDownscale>,
-                           FieldDescriptor<&R::m_methodUpscale>>;
-};
-
-template struct Reflected<SettingsEffectPixelate>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_strength>, FieldDescriptor<&R::m_methodDownscale>,
+                                 FieldDescriptor<&R::m_methodUpscale>>>();
+}
 
 bool SettingsEffectPixelate::IsEmpty() const
 {

@@ -14,6 +14,9 @@ class OMBREL_API SettingsEffectPixelate : public SettingsRecord<SettingsEffectPi
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_PIXELATE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class ScaleMethod : std::int32_t
     {

@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectPopArt.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectPopArt::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectPopArt::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectPopArt::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectPopArt>();
+}
 
 template <> struct EnumNames<SettingsEffectPopArt::DisproportionPolicy>
 {
@@ -18,30 +23,25 @@ template <> struct EnumNames<SettingsEffectPopArt::DisproportionPolicy>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectPopArt>
+const RecordSchema& SettingsEffectPopArt::Schema() noexcept
 {
     using R = SettingsEffectPopArt;
-    using List =
+    return Describe<
+        R,
         FieldList<AccessorDescriptor<"saturation", &R::SetSaturation, &R::GetSaturation>,
                   AccessorDescriptor<"hue", &R::SetHue, &R::GetHue>, AccessorDescriptor<"offset", &R::SetOffset, &R::GetOffset>,
                   AccessorDescriptor<"scale", &R::SetScale, &R::GetScale>,
                   AccessorDescriptor<"levels", &R::SetLevels, &R::GetLevels>,
                   AccessorDescriptor<"amountVertical", &R::SetAmountVertical, &R::GetAmountVertical>,
                   AccessorDescriptor<"amountHorizontal", &R::SetAmountHorizontal, &R::GetAmountHorizontal>,
-                  FieldDescriptor<&R::m_invertScale>, AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>,
-                  FieldDescriptor<&R::m_disproportionPolicy>>;
-};
-
-template struct Reflected<SettingsEffectPopArt>;
+                  AccessorDescriptor<"invertScale", &R::SetInvertScale, &R::GetInvertScale>,
+                  AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>,
+                  AccessorDescriptor<"disproportionPolicy", &R::SetDisproportionPolicy, &R::GetDisproportionPolicy>>>();
+}
 
 bool SettingsEffectPopArt::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectPopArt>::Default();
-}
-
-bool SettingsEffectPopArt::operator==(const SettingsEffectPopArt& other) const
-{
-    return Reflected<SettingsEffectPopArt>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -10,11 +10,14 @@ namespace Ombrel::Proc
 
 /// The picture in few strong colours, repeated in rows and columns. It starts as one picture at intensity 0, which leaves it
 /// alone. Every value is stored as given.
-class OMBREL_API SettingsEffectPopArt : public SettingsRecord<SettingsEffectPopArt>
+class OMBREL_API SettingsEffectPopArt : public ComparedRecord<SettingsEffectPopArt>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_POP_ART";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class DisproportionPolicy : std::int32_t
     {
@@ -55,11 +58,7 @@ public:
     DisproportionPolicy GetDisproportionPolicy() const { return m_disproportionPolicy; }
     void SetDisproportionPolicy(DisproportionPolicy value) { m_disproportionPolicy = value; }
 
-    bool operator==(const SettingsEffectPopArt& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     double m_saturation = 0.0;
     double m_hue = 0.0;
     double m_offset = 0.0;

@@ -1,30 +1,29 @@
 #include "Proc/Settings/SettingsEffectPosterize.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectPosterize::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectPosterize::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectPosterize>
+const std::string& SettingsEffectPosterize::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectPosterize>();
+}
+
+const RecordSchema& SettingsEffectPosterize::Schema() noexcept
 {
     using R = SettingsEffectPosterize;
-    using List = FieldList<FieldDescriptor<&R::m_isPal>, FieldDescriptor<&R::m_seed>,
-                           AccessorDescriptor<"colors", &R::SetColorsNumber, &R::GetColorsNumber>,
-                           AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>;
-};
-
-template struct Reflected<SettingsEffectPosterize>;
+    return Describe<R, FieldList<AccessorDescriptor<"isPal", &R::SetIsPal, &R::GetIsPal>,
+                                 AccessorDescriptor<"seed", &R::SetSeed, &R::GetSeed>,
+                                 AccessorDescriptor<"colors", &R::SetColorsNumber, &R::GetColorsNumber>,
+                                 AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>>();
+}
 
 bool SettingsEffectPosterize::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectPosterize>::Default();
-}
-
-bool SettingsEffectPosterize::operator==(const SettingsEffectPosterize& other) const
-{
-    return Reflected<SettingsEffectPosterize>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

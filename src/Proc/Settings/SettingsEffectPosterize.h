@@ -9,11 +9,14 @@ namespace Ombrel::Proc
 {
 
 /// Reduces the picture to a number of colours. Every value is stored as given; an intensity of 0 leaves the picture alone.
-class OMBREL_API SettingsEffectPosterize : public SettingsRecord<SettingsEffectPosterize>
+class OMBREL_API SettingsEffectPosterize : public ComparedRecord<SettingsEffectPosterize>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_POSTERIZE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if the record is as by default.
     bool IsEmpty() const override;
@@ -30,11 +33,7 @@ public:
     float GetIntensity() const { return m_intensity; }
     void SetIntensity(float value) { m_intensity = value; }
 
-    bool operator==(const SettingsEffectPosterize& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     // The number of colours comes first here and third among the stored keys.
     std::int32_t m_colorsNumber = 0;
     bool m_isPal = false;

@@ -8,14 +8,18 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectReduceLocalLuma : public SettingsRecord<SettingsEffectReduceLocalLuma>
+class OMBREL_API SettingsEffectReduceLocalLuma : public ComparedRecord<SettingsEffectReduceLocalLuma>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_REDUCE_LOCAL_LUMA";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    explicit SettingsEffectReduceLocalLuma(std::int32_t x = 0, std::int32_t y = 0, std::int32_t width = 0,
-                                           std::int32_t height = 0, double strength = 1.0)
+    const std::string& GetClassId() const override;
+
+    SettingsEffectReduceLocalLuma() = default;
+
+    SettingsEffectReduceLocalLuma(std::int32_t x, std::int32_t y, std::int32_t width, std::int32_t height, double strength)
         : m_x(x), m_y(y), m_width(width), m_height(height), m_strength(strength)
     {
     }
@@ -23,13 +27,11 @@ public:
     /// True if `m_strength` is 0.
     bool IsEmpty() const override;
 
-    bool operator==(const SettingsEffectReduceLocalLuma& other) const;
-
-    std::int32_t m_x;
-    std::int32_t m_y;
-    std::int32_t m_width;
-    std::int32_t m_height;
-    double m_strength;
+    std::int32_t m_x = 0;
+    std::int32_t m_y = 0;
+    std::int32_t m_width = 0;
+    std::int32_t m_height = 0;
+    double m_strength = 1.0;
 };
 
 } // namespace Ombrel::Proc

@@ -1,22 +1,25 @@
 #include "Proc/Settings/SettingsEffectRemoveBackground.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 #include "Proc/Settings/RgbaColorCodec.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectRemoveBackground::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectRemoveBackground::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectRemoveBackground::BackgroundSettings>
+const std::string& SettingsEffectRemoveBackground::GetClassId() const
 {
-    using R = SettingsEffectRemoveBackground::BackgroundSettings;
-    using List = FieldList<FieldDescriptor<&R::m_bgFileName>, FieldDescriptor<&R::m_bgColor>>;
-};
+    return ClassIdOf<SettingsEffectRemoveBackground>();
+}
 
-template struct Reflected<SettingsEffectRemoveBackground::BackgroundSettings>;
+const RecordSchema& SettingsEffectRemoveBackground::BackgroundSettings::Schema() noexcept
+{
+    using R = BackgroundSettings;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_bgFileName>, FieldDescriptor<&R::m_bgColor>>>();
+}
 
-template <> struct Fields<SettingsEffectRemoveBackground>
+const RecordSchema& SettingsEffectRemoveBackground::Schema() noexcept
 {
     using R = SettingsEffectRemoveBackground;
 
@@ -27,14 +30,10 @@ template <> struct Fields<SettingsEffectRemoveBackground>
         static bool Equal(const R&, const R&) { return false; }
     };
 
-    using List = FieldList<FieldDescriptor<&R::m_smooth>, FieldDescriptor<&R::m_morph>, FieldDescriptor<&R::m_adapt>,
-                           FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>, FieldDescriptor<&R::m_scaleX>,
-                           FieldDescriptor<&R::m_scaleY>, Background>;
-};
-
-template struct Reflected<SettingsEffectRemoveBackground>;
-
-SettingsEffectRemoveBackground::~SettingsEffectRemoveBackground() = default;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_smooth>, FieldDescriptor<&R::m_morph>, FieldDescriptor<&R::m_adapt>,
+                                 FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>, FieldDescriptor<&R::m_scaleX>,
+                                 FieldDescriptor<&R::m_scaleY>, Background>>();
+}
 
 bool SettingsEffectRemoveBackground::operator==(const SettingsEffectRemoveBackground& other) const
 {

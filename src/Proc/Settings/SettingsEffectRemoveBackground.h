@@ -15,17 +15,20 @@ class OMBREL_API SettingsEffectRemoveBackground : public SettingsRecord<Settings
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_REMOVE_BACKGROUND";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// What takes the background's place.
     struct BackgroundSettings
     {
+        OMBREL_API static const RecordSchema& Schema() noexcept;
+
         bool operator==(const BackgroundSettings&) const = default;
 
         std::string m_bgFileName;
         RgbaColor m_bgColor;
     };
-
-    ~SettingsEffectRemoveBackground() override;
 
     /// Looks at everything but `m_backgroundSettings`: another background leaves two records equal.
     bool operator==(const SettingsEffectRemoveBackground& other) const;

@@ -1,24 +1,27 @@
 #include "Proc/Settings/SettingsEffectReplaceChroma.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 #include "Proc/Settings/RgbaColorCodec.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectReplaceChroma::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectReplaceChroma::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectReplaceChroma>
+const std::string& SettingsEffectReplaceChroma::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectReplaceChroma>();
+}
+
+const RecordSchema& SettingsEffectReplaceChroma::Schema() noexcept
 {
     using R = SettingsEffectReplaceChroma;
-    using List =
-        FieldList<FieldDescriptor<&R::m_replaceColor>, FieldDescriptor<&R::m_baseColor>, FieldDescriptor<&R::m_strength>,
-                  FieldDescriptor<&R::m_maxValue>, FieldDescriptor<&R::m_minValue>, FieldDescriptor<&R::m_maxThreshold>,
-                  FieldDescriptor<&R::m_minThreshold>, FieldDescriptor<&R::m_useBaseColor>, FieldDescriptor<&R::m_keepLuma>,
-                  FieldDescriptor<&R::m_correctLuma>, FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>>;
-};
-
-template struct Reflected<SettingsEffectReplaceChroma>;
+    return Describe<
+        R, FieldList<FieldDescriptor<&R::m_replaceColor>, FieldDescriptor<&R::m_baseColor>, FieldDescriptor<&R::m_strength>,
+                     FieldDescriptor<&R::m_maxValue>, FieldDescriptor<&R::m_minValue>, FieldDescriptor<&R::m_maxThreshold>,
+                     FieldDescriptor<&R::m_minThreshold>, FieldDescriptor<&R::m_useBaseColor>, FieldDescriptor<&R::m_keepLuma>,
+                     FieldDescriptor<&R::m_correctLuma>, FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>>>();
+}
 
 SettingsEffectReplaceChroma::SettingsEffectReplaceChroma(const RgbaColor& replaceColor, const RgbaColor& baseColor)
     : m_replaceColor(replaceColor), m_baseColor(baseColor)
@@ -28,11 +31,6 @@ SettingsEffectReplaceChroma::SettingsEffectReplaceChroma(const RgbaColor& replac
 bool SettingsEffectReplaceChroma::IsEmpty() const
 {
     return m_strength == 0;
-}
-
-bool SettingsEffectReplaceChroma::operator==(const SettingsEffectReplaceChroma& other) const
-{
-    return Reflected<SettingsEffectReplaceChroma>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -10,11 +10,14 @@ namespace Ombrel::Proc
 {
 
 /// Replaces one colour of the picture by another.
-class OMBREL_API SettingsEffectReplaceChroma : public SettingsRecord<SettingsEffectReplaceChroma>
+class OMBREL_API SettingsEffectReplaceChroma : public ComparedRecord<SettingsEffectReplaceChroma>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_REPLACE_CHROMA";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     SettingsEffectReplaceChroma() = default;
 
@@ -23,8 +26,6 @@ public:
 
     /// True if `m_strength` is 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectReplaceChroma& other) const;
 
     RgbaColor m_replaceColor{255, 255, 255, 255};
     RgbaColor m_baseColor{0, 0, 0, 255};

@@ -1,25 +1,28 @@
 #include "Proc/Settings/SettingsEffectRetroArtefacts.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 #include "Proc/Settings/ScaledInteger.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectRetroArtefacts::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectRetroArtefacts::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectRetroArtefacts>
+const std::string& SettingsEffectRetroArtefacts::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectRetroArtefacts>();
+}
+
+const RecordSchema& SettingsEffectRetroArtefacts::Schema() noexcept
 {
     using R = SettingsEffectRetroArtefacts;
-    using List = FieldList<AccessorDescriptor<"shake", &R::SetShake, &R::GetShake>,
-                           AccessorDescriptor<"vignetting", &R::SetVignetting, &R::GetVignetting>,
-                           AccessorDescriptor<"grain", &R::SetGrain, &R::GetGrain>,
-                           AccessorDescriptor<"scratches", &R::SetScratches, &R::GetScratches>,
-                           AccessorDescriptor<"rollerTrack", &R::SetRollerTrack, &R::GetRollerTrack>,
-                           AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>;
-};
-
-template struct Reflected<SettingsEffectRetroArtefacts>;
+    return Describe<R, FieldList<AccessorDescriptor<"shake", &R::SetShake, &R::GetShake>,
+                                 AccessorDescriptor<"vignetting", &R::SetVignetting, &R::GetVignetting>,
+                                 AccessorDescriptor<"grain", &R::SetGrain, &R::GetGrain>,
+                                 AccessorDescriptor<"scratches", &R::SetScratches, &R::GetScratches>,
+                                 AccessorDescriptor<"rollerTrack", &R::SetRollerTrack, &R::GetRollerTrack>,
+                                 AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>>();
+}
 
 bool SettingsEffectRetroArtefacts::IsEmpty() const
 {

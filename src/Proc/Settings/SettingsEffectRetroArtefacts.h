@@ -16,6 +16,9 @@ class OMBREL_API SettingsEffectRetroArtefacts : public SettingsRecord<SettingsEf
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_RETRO_ARTEFACTS";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if both switches are off, the amounts were set to 0 and the intensity is 1.
     bool IsEmpty() const override;

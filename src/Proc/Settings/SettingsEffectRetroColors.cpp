@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectRetroColors.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectRetroColors::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectRetroColors::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectRetroColors::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectRetroColors>();
+}
 
 template <> struct EnumNames<SettingsEffectRetroColors::RetroType>
 {
@@ -20,23 +25,16 @@ template <> struct EnumNames<SettingsEffectRetroColors::RetroType>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectRetroColors>
+const RecordSchema& SettingsEffectRetroColors::Schema() noexcept
 {
     using R = SettingsEffectRetroColors;
-    using List = FieldList<AccessorDescriptor<"type", &R::SetType, &R::GetType>,
-                           AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>;
-};
-
-template struct Reflected<SettingsEffectRetroColors>;
+    return Describe<R, FieldList<AccessorDescriptor<"type", &R::SetType, &R::GetType>,
+                                 AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>>();
+}
 
 bool SettingsEffectRetroColors::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectRetroColors>::Default();
-}
-
-bool SettingsEffectRetroColors::operator==(const SettingsEffectRetroColors& other) const
-{
-    return Reflected<SettingsEffectRetroColors>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -10,11 +10,14 @@ namespace Ombrel::Proc
 
 /// Colours of old pictures. Any type changes a picture, so that the intensity is what starts at 0. Every value is stored as
 /// given.
-class OMBREL_API SettingsEffectRetroColors : public SettingsRecord<SettingsEffectRetroColors>
+class OMBREL_API SettingsEffectRetroColors : public ComparedRecord<SettingsEffectRetroColors>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_RETRO_COLORS";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class RetroType : std::int32_t
     {
@@ -32,8 +35,6 @@ public:
 
     float GetIntensity() const { return m_intensity; }
     void SetIntensity(float value) { m_intensity = value; }
-
-    bool operator==(const SettingsEffectRetroColors& other) const;
 
 private:
     RetroType m_type = RetroType::enRetro;

@@ -1,12 +1,17 @@
 #include "Proc/Settings/SettingsEffectRotate.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 #include "Proc/Settings/RgbaColorCodec.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectRotate::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectRotate::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectRotate::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectRotate>();
+}
 
 template <> struct EnumNames<SettingsEffectRotate::OutputSizeMode>
 {
@@ -21,23 +26,20 @@ template <> struct EnumNames<SettingsEffectRotate::OutputSizeMode>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectRotate>
+const RecordSchema& SettingsEffectRotate::Schema() noexcept
 {
     using R = SettingsEffectRotate;
-    using List = FieldList<FieldDescriptor<&R::m_outputSizeMode>, FieldDescriptor<&R::m_angle>, FieldDescriptor<&R::m_width>,
-                           FieldDescriptor<&R::m_height>, FieldDescriptor<&R::m_isBilinear>, FieldDescriptor<&R::m_color>>;
-};
-
-template struct Reflected<SettingsEffectRotate>;
+    return Describe<R, FieldList<AccessorDescriptor<"outputSizeMode", &R::SetOutputSizeMode, &R::GetOutputSizeMode>,
+                                 AccessorDescriptor<"angle", &R::SetAngle, &R::GetAngle>,
+                                 AccessorDescriptor<"width", &R::SetWidth, &R::GetWidth>,
+                                 AccessorDescriptor<"height", &R::SetHeight, &R::GetHeight>,
+                                 AccessorDescriptor<"isBilinear", &R::SetIsBilinear, &R::GetIsBilinear>,
+                                 AccessorDescriptor<"color", &R::SetColor, &R::GetColor>>>();
+}
 
 bool SettingsEffectRotate::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectRotate>::Default();
-}
-
-bool SettingsEffectRotate::operator==(const SettingsEffectRotate& other) const
-{
-    return Reflected<SettingsEffectRotate>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -10,11 +10,14 @@ namespace Ombrel::Proc
 {
 
 /// Rotation by a free angle. Every value is stored as given; an angle of 0 and the original size leave the picture as it is.
-class OMBREL_API SettingsEffectRotate : public SettingsRecord<SettingsEffectRotate>
+class OMBREL_API SettingsEffectRotate : public ComparedRecord<SettingsEffectRotate>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_ROTATE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// The size of the result; width and height are those of `enOutputSizeCustom`.
     enum class OutputSizeMode : std::int32_t
@@ -47,11 +50,7 @@ public:
     const RgbaColor& GetColor() const { return m_color; }
     void SetColor(const RgbaColor& value) { m_color = value; }
 
-    bool operator==(const SettingsEffectRotate& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     // The angle stands first; the stored order of the keys begins with the size mode.
     double m_angle = 0.0;
     OutputSizeMode m_outputSizeMode = OutputSizeMode::enOutputSizeOriginal;

@@ -1,12 +1,17 @@
 #include "Proc/Settings/SettingsEffectSegmentation.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 #include "Proc/Settings/RgbaColorCodec.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectSegmentation::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectSegmentation::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectSegmentation::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectSegmentation>();
+}
 
 template <> struct EnumNames<SettingsEffectSegmentation::SegmentationAlgorithm>
 {
@@ -21,18 +26,14 @@ template <> struct EnumNames<SettingsEffectSegmentation::SegmentationAlgorithm>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectSegmentation>
+const RecordSchema& SettingsEffectSegmentation::Schema() noexcept
 {
     using R = SettingsEffectSegmentation;
-    using List =
-        FieldList<FieldDescriptor<&R::m_algorithm>, FieldDescriptor<&R::m_foreground>, FieldDescriptor<&R::m_background>,
-                  FieldDescriptor<&R::m_alpha>, FieldDescriptor<&R::m_smooth>, FieldDescriptor<&R::m_keepSelection>,
-                  FieldDescriptor<&R::m_showProgress>, FieldDescriptor<&R::m_demoMode>, FieldDescriptor<&R::m_demoColor>>;
-};
-
-template struct Reflected<SettingsEffectSegmentation>;
-
-SettingsEffectSegmentation::~SettingsEffectSegmentation() = default;
+    return Describe<
+        R, FieldList<FieldDescriptor<&R::m_algorithm>, FieldDescriptor<&R::m_foreground>, FieldDescriptor<&R::m_background>,
+                     FieldDescriptor<&R::m_alpha>, FieldDescriptor<&R::m_smooth>, FieldDescriptor<&R::m_keepSelection>,
+                     FieldDescriptor<&R::m_showProgress>, FieldDescriptor<&R::m_demoMode>, FieldDescriptor<&R::m_demoColor>>>();
+}
 
 bool SettingsEffectSegmentation::operator==(const SettingsEffectSegmentation& other) const
 {

@@ -15,6 +15,9 @@ class OMBREL_API SettingsEffectSegmentation : public SettingsRecord<SettingsEffe
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_SEGMENTATION";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class SegmentationAlgorithm : std::int32_t
     {
@@ -23,8 +26,6 @@ public:
         GridGraph = 2,
         Watershed = 3,
     };
-
-    ~SettingsEffectSegmentation() override;
 
     /// Looks at everything but the two demo members.
     bool operator==(const SettingsEffectSegmentation& other) const;

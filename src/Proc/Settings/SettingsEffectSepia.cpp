@@ -1,28 +1,26 @@
 #include "Proc/Settings/SettingsEffectSepia.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectSepia::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectSepia::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectSepia>
+const std::string& SettingsEffectSepia::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectSepia>();
+}
+
+const RecordSchema& SettingsEffectSepia::Schema() noexcept
 {
     using R = SettingsEffectSepia;
-    using List = FieldList<FieldDescriptor<&R::m_threshold>>;
-};
-
-template struct Reflected<SettingsEffectSepia>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_threshold>>>();
+}
 
 bool SettingsEffectSepia::IsEmpty() const
 {
     return m_threshold == 0.0;
-}
-
-bool SettingsEffectSepia::operator==(const SettingsEffectSepia& other) const
-{
-    return Reflected<SettingsEffectSepia>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -6,16 +6,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectSepia : public SettingsRecord<SettingsEffectSepia>
+class OMBREL_API SettingsEffectSepia : public ComparedRecord<SettingsEffectSepia>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_SEPIA";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if `m_threshold` is exactly 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectSepia& other) const;
 
     double m_threshold = 0.0;
 };

@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectShapeMask.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectShapeMask::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectShapeMask::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectShapeMask::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectShapeMask>();
+}
 
 template <> struct EnumNames<SettingsEffectShapeMask::Shape>
 {
@@ -32,17 +37,15 @@ template <> struct EnumNames<SettingsEffectShapeMask::ThresholdMode>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectShapeMask>
+const RecordSchema& SettingsEffectShapeMask::Schema() noexcept
 {
     using R = SettingsEffectShapeMask;
-    using List = FieldList<FieldDescriptor<&R::m_shape>, FieldDescriptor<&R::m_thresholdMode>, FieldDescriptor<&R::m_x>,
-                           FieldDescriptor<&R::m_y>, FieldDescriptor<&R::m_width>, FieldDescriptor<&R::m_height>,
-                           FieldDescriptor<&R::m_threshold>, FieldDescriptor<&R::m_rotationAngle>,
-                           FieldDescriptor<&R::m_foreground>, FieldDescriptor<&R::m_background>,
-                           FieldDescriptor<&R::m_foregroundTilt>, FieldDescriptor<&R::m_backgroundTilt>>;
-};
-
-template struct Reflected<SettingsEffectShapeMask>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_shape>, FieldDescriptor<&R::m_thresholdMode>, FieldDescriptor<&R::m_x>,
+                                 FieldDescriptor<&R::m_y>, FieldDescriptor<&R::m_width>, FieldDescriptor<&R::m_height>,
+                                 FieldDescriptor<&R::m_threshold>, FieldDescriptor<&R::m_rotationAngle>,
+                                 FieldDescriptor<&R::m_foreground>, FieldDescriptor<&R::m_background>,
+                                 FieldDescriptor<&R::m_foregroundTilt>, FieldDescriptor<&R::m_backgroundTilt>>>();
+}
 
 bool SettingsEffectShapeMask::IsEmpty() const
 {
@@ -54,11 +57,6 @@ bool SettingsEffectShapeMask::IsForegroundOnly() const
     const bool hasShape = m_width != 0.0 || m_height != 0.0;
     const bool hasTilt = m_foregroundTilt != 0.0 || m_backgroundTilt != 0.0;
     return !hasTilt && m_background == 0 && (m_foreground == 0 || !hasShape);
-}
-
-bool SettingsEffectShapeMask::operator==(const SettingsEffectShapeMask& other) const
-{
-    return Reflected<SettingsEffectShapeMask>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -12,11 +12,14 @@ namespace Ombrel::Proc
 /// the mask is laid over the picture for: 0 is nothing, 255 all. By default there is no shape and the level is 0 everywhere.
 ///
 /// It stands inside other records too, some of which begin with other levels.
-class OMBREL_API SettingsEffectShapeMask : public SettingsRecord<SettingsEffectShapeMask>
+class OMBREL_API SettingsEffectShapeMask : public ComparedRecord<SettingsEffectShapeMask>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_SHAPE_MASK";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class Shape : std::int32_t
     {
@@ -39,8 +42,6 @@ public:
     /// True if the level is 0 everywhere, so that nothing lies over the foreground: no tilt, a background of 0, and a
     /// foreground of 0 or a shape without width and height.
     bool IsForegroundOnly() const;
-
-    bool operator==(const SettingsEffectShapeMask& other) const;
 
     Shape m_shape = Shape::Circle;
     ThresholdMode m_thresholdMode = ThresholdMode::None;

@@ -1,19 +1,22 @@
 #include "Proc/Settings/SettingsEffectSharpen.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectSharpen::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectSharpen::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectSharpen>
+const std::string& SettingsEffectSharpen::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectSharpen>();
+}
+
+const RecordSchema& SettingsEffectSharpen::Schema() noexcept
 {
     using R = SettingsEffectSharpen;
-    using List = FieldList<AccessorDescriptor<"level", &R::SetLevel, &R::GetLevel>>;
-};
-
-template struct Reflected<SettingsEffectSharpen>;
+    return Describe<R, FieldList<AccessorDescriptor<"level", &R::SetLevel, &R::GetLevel>>>();
+}
 
 bool SettingsEffectSharpen::IsEmpty() const
 {
@@ -23,11 +26,6 @@ bool SettingsEffectSharpen::IsEmpty() const
 void SettingsEffectSharpen::SetLevel(double value)
 {
     m_level = value;
-}
-
-bool SettingsEffectSharpen::operator==(const SettingsEffectSharpen& other) const
-{
-    return Reflected<SettingsEffectSharpen>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -6,11 +6,14 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectSharpen : public SettingsRecord<SettingsEffectSharpen>
+class OMBREL_API SettingsEffectSharpen : public ComparedRecord<SettingsEffectSharpen>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_SHARPEN";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if the record is as by default.
     bool IsEmpty() const override;
@@ -19,8 +22,6 @@ public:
 
     /// Stores the level as given. Every read of a stored tree comes through here.
     void SetLevel(double value);
-
-    bool operator==(const SettingsEffectSharpen& other) const;
 
 private:
     double m_level = 0.0;

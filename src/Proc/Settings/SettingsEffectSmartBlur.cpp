@@ -1,31 +1,33 @@
 #include "Proc/Settings/SettingsEffectSmartBlur.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectSmartBlur::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectSmartBlur::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectSmartBlur>
+const std::string& SettingsEffectSmartBlur::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectSmartBlur>();
+}
+
+const RecordSchema& SettingsEffectSmartBlur::Schema() noexcept
 {
     using R = SettingsEffectSmartBlur;
-    using List =
-        FieldList<FieldDescriptor<&R::m_lumaRadius>, FieldDescriptor<&R::m_lumaBlur>, FieldDescriptor<&R::m_lumaSharpen>,
-                  FieldDescriptor<&R::m_lumaThreshold>, FieldDescriptor<&R::m_chromaRadius>, FieldDescriptor<&R::m_chromaBlur>,
-                  FieldDescriptor<&R::m_chromaSharpen>, FieldDescriptor<&R::m_chromaThreshold>>;
-};
-
-template struct Reflected<SettingsEffectSmartBlur>;
+    return Describe<R, FieldList<AccessorDescriptor<"lumaRadius", &R::SetLumaRadius, &R::GetLumaRadius>,
+                                 AccessorDescriptor<"lumaBlur", &R::SetLumaBlur, &R::GetLumaBlur>,
+                                 AccessorDescriptor<"lumaSharpen", &R::SetLumaSharpen, &R::GetLumaSharpen>,
+                                 AccessorDescriptor<"lumaThreshold", &R::SetLumaThreshold, &R::GetLumaThreshold>,
+                                 AccessorDescriptor<"chromaRadius", &R::SetChromaRadius, &R::GetChromaRadius>,
+                                 AccessorDescriptor<"chromaBlur", &R::SetChromaBlur, &R::GetChromaBlur>,
+                                 AccessorDescriptor<"chromaSharpen", &R::SetChromaSharpen, &R::GetChromaSharpen>,
+                                 AccessorDescriptor<"chromaThreshold", &R::SetChromaThreshold, &R::GetChromaThreshold>>>();
+}
 
 bool SettingsEffectSmartBlur::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectSmartBlur>::Default();
-}
-
-bool SettingsEffectSmartBlur::operator==(const SettingsEffectSmartBlur& other) const
-{
-    return Reflected<SettingsEffectSmartBlur>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

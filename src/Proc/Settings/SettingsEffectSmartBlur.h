@@ -9,11 +9,14 @@ namespace Ombrel::Proc
 {
 
 /// Blur that keeps edges, for luma and chroma apart. Every value is stored as given.
-class OMBREL_API SettingsEffectSmartBlur : public SettingsRecord<SettingsEffectSmartBlur>
+class OMBREL_API SettingsEffectSmartBlur : public ComparedRecord<SettingsEffectSmartBlur>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_SMART_BLUR";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if all eight values are 0.
     bool IsEmpty() const override;
@@ -42,11 +45,7 @@ public:
     std::int32_t GetChromaThreshold() const { return m_chromaThreshold; }
     void SetChromaThreshold(std::int32_t value) { m_chromaThreshold = value; }
 
-    bool operator==(const SettingsEffectSmartBlur& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     // Each luma value is followed by its chroma partner; the stored order of the keys is another.
     std::int32_t m_lumaRadius = 0;
     std::int32_t m_chromaRadius = 0;

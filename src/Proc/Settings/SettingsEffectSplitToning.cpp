@@ -1,26 +1,22 @@
 #include "Proc/Settings/SettingsEffectSplitToning.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 #include "Proc/Settings/RgbaColorCodec.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectSplitToning::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectSplitToning::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectSplitToning>
+const std::string& SettingsEffectSplitToning::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectSplitToning>();
+}
+
+const RecordSchema& SettingsEffectSplitToning::Schema() noexcept
 {
     using R = SettingsEffectSplitToning;
-    using List = FieldList<FieldDescriptor<&R::m_colorFirst>, FieldDescriptor<&R::m_colorSecond>>;
-};
-
-template struct Reflected<SettingsEffectSplitToning>;
-
-SettingsEffectSplitToning::~SettingsEffectSplitToning() = default;
-
-bool SettingsEffectSplitToning::operator==(const SettingsEffectSplitToning& other) const
-{
-    return Reflected<SettingsEffectSplitToning>::Equal(*this, other);
+    return Describe<R, FieldList<FieldDescriptor<&R::m_colorFirst>, FieldDescriptor<&R::m_colorSecond>>>();
 }
 
 } // namespace Ombrel::Proc

@@ -7,15 +7,14 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectSplitToning : public SettingsRecord<SettingsEffectSplitToning>
+class OMBREL_API SettingsEffectSplitToning : public ComparedRecord<SettingsEffectSplitToning>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_SPLIT_TONING";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
 
-    ~SettingsEffectSplitToning() override;
-
-    bool operator==(const SettingsEffectSplitToning& other) const;
+    const std::string& GetClassId() const override;
 
     RgbaColor m_colorFirst;
     RgbaColor m_colorSecond{255, 255, 255, 255};

@@ -1,14 +1,16 @@
 #include "Proc/Settings/SettingsEffectTexture.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectTexture::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectTexture::CLASS_ID{CLASS_NAME};
 
-extern template struct Reflected<SettingsEffectFlip>;
-extern template struct Reflected<SettingsEffectTranspose>;
+const std::string& SettingsEffectTexture::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectTexture>();
+}
 
 template <> struct EnumNames<SettingsEffectTexture::ResizeMode>
 {
@@ -21,24 +23,17 @@ template <> struct EnumNames<SettingsEffectTexture::ResizeMode>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectTexture>
+const RecordSchema& SettingsEffectTexture::Schema() noexcept
 {
     using R = SettingsEffectTexture;
-    using List = FieldList<FieldDescriptor<&R::m_resizeMode>, FieldDescriptor<&R::m_alpha>, FieldDescriptor<&R::m_flip>,
-                           FieldDescriptor<&R::m_transpose>, FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>,
-                           FieldDescriptor<&R::m_isPreview>, FieldDescriptor<&R::m_texture>>;
-};
-
-template struct Reflected<SettingsEffectTexture>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_resizeMode>, FieldDescriptor<&R::m_alpha>, FieldDescriptor<&R::m_flip>,
+                                 FieldDescriptor<&R::m_transpose>, FieldDescriptor<&R::m_x>, FieldDescriptor<&R::m_y>,
+                                 FieldDescriptor<&R::m_isPreview>, FieldDescriptor<&R::m_texture>>>();
+}
 
 bool SettingsEffectTexture::IsEmpty() const
 {
     return m_texture.empty() || m_alpha == 0.0;
-}
-
-bool SettingsEffectTexture::operator==(const SettingsEffectTexture& other) const
-{
-    return Reflected<SettingsEffectTexture>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

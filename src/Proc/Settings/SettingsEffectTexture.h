@@ -12,11 +12,14 @@ namespace Ombrel::Proc
 {
 
 /// Lays a texture over the picture.
-class OMBREL_API SettingsEffectTexture : public SettingsRecord<SettingsEffectTexture>
+class OMBREL_API SettingsEffectTexture : public ComparedRecord<SettingsEffectTexture>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_TEXTURE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class ResizeMode : std::int32_t
     {
@@ -26,8 +29,6 @@ public:
 
     /// True if there is no texture, or `m_alpha` is 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectTexture& other) const;
 
     ResizeMode m_resizeMode = ResizeMode::Scale;
     double m_alpha = 0.0;

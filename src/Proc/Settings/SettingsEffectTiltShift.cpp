@@ -1,30 +1,26 @@
 #include "Proc/Settings/SettingsEffectTiltShift.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectTiltShift::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectTiltShift::CLASS_ID{CLASS_NAME};
 
-extern template struct Reflected<SettingsEffectShapeMask>;
+const std::string& SettingsEffectTiltShift::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectTiltShift>();
+}
 
-template <> struct Fields<SettingsEffectTiltShift>
+const RecordSchema& SettingsEffectTiltShift::Schema() noexcept
 {
     using R = SettingsEffectTiltShift;
-    using List = FieldList<FieldDescriptor<&R::m_alpha>, FieldDescriptor<&R::m_blur>, FieldDescriptor<&R::m_sharpen>>;
-};
-
-template struct Reflected<SettingsEffectTiltShift>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_alpha>, FieldDescriptor<&R::m_blur>, FieldDescriptor<&R::m_sharpen>>>();
+}
 
 bool SettingsEffectTiltShift::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectTiltShift>::Default();
-}
-
-bool SettingsEffectTiltShift::operator==(const SettingsEffectTiltShift& other) const
-{
-    return Reflected<SettingsEffectTiltShift>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

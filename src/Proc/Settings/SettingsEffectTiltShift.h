@@ -11,16 +11,17 @@ namespace Ombrel::Proc
 
 /// Keeps a part of the picture sharp and blurs the rest, as if only a narrow band were in focus. Every value is stored as
 /// given.
-class OMBREL_API SettingsEffectTiltShift : public SettingsRecord<SettingsEffectTiltShift>
+class OMBREL_API SettingsEffectTiltShift : public ComparedRecord<SettingsEffectTiltShift>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_TILT_SHIFT";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if the record is as by default.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectTiltShift& other) const;
 
     SettingsEffectShapeMask m_alpha; // a whole mask, despite its name
     std::int32_t m_blur = 0;

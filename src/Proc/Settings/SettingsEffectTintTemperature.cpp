@@ -1,28 +1,26 @@
 #include "Proc/Settings/SettingsEffectTintTemperature.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectTintTemperature::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectTintTemperature::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectTintTemperature>
+const std::string& SettingsEffectTintTemperature::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectTintTemperature>();
+}
+
+const RecordSchema& SettingsEffectTintTemperature::Schema() noexcept
 {
     using R = SettingsEffectTintTemperature;
-    using List = FieldList<FieldDescriptor<&R::m_tint>, FieldDescriptor<&R::m_temperature>>;
-};
-
-template struct Reflected<SettingsEffectTintTemperature>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_tint>, FieldDescriptor<&R::m_temperature>>>();
+}
 
 bool SettingsEffectTintTemperature::IsEmpty() const
 {
     return m_tint == 0 && m_temperature == 0;
-}
-
-bool SettingsEffectTintTemperature::operator==(const SettingsEffectTintTemperature& other) const
-{
-    return Reflected<SettingsEffectTintTemperature>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -8,16 +8,17 @@
 namespace Ombrel::Proc
 {
 
-class OMBREL_API SettingsEffectTintTemperature : public SettingsRecord<SettingsEffectTintTemperature>
+class OMBREL_API SettingsEffectTintTemperature : public ComparedRecord<SettingsEffectTintTemperature>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_TINT_TEMPERATURE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// True if both values are 0.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectTintTemperature& other) const;
 
     std::int32_t m_tint = 0;
     std::int32_t m_temperature = 0;

@@ -1,11 +1,16 @@
 #include "Proc/Settings/SettingsEffectTranspose.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectTranspose::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectTranspose::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectTranspose::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectTranspose>();
+}
 
 template <> struct EnumNames<SettingsEffectTranspose::TransposeAngle>
 {
@@ -40,13 +45,11 @@ template <> struct Codec<SettingsEffectTranspose::TransposeAngle>
     }
 };
 
-template <> struct Fields<SettingsEffectTranspose>
+const RecordSchema& SettingsEffectTranspose::Schema() noexcept
 {
     using R = SettingsEffectTranspose;
-    using List = FieldList<AccessorDescriptor<"angle", &R::SetAngle, &R::GetAngle>>;
-};
-
-template struct Reflected<SettingsEffectTranspose>;
+    return Describe<R, FieldList<AccessorDescriptor<"angle", &R::SetAngle, &R::GetAngle>>>();
+}
 
 bool SettingsEffectTranspose::IsEmpty() const
 {
@@ -62,11 +65,6 @@ void SettingsEffectTranspose::AddAngle90()
 {
     // What is stored lies between -3 and 3.
     m_angle = static_cast<TransposeAngle>((static_cast<std::int32_t>(m_angle) + 5) % 4);
-}
-
-bool SettingsEffectTranspose::operator==(const SettingsEffectTranspose& other) const
-{
-    return Reflected<SettingsEffectTranspose>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -9,11 +9,14 @@ namespace Ombrel::Proc
 {
 
 /// Rotation by quarter turns.
-class OMBREL_API SettingsEffectTranspose : public SettingsRecord<SettingsEffectTranspose>
+class OMBREL_API SettingsEffectTranspose : public ComparedRecord<SettingsEffectTranspose>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_TRANSPOSE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// Counts quarter turns, not degrees. Unlike any other enumeration it is also read from an integer, by its number; it is
     /// always written by name, which for a negative number is the empty one.
@@ -35,8 +38,6 @@ public:
 
     /// One quarter turn more, from whatever is stored; the result is one of the four named angles.
     void AddAngle90();
-
-    bool operator==(const SettingsEffectTranspose& other) const;
 
 private:
     TransposeAngle m_angle = TransposeAngle::NoRotation;

@@ -1,28 +1,26 @@
 #include "Proc/Settings/SettingsEffectVibrance.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectVibrance::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectVibrance::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectVibrance>
+const std::string& SettingsEffectVibrance::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectVibrance>();
+}
+
+const RecordSchema& SettingsEffectVibrance::Schema() noexcept
 {
     using R = SettingsEffectVibrance;
-    using List = FieldList<FieldDescriptor<&R::m_strength>>;
-};
-
-template struct Reflected<SettingsEffectVibrance>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_strength>>>();
+}
 
 bool SettingsEffectVibrance::IsEmpty() const
 {
     return m_strength == 0;
-}
-
-bool SettingsEffectVibrance::operator==(const SettingsEffectVibrance& other) const
-{
-    return Reflected<SettingsEffectVibrance>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

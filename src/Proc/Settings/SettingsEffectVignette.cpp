@@ -1,22 +1,23 @@
 #include "Proc/Settings/SettingsEffectVignette.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 #include "Proc/Settings/RgbaColorCodec.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectVignette::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectVignette::CLASS_ID{CLASS_NAME};
 
-extern template struct Reflected<SettingsEffectShapeMask>;
+const std::string& SettingsEffectVignette::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectVignette>();
+}
 
-template <> struct Fields<SettingsEffectVignette>
+const RecordSchema& SettingsEffectVignette::Schema() noexcept
 {
     using R = SettingsEffectVignette;
-    using List = FieldList<FieldDescriptor<&R::m_alpha>, FieldDescriptor<&R::m_color>>;
-};
-
-template struct Reflected<SettingsEffectVignette>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_alpha>, FieldDescriptor<&R::m_color>>>();
+}
 
 SettingsEffectVignette::SettingsEffectVignette()
 {
@@ -27,11 +28,6 @@ SettingsEffectVignette::SettingsEffectVignette()
 bool SettingsEffectVignette::IsEmpty() const
 {
     return m_alpha.IsForegroundOnly();
-}
-
-bool SettingsEffectVignette::operator==(const SettingsEffectVignette& other) const
-{
-    return Reflected<SettingsEffectVignette>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -10,19 +10,20 @@ namespace Ombrel::Proc
 
 /// Vignette: a colour laid over the picture through a mask. A missing mask takes the levels that it has in here by default, a
 /// missing level of one that is present the mask's own.
-class OMBREL_API SettingsEffectVignette : public SettingsRecord<SettingsEffectVignette>
+class OMBREL_API SettingsEffectVignette : public ComparedRecord<SettingsEffectVignette>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_VIGNETTE";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// The mask lets the colour through outside the shape, unlike a mask that stands alone.
     SettingsEffectVignette();
 
     /// True if the mask lets nothing of the colour through.
     bool IsEmpty() const override;
-
-    bool operator==(const SettingsEffectVignette& other) const;
 
     SettingsEffectShapeMask m_alpha; // despite its name a whole mask
     RgbaColor m_color;

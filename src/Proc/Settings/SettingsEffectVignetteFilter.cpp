@@ -1,12 +1,17 @@
 #include "Proc/Settings/SettingsEffectVignetteFilter.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 #include "Proc/Settings/RgbaColorCodec.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectVignetteFilter::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectVignetteFilter::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectVignetteFilter::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectVignetteFilter>();
+}
 
 template <> struct EnumNames<SettingsEffectVignetteFilter::Form>
 {
@@ -41,25 +46,22 @@ template <> struct EnumNames<SettingsEffectVignetteFilter::Aspect>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Fields<SettingsEffectVignetteFilter>
+const RecordSchema& SettingsEffectVignetteFilter::Schema() noexcept
 {
     using R = SettingsEffectVignetteFilter;
-    using List = FieldList<FieldDescriptor<&R::m_form>, FieldDescriptor<&R::m_smooth>, FieldDescriptor<&R::m_aspect>,
-                           FieldDescriptor<&R::m_x0>, FieldDescriptor<&R::m_y0>, FieldDescriptor<&R::m_RInternal>,
-                           FieldDescriptor<&R::m_RExternal>, FieldDescriptor<&R::m_color>,
-                           AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>;
-};
-
-template struct Reflected<SettingsEffectVignetteFilter>;
+    return Describe<R, FieldList<AccessorDescriptor<"form", &R::SetForm, &R::GetForm>,
+                                 AccessorDescriptor<"smooth", &R::SetSmooth, &R::GetSmooth>,
+                                 AccessorDescriptor<"aspect", &R::SetAspect, &R::GetAspect>,
+                                 AccessorDescriptor<"x0", &R::SetX0, &R::GetX0>, AccessorDescriptor<"y0", &R::SetY0, &R::GetY0>,
+                                 AccessorDescriptor<"RInternal", &R::SetRInternal, &R::GetRInternal>,
+                                 AccessorDescriptor<"RExternal", &R::SetRExternal, &R::GetRExternal>,
+                                 AccessorDescriptor<"color", &R::SetColor, &R::GetColor>,
+                                 AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>>>();
+}
 
 bool SettingsEffectVignetteFilter::IsEmpty() const
 {
     return *this == Reflected<SettingsEffectVignetteFilter>::Default();
-}
-
-bool SettingsEffectVignetteFilter::operator==(const SettingsEffectVignetteFilter& other) const
-{
-    return Reflected<SettingsEffectVignetteFilter>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -11,11 +11,14 @@ namespace Ombrel::Proc
 
 /// Vignette between an inner and an outer radius. It starts at intensity 0, which leaves the picture alone. Every value is
 /// stored as given.
-class OMBREL_API SettingsEffectVignetteFilter : public SettingsRecord<SettingsEffectVignetteFilter>
+class OMBREL_API SettingsEffectVignetteFilter : public ComparedRecord<SettingsEffectVignetteFilter>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_VIGNETTE_FILTER";
     static const std::string CLASS_ID;
+    static const RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     /// Counted from 0, named from 1.
     enum class Form : std::int32_t
@@ -70,11 +73,7 @@ public:
     float GetIntensity() const { return m_intensity; }
     void SetIntensity(float value) { m_intensity = value; }
 
-    bool operator==(const SettingsEffectVignetteFilter& other) const;
-
 private:
-    template <class> friend struct Fields;
-
     // Held in another order than the keys are stored in: the colour stands before the numbers.
     Form m_form = Form::enForm1;
     Smooth m_smooth = Smooth::enLin;

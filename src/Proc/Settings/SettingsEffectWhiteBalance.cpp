@@ -1,29 +1,27 @@
 #include "Proc/Settings/SettingsEffectWhiteBalance.h"
 
-#include "Proc/Reflection/Folds.h"
+#include "Proc/Settings/RecordSource.h"
 #include "Proc/Settings/RgbaColorCodec.h"
 
 namespace Ombrel::Proc
 {
 
-const std::string SettingsEffectWhiteBalance::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectWhiteBalance::CLASS_ID{CLASS_NAME};
 
-template <> struct Fields<SettingsEffectWhiteBalance>
+const std::string& SettingsEffectWhiteBalance::GetClassId() const
+{
+    return ClassIdOf<SettingsEffectWhiteBalance>();
+}
+
+const RecordSchema& SettingsEffectWhiteBalance::Schema() noexcept
 {
     using R = SettingsEffectWhiteBalance;
-    using List = FieldList<FieldDescriptor<&R::m_color>>;
-};
-
-template struct Reflected<SettingsEffectWhiteBalance>;
+    return Describe<R, FieldList<FieldDescriptor<&R::m_color>>>();
+}
 
 bool SettingsEffectWhiteBalance::IsEmpty() const
 {
     return m_color.red == m_color.green && m_color.green == m_color.blue;
-}
-
-bool SettingsEffectWhiteBalance::operator==(const SettingsEffectWhiteBalance& other) const
-{
-    return Reflected<SettingsEffectWhiteBalance>::Equal(*this, other);
 }
 
 } // namespace Ombrel::Proc

@@ -3,6 +3,11 @@
 namespace Ombrel::Proc
 {
 
+SettingsPixelFormatConverter::SettingsPixelFormatConverter() = default;
+SettingsPixelFormatConverter::SettingsPixelFormatConverter(const SettingsPixelFormatConverter&) = default;
+SettingsPixelFormatConverter::SettingsPixelFormatConverter(SettingsPixelFormatConverter&&) noexcept = default;
+SettingsPixelFormatConverter& SettingsPixelFormatConverter::operator=(const SettingsPixelFormatConverter&) = default;
+SettingsPixelFormatConverter& SettingsPixelFormatConverter::operator=(SettingsPixelFormatConverter&&) noexcept = default;
 SettingsPixelFormatConverter::~SettingsPixelFormatConverter() = default;
 
 SettingsPixelFormatConverter& SettingsPixelFormatConverter::AddPixFmt(PixFmt format)

@@ -15,6 +15,10 @@ namespace Ombrel::Proc
 class OMBREL_API SettingsPixelFormatConverter : public Settings
 {
 public:
+    SettingsPixelFormatConverter(const SettingsPixelFormatConverter&);
+    SettingsPixelFormatConverter(SettingsPixelFormatConverter&&) noexcept;
+    SettingsPixelFormatConverter& operator=(const SettingsPixelFormatConverter&);
+    SettingsPixelFormatConverter& operator=(SettingsPixelFormatConverter&&) noexcept;
     ~SettingsPixelFormatConverter() override;
 
     std::vector<PixFmt> GetRequiredFormats() const { return m_requiredFormats; }
@@ -39,7 +43,7 @@ public:
     bool operator==(const SettingsPixelFormatConverter& other) const;
 
 protected:
-    SettingsPixelFormatConverter() = default;
+    SettingsPixelFormatConverter();
 
 private:
     std::vector<PixFmt> m_requiredFormats;

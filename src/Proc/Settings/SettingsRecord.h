@@ -14,6 +14,7 @@ template <class Record, class Base = Settings> class SettingsRecord : public Bas
 public:
     using Base::Base;
 
+    /// For a caller's record that is not used before its `CLASS_ID` is constructed. This library's records override it.
     const std::string& GetClassId() const override { return Record::CLASS_ID; }
 
     Settings* Clone() const override { return new Record(static_cast<const Record&>(*this)); }
@@ -25,6 +26,19 @@ public:
         return dynamic_cast<const Record&>(other) == static_cast<const Record&>(*this);
     }
 };
+
+/// Compares two records of the type that `schema` describes, field by field, each by its own `==`.
+OMBREL_API bool AreFieldsEqual(const RecordSchema& schema, const void* a, const void* b);
+
+/// Gives a record the comparison of all its fields. A record that declares an `operator==` does not take this base.
+template <class Record> class ComparedByFields : public Settings
+{
+public:
+    friend bool operator==(const Record& a, const Record& b) { return AreFieldsEqual(Record::Schema(), &a, &b); }
+};
+
+/// The base of a record whose comparison looks at all its fields.
+template <class Record> using ComparedRecord = SettingsRecord<Record, ComparedByFields<Record>>;
 
 } // namespace Ombrel::Proc
 

@@ -1,9 +1,16 @@
 #include "Proc/Settings/SettingsResizer.h"
 
+#include "Proc/Settings/RecordSource.h"
+
 namespace Ombrel::Proc
 {
 
-const std::string SettingsResizer::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsResizer::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsResizer::GetClassId() const
+{
+    return ClassIdOf<SettingsResizer>();
+}
 
 bool SettingsResizer::IsEmpty() const
 {

@@ -16,6 +16,8 @@ public:
     static constexpr const char* CLASS_NAME = "EFFECT_RESIZE";
     static const std::string CLASS_ID;
 
+    const std::string& GetClassId() const override;
+
     // The numbers of both are fixed.
     enum class SizeModes : std::int32_t
     {

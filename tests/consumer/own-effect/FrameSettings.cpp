@@ -1,13 +1,16 @@
 #include "FrameSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
+#include "Proc/EffectSettings/OwnEffect.h"
 
 template class Ombrel::PhotoCore::EffectSettingsImpl<Studio::SettingsEffectFrame, Studio::FrameSettings>;
 
 namespace Studio
 {
 
-FrameSettings::~FrameSettings() = default;
+const std::string& FrameSettings::GetClassId() const
+{
+    return EffectSettingsImpl::GetClassId();
+}
 
 bool FrameSettings::IsEmpty() const
 {

@@ -5,6 +5,8 @@
 
 #include "Proc/EffectSettings/EffectSettingsImpl.h"
 
+#include <string>
+
 namespace Studio
 {
 
@@ -13,7 +15,8 @@ class FrameSettings : public Ombrel::PhotoCore::EffectSettingsOneInputReflection
 {
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
-    ~FrameSettings() override;
+
+    const std::string& GetClassId() const override;
 
     /// What the record says.
     bool IsEmpty() const override;

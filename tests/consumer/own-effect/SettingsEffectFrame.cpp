@@ -1,7 +1,6 @@
 #include "SettingsEffectFrame.h"
 
-#include "Proc/Reflection/Folds.h"
-#include "Proc/Settings/RgbaColorCodec.h"
+#include "Proc/EffectSettings/OwnEffect.h"
 
 using Studio::SettingsEffectFrame;
 
@@ -14,28 +13,28 @@ template <> struct Ombrel::Proc::EnumNames<SettingsEffectFrame::Style>
     static constexpr EnumNameTable TABLE{ROWS};
 };
 
-template <> struct Ombrel::Proc::Fields<SettingsEffectFrame>
-{
-    using R = SettingsEffectFrame;
-    using List = FieldList<AccessorDescriptor<"width", &R::SetWidth, &R::GetWidth>, FieldDescriptor<&R::m_style>,
-                           FieldDescriptor<&R::m_color>, FieldDescriptor<&R::m_dashes>, FieldDescriptor<&R::m_isInside>>;
-};
-
-template struct Ombrel::Proc::Reflected<SettingsEffectFrame>;
-
 namespace Studio
 {
 
-const std::string SettingsEffectFrame::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectFrame::CLASS_ID{CLASS_NAME};
+
+const std::string& SettingsEffectFrame::GetClassId() const
+{
+    return Ombrel::Proc::ClassIdOf<SettingsEffectFrame>();
+}
+
+const Ombrel::Proc::RecordSchema& SettingsEffectFrame::Schema() noexcept
+{
+    using namespace Ombrel::Proc;
+    using R = SettingsEffectFrame;
+    return Describe<R,
+                    FieldList<AccessorDescriptor<"width", &R::SetWidth, &R::GetWidth>, FieldDescriptor<&R::m_style>,
+                              FieldDescriptor<&R::m_color>, FieldDescriptor<&R::m_dashes>, FieldDescriptor<&R::m_isInside>>>();
+}
 
 bool SettingsEffectFrame::IsEmpty() const
 {
     return m_width == 0;
-}
-
-bool SettingsEffectFrame::operator==(const SettingsEffectFrame& other) const
-{
-    return Ombrel::Proc::Reflected<SettingsEffectFrame>::Equal(*this, other);
 }
 
 } // namespace Studio

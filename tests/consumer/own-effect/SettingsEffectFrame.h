@@ -12,11 +12,14 @@ namespace Studio
 {
 
 /// A record of a caller's own: a frame around the picture.
-class SettingsEffectFrame : public Ombrel::Proc::SettingsRecord<SettingsEffectFrame>
+class SettingsEffectFrame : public Ombrel::Proc::ComparedRecord<SettingsEffectFrame>
 {
 public:
     static constexpr const char* CLASS_NAME = "EFFECT_FRAME";
     static const std::string CLASS_ID;
+    static const Ombrel::Proc::RecordSchema& Schema() noexcept;
+
+    const std::string& GetClassId() const override;
 
     enum class Style : std::int32_t
     {
@@ -25,7 +28,6 @@ public:
     };
 
     bool IsEmpty() const override;
-    bool operator==(const SettingsEffectFrame& other) const;
 
     std::int32_t GetWidth() const { return m_width; }
 

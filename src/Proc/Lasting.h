@@ -1,0 +1,88 @@
+#ifndef OMBREL_PROC_LASTING_H
+#define OMBREL_PROC_LASTING_H
+
+#include <atomic>
+#include <cstdlib>
+
+// Constants that are made on first use and that no exit destroys. While a process exits, destructors, exit handlers and other
+// threads may still ask for them; so only unloading the library frees them.
+namespace Ombrel::Proc
+{
+
+// Hidden: every library and program that makes such constants keeps a list of its own, which goes when it goes.
+namespace [[gnu::visibility("hidden")]] LastingDetail
+{
+
+struct Constant
+{
+    const void* (*make)();
+    void (*destroy)(const void* value) noexcept;
+    std::atomic<const void*> value = nullptr;
+    Constant* next = nullptr;
+};
+
+inline constinit std::atomic<Constant*> g_made = nullptr;
+inline constinit bool g_isUnloading = false;
+
+#ifdef __GNUC__
+// The system runs exit handlers before such functions when the process exits, and after them when the library is unloaded.
+[[gnu::destructor]] inline void NoteUnloading() noexcept
+{
+    g_isUnloading = true;
+}
+#endif
+
+// The exit handler.
+inline void DestroyMade() noexcept
+{
+    for (Constant* constant = g_isUnloading ? g_made.exchange(nullptr) : nullptr; constant; constant = constant->next)
+    {
+        constant->destroy(constant->value.exchange(nullptr));
+    }
+}
+
+// Two threads that come here at once both make the value; the first to store it wins.
+[[gnu::noinline]] inline const void* Make(Constant& constant)
+{
+    const void* made = constant.make();
+    const void* stored = nullptr;
+    if (!constant.value.compare_exchange_strong(stored, made, std::memory_order_acq_rel, std::memory_order_acquire))
+    {
+        constant.destroy(made);
+        return stored;
+    }
+    constant.next = g_made.load(std::memory_order_relaxed);
+    while (!g_made.compare_exchange_weak(constant.next, &constant, std::memory_order_acq_rel, std::memory_order_relaxed))
+    {
+    }
+    if (!constant.next)
+    {
+        std::atexit(&DestroyMade);
+    }
+    return made;
+}
+
+template <class Value, Value (*MakeValue)()> struct Of
+{
+    static const void* Make() { return new Value(MakeValue()); }
+    static void Destroy(const void* value) noexcept { delete static_cast<const Value*>(value); }
+
+    static inline constinit Constant s_constant{&Make, &Destroy};
+};
+
+} // namespace gnu::visibility("hidden")]]LastingDetail
+
+/// What `MakeValue` returns, made by the first call. The reference is good before the initialisers of a program and after its
+/// destructors, until the library or program that this is compiled into is unloaded. Any number of threads may call it at once.
+/// @throws what `MakeValue` throws, and std::bad_alloc; the next call then tries again
+template <auto MakeValue> const auto& Lasting()
+{
+    using Value = decltype(MakeValue());
+    LastingDetail::Constant& constant = LastingDetail::Of<Value, MakeValue>::s_constant;
+    const void* value = constant.value.load(std::memory_order_acquire);
+    return *static_cast<const Value*>(value ? value : LastingDetail::Make(constant));
+}
+
+} // namespace Ombrel::Proc
+
+#endif
