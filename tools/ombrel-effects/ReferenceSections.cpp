@@ -174,11 +174,11 @@ std::vector<ReferenceRow> ReferenceSections::RowsOf(const ReferenceSection& sect
 void ReferenceSections::AddRows(std::vector<ReferenceRow>& rows, const std::string& prefix, const RecordSchema& record) const
 {
     const PropertyTree defaults = DefaultsOf(record);
-    for (const auto& [key, value] : record.fields)
+    for (const Proc::FieldSchema& field : record.fields)
     {
-        const std::string path = prefix + std::string(key);
-        rows.push_back({path, value, defaults[std::string(key)]});
-        AddRowsWithin(rows, path, *value);
+        const std::string path = prefix + std::string(field.key);
+        rows.push_back({path, field.value, defaults[std::string(field.key)]});
+        AddRowsWithin(rows, path, *field.value);
     }
 }
 
@@ -190,9 +190,9 @@ void ReferenceSections::AddRowsWithin(std::vector<ReferenceRow>& rows, const std
     }
     else if (value.record && IsPair(value.record()))
     {
-        for (const auto& [key, part] : value.record().fields)
+        for (const Proc::FieldSchema& part : value.record().fields)
         {
-            AddRowsWithin(rows, path + "/" + std::string(key), *part);
+            AddRowsWithin(rows, path + "/" + std::string(part.key), *part.value);
         }
     }
     else if (value.record && !Find(value.record()))
