@@ -41,9 +41,11 @@ Outcome SetValue(Document document, const Path& path, const std::string& text, b
 /// The document as the library reads and writes it. Unknown keys, which get lost, are complaints.
 Outcome Normalise(Document document);
 
-/// The pages that tell every settings class, in a folder that is made if need be. What the library cannot tell of itself comes
-/// from a folder of notes, see `LoadReferenceNotes`.
-Outcome WriteReference(const std::string& notesFolder, const std::string& outputFolder);
+/// Writes the pages of the reference into a folder, which is created if it does not exist. What no schema says comes from a
+/// folder of notes, see `LoadReferenceNotes`. The example of a registered class is the file "<class id>.json" of another
+/// folder.
+/// @throws ToolError `UsageOrFile` or `BadInput`; nothing is written if the notes or the examples are at fault
+Outcome WriteReference(const std::string& notesFolder, const std::string& examplesFolder, const std::string& outputFolder);
 
 } // namespace Ombrel::EffectsTool
 

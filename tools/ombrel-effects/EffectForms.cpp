@@ -31,6 +31,31 @@ const char* InputsOf(const PhotoCore::EffectClass& effectClass)
     return "?";
 }
 
+const char* RegistrationText(PhotoCore::Registration registration)
+{
+    using PhotoCore::Registration;
+    switch (registration)
+    {
+    case Registration::StartUpList:
+        return "registered at start-up";
+    case Registration::Factory:
+        return "registered by `RegisterFactory`";
+    case Registration::None:
+        break;
+    }
+    return "not registered";
+}
+
+const char* AccessText(const PhotoCore::EffectClass& effectClass)
+{
+    const auto access = effectClass.create()->GetPropertyAccess();
+    if (!access)
+    {
+        return "without property access";
+    }
+    return access->ListProperties().empty() ? "with a property access that lists nothing" : "with property access";
+}
+
 PropertyTree StoredForm(const std::shared_ptr<const PhotoCore::IEffectSettings>& effect)
 {
     PropertyTree tree;

@@ -16,6 +16,10 @@ const PhotoCore::EffectClass* FindClass(std::string_view classId);
 /// "1", "2" or "var": how many images a class takes.
 const char* InputsOf(const PhotoCore::EffectClass& effectClass);
 
+/// For people: how a class gets into the registry, and whether its effects have a property access.
+const char* RegistrationText(PhotoCore::Registration registration);
+const char* AccessText(const PhotoCore::EffectClass& effectClass);
+
 /// The stored form, where what has its default is left out.
 PropertyTree StoredForm(const std::shared_ptr<const PhotoCore::IEffectSettings>& effect);
 

@@ -1,25 +1,130 @@
 #include "Commands.h"
+#include "Document.h"
+#include "EffectForms.h"
+#include "PropertyPath.h"
 #include "ReferenceNotes.h"
 #include "ReferencePages.h"
 #include "ReferenceSections.h"
 #include "TextFile.h"
+#include "Values.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <string>
 
 namespace Ombrel::EffectsTool
 {
-
-Outcome WriteReference(const std::string& notesFolder, const std::string& outputFolder)
+namespace
 {
-    const std::vector<ReferencePage> pages = LoadReferenceNotes(notesFolder);
-    const ReferenceSections sections(pages);
+
+// What stands before a child: its key in a map, nothing in a list.
+std::string KeyOf(const PropertyTree& container, const std::string& step)
+{
+    return container.isList() ? "" : Shown(PropertyTreeScalar(step)) + ": ";
+}
+
+// JSON on one line, with a space behind each comma and colon. The examples are small, so recursion is safe here and below.
+std::string OnOneLine(const PropertyTree& tree)
+{
+    if (!IsMap(tree) && !tree.isList())
+    {
+        return Shown(tree);
+    }
+    std::string text;
+    for (const std::string& step : StepsOf(tree))
+    {
+        text += (text.empty() ? "" : ", ") + KeyOf(tree, step) + OnOneLine(*FindChild(tree, step));
+    }
+    return tree.isList() ? "[" + text + "]" : "{" + text + "}";
+}
+
+// JSON with each map and list on one line where it fits.
+std::string Compact(const PropertyTree& tree, std::size_t indent)
+{
+    constexpr std::size_t width = 100;
+    const std::string line = OnOneLine(tree);
+    if (indent + line.size() <= width || !(IsMap(tree) || tree.isList()))
+    {
+        return line;
+    }
+    std::string text;
+    for (const std::string& step : StepsOf(tree))
+    {
+        text += (text.empty() ? "\n" : ",\n") + std::string(indent + 2, ' ') + KeyOf(tree, step) +
+                Compact(*FindChild(tree, step), indent + 2);
+    }
+    return line.front() + text + '\n' + std::string(indent, ' ') + line.back();
+}
+
+// The stored effect of a registered class comes from a file. It goes through the library, so that the page shows what the
+// library writes.
+std::string ExampleOf(const PhotoCore::EffectClass& effectClass, const std::filesystem::path& folder)
+{
+    if (effectClass.registration == PhotoCore::Registration::None)
+    {
+        return Compact(FullForm(effectClass.create()), 0);
+    }
+    const std::string file = (folder / effectClass.classId).string() + ".json";
+    const Document document = Document::Load(file, false);
+    const EffectPtr effect = document.size() == 1 ? document.Read(0) : nullptr;
+    if (!effect || effect->GetClassId() != effectClass.classId)
+    {
+        throw ToolError(ExitCode::BadInput, file + ": expected one effect of class id \"" + effectClass.classId + "\"");
+    }
+    return Compact(StoredForm(effect), 0);
+}
+
+// Every name in "members.json" must be used: by a class, or by a record that has a section.
+void CheckMembers(const ReferenceNotes& notes, const ReferenceSections& sections, const std::string& folder)
+{
+    std::string complaints;
+    for (const auto& [name, members] : notes.members)
+    {
+        const auto shows = [&name, &members](const ReferenceSection& section)
+        {
+            if (!section.notedClass)
+            {
+                return section.title == name;
+            }
+            const auto& rows = section.notedClass->members;
+            return std::ranges::all_of(members,
+                                       [&rows](const KeylessMember& member) {
+                                           return std::ranges::find(rows, member.member, &KeylessMember::member) != rows.end();
+                                       });
+        };
+        if (std::ranges::none_of(sections.All(), shows))
+        {
+            complaints +=
+                (complaints.empty() ? "" : "\n") + folder + ": " + name + ": no class and no record has these members";
+        }
+    }
+    if (!complaints.empty())
+    {
+        throw ToolError(ExitCode::BadInput, complaints);
+    }
+}
+
+} // namespace
+
+Outcome WriteReference(const std::string& notesFolder, const std::string& examplesFolder, const std::string& outputFolder)
+{
+    ReferenceNotes notes = LoadReferenceNotes(notesFolder);
+    for (ReferencePage& page : notes.pages)
+    {
+        for (NotedClass& noted : page.classes)
+        {
+            noted.example = ExampleOf(*noted.effectClass, examplesFolder);
+        }
+    }
+    const ReferenceSections sections(notes.pages);
+    CheckMembers(notes, sections, notesFolder);
     const std::filesystem::path output(outputFolder);
     std::filesystem::create_directories(output);
-    for (std::size_t page = 0; page < pages.size(); ++page)
+    for (std::size_t page = 0; page < notes.pages.size(); ++page)
     {
-        WriteTextFile(output / (pages[page].name + ".md"), PageText(pages, page, sections));
+        WriteTextFile(output / (notes.pages[page].name + ".md"), PageText(notes, page, sections));
     }
-    WriteTextFile(output / "README.md", IndexText(pages));
+    WriteTextFile(output / "README.md", IndexText(notes.pages));
     return {"", {}, ExitCode::Fine};
 }
 

@@ -35,11 +35,41 @@ constexpr PageTitle PAGE_TITLES[] = {
     {"artistic", "Artistic filters"},
 };
 
-/// Reads the notes page by page and keeps what is wrong with them, so that one run shows it all.
+constexpr const char* MEMBERS = "members";
+
+/// Reads the notes file by file and collects their faults, so that one run shows them all.
 class NotesReader
 {
 public:
     explicit NotesReader(std::string folder) : m_folder(std::move(folder)) {}
+
+    /// To be called before the pages are read.
+    const KeylessMembers& ReadMembers()
+    {
+        const std::string file = FileOf(MEMBERS);
+        const PropertyTree notes = ReadFile(file);
+        if (!IsMap(notes))
+        {
+            Complain(file + ": found " + KindOf(notes) + ", expected a map from names of classes to lists of members");
+            return m_members;
+        }
+        for (const auto& [name, list] : notes.getMap())
+        {
+            const std::string where = file + ": " + name + ": ";
+            if (!list.isList())
+            {
+                Complain(where + "found " + KindOf(list) + ", expected a list of members");
+                continue;
+            }
+            for (const PropertyTree& row : list.getList())
+            {
+                m_members[name].push_back({LineOf(row, "member", where), LineOf(row, "type", where),
+                                           LineOf(row, "default", where), LineOf(row, "compared", where),
+                                           LineOf(row, "copied", where)});
+            }
+        }
+        return m_members;
+    }
 
     ReferencePage ReadPage(const PageTitle& page)
     {
@@ -56,7 +86,8 @@ public:
             const std::string where = file + ": " + className + ": ";
             if (const EffectClass* effectClass = Take(className, where, file))
             {
-                result.classes.push_back({effectClass, LineOf(note, "compares", where), LineOf(note, "empty", where)});
+                result.classes.push_back({effectClass, LineOf(note, "compares", where), LineOf(note, "empty", where),
+                                          UnknownNamesOf(note, where), MembersOf(note, where), ""});
             }
         }
         return result;
@@ -73,7 +104,8 @@ public:
         }
         for (const auto& entry : std::filesystem::directory_iterator(m_folder))
         {
-            if (std::ranges::find(PAGE_TITLES, entry.path().stem(), &PageTitle::name) == std::end(PAGE_TITLES))
+            const auto stem = entry.path().stem();
+            if (stem != MEMBERS && std::ranges::find(PAGE_TITLES, stem, &PageTitle::name) == std::end(PAGE_TITLES))
             {
                 Complain(entry.path().string() + ": there is no page of this name");
             }
@@ -129,25 +161,76 @@ private:
         return note[key].getScalar().toString();
     }
 
+    std::map<std::string, std::string> UnknownNamesOf(const PropertyTree& note, const std::string& where)
+    {
+        std::map<std::string, std::string> texts;
+        if (!IsMap(note) || !note.contains("unknownNames"))
+        {
+            return texts;
+        }
+        const PropertyTree& unknownNames = note["unknownNames"];
+        if (!IsMap(unknownNames))
+        {
+            Complain(where + "\"unknownNames\": found " + KindOf(unknownNames) + ", expected a map from keys to texts");
+            return texts;
+        }
+        for (const auto& entry : unknownNames.getMap())
+        {
+            texts[entry.first] = LineOf(unknownNames, entry.first, where + "\"unknownNames\": ");
+        }
+        return texts;
+    }
+
+    std::vector<KeylessMember> MembersOf(const PropertyTree& note, const std::string& where)
+    {
+        std::vector<KeylessMember> rows;
+        if (!IsMap(note) || !note.contains(MEMBERS))
+        {
+            return rows;
+        }
+        const PropertyTree& names = note[MEMBERS];
+        if (!names.isList())
+        {
+            Complain(where + "\"members\": found " + KindOf(names) + ", expected a list of names");
+            return rows;
+        }
+        for (const PropertyTree& name : names.getList())
+        {
+            const auto found = IsString(name) ? m_members.find(name.getScalar().toString()) : m_members.end();
+            if (found == m_members.end())
+            {
+                Complain(where + "\"members\": " + Shown(name) + " is not in " + FileOf(MEMBERS));
+                continue;
+            }
+            for (const KeylessMember& row : found->second)
+            {
+                const auto earlier = std::ranges::find(rows, row.member, &KeylessMember::member);
+                earlier == rows.end() ? rows.push_back(row) : void(*earlier = row);
+            }
+        }
+        return rows;
+    }
+
     void Complain(const std::string& complaint) { m_complaints += (m_complaints.empty() ? "" : "\n") + complaint; }
 
     std::string m_folder;
+    KeylessMembers m_members;
     std::map<std::string_view, std::string> m_fileOfClass;
     std::string m_complaints;
 };
 
 } // namespace
 
-std::vector<ReferencePage> LoadReferenceNotes(const std::string& folder)
+ReferenceNotes LoadReferenceNotes(const std::string& folder)
 {
     NotesReader reader(folder);
-    std::vector<ReferencePage> pages;
+    ReferenceNotes notes{{}, reader.ReadMembers()};
     for (const PageTitle& title : PAGE_TITLES)
     {
-        pages.push_back(reader.ReadPage(title));
+        notes.pages.push_back(reader.ReadPage(title));
     }
     reader.CheckThatNothingIsLeft();
-    return pages;
+    return notes;
 }
 
 } // namespace Ombrel::EffectsTool

@@ -15,7 +15,6 @@ namespace Ombrel::EffectsTool
 namespace
 {
 
-using PhotoCore::Registration;
 using Proc::EnumNameTable;
 using Proc::ValueKind;
 using Proc::ValueSchema;
@@ -78,19 +77,24 @@ std::string Joined(std::initializer_list<std::string_view> parts)
     return text;
 }
 
-// Leads to a heading as the hosts of Markdown name it.
-std::string Link(std::string_view title, const std::string& file)
+// The anchor that Markdown hosts give to a heading of letters, digits and underscores.
+std::string Anchor(std::string_view title)
 {
     std::string anchor(title);
     std::ranges::transform(anchor, anchor.begin(),
                            [](char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); });
-    return Joined({"[", title, "](", file, "#", anchor, ")"});
+    return anchor;
 }
 
-std::string Code(const PropertyTree& value)
+std::string Link(std::string_view title, const std::string& file)
+{
+    return Joined({"[", title, "](", file, "#", Anchor(title), ")"});
+}
+
+std::string Code(std::string_view value)
 {
     std::string text;
-    for (const char c : Shown(value))
+    for (const char c : value)
     {
         text += c == '|' ? "\\" : ""; // it would end the cell of a table, within code too
         text += c;
@@ -101,20 +105,6 @@ std::string Code(const PropertyTree& value)
 std::string Quoted(std::string_view name)
 {
     return Joined({"\"", name, "\""});
-}
-
-const char* RegistrationText(Registration registration)
-{
-    switch (registration)
-    {
-    case Registration::StartUpList:
-        return "registered at start-up";
-    case Registration::Factory:
-        return "registered by `RegisterFactory`";
-    case Registration::None:
-        break;
-    }
-    return "not registered";
 }
 
 std::string InputsText(const PhotoCore::EffectClass& effectClass)
@@ -143,12 +133,16 @@ std::string Item(const std::string& text)
     return item + line + '\n';
 }
 
-std::string NamesText(const EnumNameTable& names)
+std::string NamesText(const EnumNameTable& names, const std::string& unknown)
 {
     std::string text;
     for (const Proc::EnumNameRow& row : names.rows)
     {
         text += (text.empty() ? "" : ", ") + Quoted(row.name);
+    }
+    if (!unknown.empty())
+    {
+        return text + "; an unknown name " + unknown;
     }
     const std::string_view fallback = names.NameOf(names.fallback);
     return text + "; an unknown name reads as " +
@@ -160,14 +154,15 @@ std::string NamesText(const EnumNameTable& names)
 class PageWriter
 {
 public:
-    PageWriter(const std::vector<ReferencePage>& pages, const ReferenceSections& sections, std::size_t page)
-        : m_pages(pages), m_sections(sections), m_page(page)
+    PageWriter(const ReferenceNotes& notes, const ReferenceSections& sections, std::size_t page)
+        : m_notes(notes), m_sections(sections), m_page(page)
     {
     }
 
     std::string Text(const ReferenceSection& section) const
     {
-        std::string text = Joined({"\n## ", section.title, "\n\n", Head(section), Table(section)});
+        const std::string heading = Joined({"\n## ", section.title, "\n\n"});
+        std::string text = Joined({AnchorOfClassId(section), heading, Head(section), Table(section), Members(section)});
         std::string items;
         for (const EnumNameTable* names : EnumerationsOf(section))
         {
@@ -177,24 +172,36 @@ public:
         {
             items += Item("Compares: " + section.notedClass->compares) + Item("Empty: " + section.notedClass->empty);
         }
-        return text + (items.empty() ? "" : "\n") + items;
+        return text + (items.empty() ? "" : "\n") + items + Example(section);
     }
 
 private:
     std::string LinkTo(const ReferenceSection& section) const
     {
-        return Link(section.title, section.page == m_page ? "" : m_pages[section.page].name + ".md");
+        return Link(section.title, section.page == m_page ? "" : m_notes.pages[section.page].name + ".md");
+    }
+
+    // Where the heading does not give the same.
+    static std::string AnchorOfClassId(const ReferenceSection& section)
+    {
+        if (!section.notedClass)
+        {
+            return "";
+        }
+        const std::string anchor = Anchor(section.notedClass->effectClass->classId);
+        return anchor == Anchor(section.title) ? "" : Joined({"\n<a name=\"", anchor, "\"></a>\n"});
     }
 
     static std::string Head(const ReferenceSection& section)
     {
         if (!section.notedClass)
         {
-            return "A record that several others hold.\n";
+            return "A record that several others contain.\n";
         }
         const PhotoCore::EffectClass& effectClass = *section.notedClass->effectClass;
         return Joined({"`", effectClass.classId, "`, ", InputsText(effectClass), ", ",
-                       RegistrationText(effectClass.registration), ".\n"});
+                       RegistrationText(effectClass.registration), ", ", AccessText(effectClass),
+                       ".\n\n`#include \"Proc/EffectSettings/", effectClass.className, ".h\"`\n"});
     }
 
     std::string Table(const ReferenceSection& section) const
@@ -202,9 +209,32 @@ private:
         std::string rows;
         for (const ReferenceRow& row : m_sections.RowsOf(section))
         {
-            rows += Joined({"| `", row.path, "` | ", Kind(*row.value, false), " | ", Default(row), " |\n"});
+            rows += Joined({"| `", row.path, "` | ", Kind(*row.value, false), " | ", Default(row), " | ",
+                            row.access.empty() ? "" : Code(row.access) + " ", "|\n"});
         }
-        return rows.empty() ? "\nNo keys.\n" : "\n| Key | Kind | Default |\n|---|---|---|\n" + rows;
+        return rows.empty() ? "\nNo keys.\n" : "\n| Key | Kind | Default | C++ |\n|---|---|---|---|\n" + rows;
+    }
+
+    std::string Members(const ReferenceSection& section) const
+    {
+        const auto found = m_notes.members.find(std::string(section.title));
+        const std::vector<KeylessMember> ofRecord =
+            found == m_notes.members.end() ? std::vector<KeylessMember>{} : found->second;
+        std::string rows;
+        for (const KeylessMember& row : section.notedClass ? section.notedClass->members : ofRecord)
+        {
+            rows += Joined({"| ", Code(row.member), " | ", row.type, " | ", row.defaultValue, " | ", row.compared, " | ",
+                            row.copied, " |\n"});
+        }
+        return rows.empty()
+                   ? ""
+                   : "\nMembers without a key:\n\n| Member | Type | Default | Compared | Copied |\n|---|---|---|---|---|\n" +
+                         rows;
+    }
+
+    static std::string Example(const ReferenceSection& section)
+    {
+        return section.notedClass ? Joined({"\n```json\n", section.notedClass->example, "\n```\n"}) : "";
     }
 
     std::string Kind(const ValueSchema& value, bool isMany) const
@@ -235,7 +265,7 @@ private:
     static std::string Default(const ReferenceRow& row)
     {
         const bool isRecord = row.value->kind == ValueKind::Record && !IsPair(row.value->record());
-        return isRecord && row.defaultValue == DefaultsOf(row.value->record()) ? "its own" : Code(row.defaultValue);
+        return isRecord && row.defaultValue == DefaultsOf(row.value->record()) ? "its own" : Code(Shown(row.defaultValue));
     }
 
     // Each once, in the order of the keys.
@@ -258,40 +288,60 @@ private:
     std::string EnumerationItem(const ReferenceSection& section, const EnumNameTable& names) const
     {
         std::string keys;
+        std::string unknown;
         for (const ReferenceRow& row : m_sections.RowsOf(section))
         {
             const auto isOfNames = [&names](const ValueSchema* leaf) { return leaf->names == &names; };
             if (std::ranges::any_of(LeavesOf(*row.value), isOfNames))
             {
                 keys += (keys.empty() ? "`" : ", `") + row.path + "`";
+                unknown += UnknownName(section, row.path);
             }
         }
         const ReferenceSection& home = m_sections.Find(names);
-        return Item(keys + ": " + (&home == &section ? NamesText(names) : "the names of " + LinkTo(home)));
+        return Item(keys + ": " + (&home == &section ? NamesText(names, unknown) : "the names of " + LinkTo(home)));
     }
 
-    const std::vector<ReferencePage>& m_pages;
+    static std::string UnknownName(const ReferenceSection& section, const std::string& path)
+    {
+        const auto* notes = section.notedClass ? &section.notedClass->unknownNames : nullptr;
+        return notes && notes->contains(path) ? notes->at(path) : "";
+    }
+
+    const ReferenceNotes& m_notes;
     const ReferenceSections& m_sections;
     std::size_t m_page;
 };
 
 constexpr const char* WRITTEN_BY =
-    "<!-- Written by scripts/reference. What stands here comes from the library, and from notes/. -->\n";
+    "<!-- Written by scripts/reference from the library, from notes/ and from examples/effects/. -->\n";
 
 constexpr const char* HOW_TO_READ = R"(
 ## How to read a page
 
-- **Class:** its class id, how many images it takes, and how the registry comes to know it. An effect of a class that is not
-  registered can be written and not read back.
-- **Key:** in the order of reading. A path leads through nested maps: `frameInfo/width` stands in the map under "frameInfo", and
-  `*` is any place in a list. Every effect has the keys "name", "implName" and "helperSettings" besides.
-- **Kind:** as [the stored form](../stored-form.md) tells it.
-- **Default:** what a missing key reads as, and what is left out when an effect is written; here as JSON with every key written
-  out. A nested record has two: at its own key stands what it is when the whole map is missing, and at the keys below it, or
-  where the link leads, what each of them is when it is missing in a map that is there. "its own" says that the two agree.
-- **Names** of an enumeration are exact, misspellings included.
-- **Compares:** what `==` looks at, besides the class id.
-- **Empty:** when `IsEmpty` of the settings class is true; and of its record, where the two differ.
+- **First line:** the class id, how many images the effect takes, how its class gets into the registry, and whether it has a
+  property access. An effect of a class that is not registered can be written but not read back.
+- **Link:** every class has two anchors, its name and its class id, both in lower case: `colour.md#adjustersettings` and
+  `colour.md#effect_adjuster`.
+- **Key:** in the order of reading. A path leads through nested maps: `frameInfo/width` is the key "width" of the map under
+  "frameInfo", and `*` is any index of a list. Every effect also has the keys "name", "implName" and "helperSettings". No
+  comparison looks at the last two. A copy takes them over, except a copy of a tile.
+- **Kind:** one of [the kinds of the stored form](../stored-form.md#the-values).
+- **Default:** the value that a missing key reads as and that is not written. It is JSON with every key written out. A nested
+  record has two defaults. The row of its own key shows the default of the whole map, for when the map is missing. The rows of
+  the keys below it, or the page that its link leads to, show the default of each key, for when the key is missing in a map
+  that is present. "its own" means that the two agree.
+- **C++:** the member of the record, or its setter and getter. `GetTypedSettings` of the settings class returns the record. Only
+  `ResizeSettings` and `TileSettings` hold the values themselves.
+- **Members without a key:** what else the record or the settings class holds. No key stores it as it is, so a new effect from
+  the registry has the default. Reading a tree leaves it alone, unless its row names a key that sets it. "Compared" says whether
+  `==` looks at it, "Copied" whether copies and clones have it.
+- **Names** of an enumeration are exact and keep their misspellings.
+- **Compares:** what `==` looks at besides the class id.
+- **Empty:** when `IsEmpty` of the settings class is true, and when `IsEmpty` of its record is true if the two differ. Empty does
+  not mean that the effect would do nothing. A record that is empty "as by default" is not empty with any other value, such as
+  another factor at an intensity of 0.
+- **Example:** a stored effect as JSON. A class that is not registered has its default effect with every key written out.
 
 ## All classes
 
@@ -301,10 +351,10 @@ constexpr const char* HOW_TO_READ = R"(
 
 } // namespace
 
-std::string PageText(const std::vector<ReferencePage>& pages, std::size_t page, const ReferenceSections& sections)
+std::string PageText(const ReferenceNotes& notes, std::size_t page, const ReferenceSections& sections)
 {
-    const PageWriter writer(pages, sections, page);
-    std::string text = WRITTEN_BY + ("# " + pages[page].title) + "\n\n[All pages, and how to read them](README.md)\n";
+    const PageWriter writer(notes, sections, page);
+    std::string text = WRITTEN_BY + ("# " + notes.pages[page].title) + "\n\n[All pages, and how to read them](README.md)\n";
     for (const ReferenceSection& section : sections.All())
     {
         text += section.page == page ? writer.Text(section) : "";
@@ -322,8 +372,9 @@ std::string IndexText(const std::vector<ReferencePage>& pages)
         for (const NotedClass& noted : page.classes)
         {
             const PhotoCore::EffectClass& effectClass = *noted.effectClass;
-            rows.insert(Joined({"| ", Link(effectClass.className, page.name + ".md"), " | `", effectClass.classId, "` | ",
-                                InputsOf(effectClass), " | ", RegistrationText(effectClass.registration), " |\n"}));
+            rows.insert(Joined({"| ", Link(effectClass.className, page.name + ".md"), " | [`", effectClass.classId, "`](",
+                                page.name, ".md#", Anchor(effectClass.classId), ") | ", InputsOf(effectClass), " | ",
+                                RegistrationText(effectClass.registration), " |\n"}));
         }
     }
     std::string text = std::string(WRITTEN_BY) + "# Reference\n\nEvery settings class with its keys.\n\n" + list + HOW_TO_READ;

@@ -177,7 +177,7 @@ void ReferenceSections::AddRows(std::vector<ReferenceRow>& rows, const std::stri
     for (const Proc::FieldSchema& field : record.fields)
     {
         const std::string path = prefix + std::string(field.key);
-        rows.push_back({path, field.value, defaults[std::string(field.key)]});
+        rows.push_back({path, field.value, defaults[std::string(field.key)], field.access});
         AddRowsWithin(rows, path, *field.value);
     }
 }

@@ -29,6 +29,7 @@ struct ReferenceRow
     std::string path; // through the nested records; "*" is any index
     const Proc::ValueSchema* value;
     PropertyTree defaultValue; // in the stored form, every key written out
+    std::string_view access;   // the way in C++
 };
 
 /// What stands under which heading, so that each record and each enumeration is written out once and linked elsewhere.

@@ -25,6 +25,7 @@ struct Arguments
     std::string value;
     std::string classId;
     std::string notesFolder;
+    std::string examplesFolder;
     std::string outputFolder;
     bool nonFinite = false;
     bool isInPlace = false;
@@ -119,11 +120,16 @@ void AddWriters(CLI::App& app, Arguments& arguments)
 
 void AddReference(CLI::App& app, Arguments& arguments)
 {
-    CLI::App* reference = AddCommand(app, arguments, "reference", "Write the reference of all effect classes as Markdown",
-                                     [&arguments] { return WriteReference(arguments.notesFolder, arguments.outputFolder); });
-    reference->add_option("--notes", arguments.notesFolder, "Folder with what each class compares and when it is empty")
+    CLI::App* reference = AddCommand(
+        app, arguments, "reference", "Write the reference of all effect classes as Markdown",
+        [&arguments] { return WriteReference(arguments.notesFolder, arguments.examplesFolder, arguments.outputFolder); });
+    reference
+        ->add_option("--notes", arguments.notesFolder,
+                     "Folder with the notes on each class: what it compares, when it is empty, its members without a key")
         ->required();
-    reference->add_option("--output", arguments.outputFolder, "Folder for the pages; made if need be")->required();
+    reference->add_option("--examples", arguments.examplesFolder, "Folder with a stored effect of each class: <class id>.json")
+        ->required();
+    reference->add_option("--output", arguments.outputFolder, "Folder for the pages; created if it does not exist")->required();
 }
 
 void Print(const std::string& text)
