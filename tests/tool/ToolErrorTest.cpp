@@ -24,7 +24,7 @@ TEST_F(ToolUsage, HelpNamesCommandsAndExitCodes)
     {
         EXPECT_THAT(result.out, HasSubstr(std::string("\n  ") + command + " "));
     }
-    EXPECT_THAT(result.out, HasSubstr("\n  3  no JSON"));
+    EXPECT_THAT(result.out, HasSubstr("\n  3  not JSON"));
     EXPECT_THAT(Run({"set", "--help"}).out, HasSubstr("2/smartBlur/lumaRadius"));
 }
 

@@ -83,7 +83,7 @@ TEST_F(ToolInPlace, AFolderThatTakesNoFileLeavesTheFileAlone)
 {
     fs::permissions(At(""), fs::perms{0555});
     EXPECT_EQ(SetRadius({.obeysFileModes = true}),
-              (ToolResult{2, "", "f.json: cannot be replaced: a file beside it cannot be made: Permission denied\n"}));
+              (ToolResult{2, "", "f.json: cannot be replaced: no file can be created in its folder: Permission denied\n"}));
     ExpectUntouched();
 }
 
@@ -91,7 +91,7 @@ TEST_F(ToolInPlace, WhatIsNoRegularFileStays)
 {
     ASSERT_EQ(::mkfifo(At("pipe.json").c_str(), 0600), 0);
     std::thread writer([this] { Write("pipe.json", OLD); });
-    EXPECT_EQ(SetRadius({}, "pipe.json"), (ToolResult{2, "", "pipe.json: cannot be replaced: it is no regular file\n"}));
+    EXPECT_EQ(SetRadius({}, "pipe.json"), (ToolResult{2, "", "pipe.json: cannot be replaced: it is not a regular file\n"}));
     writer.join();
     EXPECT_TRUE(fs::is_fifo(At("pipe.json")));
 }

@@ -185,18 +185,18 @@ INSTANTIATE_TEST_SUITE_P(
             {1, "",
              "f.json: 0: EFFECT_ACID has no such property, expected one of radius, sigma; the file is a single effect, so the "
              "index is left out\n"}},
-        Request{LIST, "0/radius/0", {1, "", "f.json: 0/radius/0: does not exist, nothing stands below an integer\n"}},
+        Request{LIST, "0/radius/0", {1, "", "f.json: 0/radius/0: does not exist, there is nothing below an integer\n"}},
         Request{LIST,
                 "2/colorBalanceAuto/gamma",
                 {1, "",
                  "f.json: 2/colorBalanceAuto/gamma: does not exist, expected one of exposure, lightBalance, whiteBalance\n"}},
         Request{
             LIST, "0/a~1b~0", {1, "", "f.json: 0/a~1b~0: EFFECT_ACID has no such property, expected one of radius, sigma\n"}},
-        Request{LIST, "0/name", {1, "", "f.json: 0/name: belongs to the stored effect itself and is no property\n"}},
-        Request{LIST, "0/implName", {1, "", "f.json: 0/implName: belongs to the stored effect itself and is no property\n"}},
+        Request{LIST, "0/name", {1, "", "f.json: 0/name: is a key of the stored effect itself, not a property\n"}},
+        Request{LIST, "0/implName", {1, "", "f.json: 0/implName: is a key of the stored effect itself, not a property\n"}},
         Request{LIST,
                 "0/helperSettings/undoSet",
-                {1, "", "f.json: 0/helperSettings: belongs to the stored effect itself and is no property\n"}},
+                {1, "", "f.json: 0/helperSettings: is a key of the stored effect itself, not a property\n"}},
         Request{LIST, "3/radius", {1, "", "f.json: 3/radius: effectSettingsSimple has no property access\n"}}));
 
 TEST_F(ToolGet, ReadsOnlyTheAddressedEffect)

@@ -27,7 +27,7 @@ void PrintTo(const ToolResult& result, std::ostream* out);
 
 struct ToolSurroundings
 {
-    std::string input = {};                      // what stands on standard input
+    std::string input = {};                      // the content of standard input
     std::optional<std::size_t> maxFileSize = {}; // in bytes, for every file that the program writes
     bool obeysFileModes = false;                 // also where the tests run as root, who may write everywhere
     std::string outputFile = {};                 // takes standard output; then `out` stays empty

@@ -36,8 +36,8 @@ std::string TargetOf(const std::string& file)
     return target.get();
 }
 
-// The new content until it takes the place of the old one. It stands in the same folder, since a file can be renamed within
-// one file system only.
+// A temporary file with the new content. It is in the same folder as the target, because a file can only be renamed within its
+// file system.
 class Replacement
 {
 public:
@@ -47,7 +47,7 @@ public:
     {
         if (m_descriptor < 0)
         {
-            ThrowFailure(m_file, "a file beside it cannot be made: " + LastError());
+            ThrowFailure(m_file, "no file can be created in its folder: " + LastError());
         }
     }
 
@@ -78,7 +78,8 @@ public:
 
     void TakeOver(const struct stat& original)
     {
-        // The mode comes last: a change of the owner may clear bits of it. Only root may give a file away.
+        // The mode is set after the owner, because a change of the owner may clear bits of the mode. Only root may change the
+        // owner.
         const bool isOwnerKept = ::fchown(m_descriptor, original.st_uid, original.st_gid) == 0;
         const mode_t mode = original.st_mode & (isOwnerKept ? 07777U : 0777U);
         Check(::fchmod(m_descriptor, mode));
@@ -107,7 +108,7 @@ private:
     bool m_isDone = false;
 };
 
-// Makes the rename last. If it cannot be done, the file is sound all the same, old or new.
+// Makes the rename survive a crash. A failure is ignored: the file then has its old or its new content.
 void SyncFolderOf(const std::string& target)
 {
     const std::string folder = target.substr(0, target.rfind('/') + 1);
@@ -133,7 +134,7 @@ void ReplaceFile(const std::string& file, std::string_view text)
     }
     if (!S_ISREG(original.st_mode))
     {
-        ThrowFailure(file, "it is no regular file");
+        ThrowFailure(file, "it is not a regular file");
     }
     Replacement replacement(file, target);
     replacement.Write(text);

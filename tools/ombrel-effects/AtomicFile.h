@@ -7,10 +7,10 @@
 namespace Ombrel::EffectsTool
 {
 
-/// Makes `text` the content of an existing regular file: whoever opens it finds the old content or the new one, whole, even
-/// after a crash. A symbolic link stays and its target is replaced. The mode is kept, and the owner where the system allows
-/// it; other hard links keep the old content.
-/// @throws ToolError `UsageOrFile`; the file is then as it was, and nothing is left beside it
+/// Replaces the content of an existing regular file by `text`. A reader finds the whole old content or the whole new content,
+/// even after a crash. A symbolic link stays, and its target is replaced. The mode is kept, and also the owner if the system
+/// allows it. Other hard links keep the old content.
+/// @throws ToolError `UsageOrFile`; the file is then unchanged, and no temporary file is left
 void ReplaceFile(const std::string& file, std::string_view text);
 
 } // namespace Ombrel::EffectsTool

@@ -42,7 +42,7 @@ std::string Listing(const EffectPtr& effect, const Path& path)
     {
         if (key != Proc::StoredKeys::CLASS_ID)
         {
-            // What has its default is left out of the stored form.
+            // A property with its default is not in the stored form.
             text += (stored.contains(key) ? "  * " : "    ") + key + " = " + Shown(value) + '\n';
         }
     }

@@ -12,33 +12,33 @@
 namespace Ombrel::EffectsTool
 {
 
-/// What a command hands over to be printed or written. No command prints anything itself.
+/// The result of a command, which `main` prints or writes. No command prints anything itself.
 struct Outcome
 {
-    std::optional<std::string> text; // the data, for standard output or for the file; nothing if it is held back
+    std::optional<std::string> text; // for standard output or for the file; nothing if it is not to be written
     std::vector<std::string> complaints;
     ExitCode code = ExitCode::Fine;
 };
 
-// Each command is one function. They throw ToolError where there is nothing to hand over.
+// Each command is one function. It throws ToolError if it has no result.
 
-/// All settings classes: name, class id, number of inputs, whether stored effects of it can be read.
+/// All settings classes: name, class id, number of inputs, and whether it is registered.
 Outcome ListClasses();
 
 /// A default effect with all its properties.
 Outcome NewEffect(const std::string& classId, bool nonFinite);
 
-/// Every effect with its properties, for people. Elements that cannot be read are complaints, and the others are shown.
+/// Every effect with its properties, for people. An element that cannot be read becomes a complaint; the others are shown.
 Outcome ShowEffects(const Document& document);
 
 /// One property, a value within it, or a whole effect with all its properties.
 Outcome GetValue(const Document& document, const Path& path);
 
-/// The document with one value changed. If the library stores another value, or the keys that stood around it are unknown and
-/// get lost, there is a text only when `isForced`.
+/// The document with one value changed. If the library stores another value than the given one, or drops unknown keys beside
+/// it, there is a text only when `isForced`.
 Outcome SetValue(Document document, const Path& path, const std::string& text, bool isForced);
 
-/// The document as the library reads and writes it. Unknown keys, which get lost, are complaints.
+/// The document as the library reads and writes it. Each unknown key is dropped and becomes a complaint.
 Outcome Normalise(Document document);
 
 /// Writes the pages of the reference into a folder, which is created if it does not exist. What no schema says comes from a

@@ -11,30 +11,30 @@
 namespace Ombrel::EffectsTool
 {
 
-/// The text of `tree` with a line end, as all commands print it. A message begins with `subject`.
-/// @throws ToolError `BadInput` if a value has no JSON form
+/// The JSON text of `tree` with a line end, as all commands print it.
+/// @throws ToolError `BadInput` if a value has no JSON form; the message begins with `subject`
 std::string TextOf(const PropertyTree& tree, const std::string& subject, bool nonFinite);
 
-/// One stored effect or a list of them, as the file has it: nothing is read by the library until it is asked for.
+/// One stored effect or a list of stored effects, as in the file. `Read` lets the library read one of them.
 class Document
 {
 public:
-    /// Where a path of the user leads: an element, and a place within it.
+    /// The element that a path of the user leads to, and the rest of the path within it.
     struct Target
     {
         std::size_t index;
         Path rest;
     };
 
-    /// Reads a file, or the standard input for "-". The elements are maps or null; what they hold is not looked at.
-    /// @throws ToolError `UsageOrFile`, or `BadInput` if it is no JSON or no effect or list of effects
+    /// Reads a file, or the standard input for "-". The elements must be maps or null; their content is not checked.
+    /// @throws ToolError `UsageOrFile`, or `BadInput` if it is not JSON, or neither an effect nor a list of effects
     static Document Load(const std::string& file, bool nonFinite);
 
     std::size_t size() const { return m_isList ? m_tree.getList().size() : 1; }
     PropertyTree& operator[](std::size_t index) { return m_isList ? m_tree.getList()[index] : m_tree; }
     const PropertyTree& operator[](std::size_t index) const { return m_isList ? m_tree.getList()[index] : m_tree; }
 
-    /// The path of an element; empty for the only one.
+    /// The path of an element; empty if the file is a single effect.
     Path PathOf(std::size_t index) const;
 
     /// @throws ToolError `NotAsAsked` if there is no such element
@@ -44,7 +44,7 @@ public:
     /// @throws ToolError `BadInput` if the library refuses it
     EffectPtr Read(std::size_t index) const;
 
-    /// "file: path: ", what a message on a place begins with.
+    /// The beginning of a message about a place: "file: path: ".
     std::string Where(std::size_t index, PathView place = {}) const;
 
     bool isList() const { return m_isList; }

@@ -20,13 +20,14 @@ const char* InputsOf(const PhotoCore::EffectClass& effectClass);
 const char* RegistrationText(PhotoCore::Registration registration);
 const char* AccessText(const PhotoCore::EffectClass& effectClass);
 
-/// The stored form, where what has its default is left out.
+/// The stored form, without values that equal their defaults.
 PropertyTree StoredForm(const std::shared_ptr<const PhotoCore::IEffectSettings>& effect);
 
-/// The stored form with every property, also where it has its default. Without a property access it is the stored form.
+/// The stored form with every property, including those that equal their defaults. For an effect without a property access, it
+/// is the stored form.
 PropertyTree FullForm(const std::shared_ptr<const PhotoCore::IEffectSettings>& effect);
 
-/// The full form of a stored effect; anything else as it is.
+/// The full form of a stored effect; any other tree unchanged.
 PropertyTree WithDefaults(const PropertyTree& map);
 
 } // namespace Ombrel::EffectsTool

@@ -28,7 +28,7 @@ std::optional<std::string> ReasonAgainst(const PropertyTree& element)
     }
 }
 
-// A map without all entries but the class id, which every effect within an effect needs to be read at all.
+// The map with its class id only. No effect within an effect can be read without it.
 PropertyTree Bare(const PropertyTree& map)
 {
     PropertyTree bare;
@@ -56,7 +56,7 @@ PropertyTree WithOnly(const PropertyTree& container, const std::string& step, Pr
     return result;
 }
 
-// A new element that holds nothing but `value`, at `place`.
+// The element with `value` at `place` and nothing else.
 PropertyTree ElementOf(const PropertyTree& element, PathView place, PropertyTree value)
 {
     for (std::size_t length = place.size(); length > 0; --length)
@@ -66,7 +66,7 @@ PropertyTree ElementOf(const PropertyTree& element, PathView place, PropertyTree
     return value;
 }
 
-// What is wrong with a map that is refused whatever else it holds: its class id.
+// The fault of a map that is refused even without its other entries: its class id.
 Refusal RefusedName(const PropertyTree& map, const Path& place, const std::string& reason)
 {
     if (!map.contains(NAME))
@@ -80,8 +80,8 @@ Refusal RefusedName(const PropertyTree& map, const Path& place, const std::strin
     return {Below(place, NAME), reason};
 }
 
-// What is refused within the value at `refusal.place`: the first child that is when it stands alone. Nothing if it is the
-// value as such.
+// The first child of the value at `refusal.place` that is refused when it is the only child. Nothing if the library refuses the
+// value itself.
 std::optional<Refusal> NextRefusal(const PropertyTree& element, const Refusal& refusal)
 {
     const PropertyTree& value = *Find(element, refusal.place);

@@ -26,10 +26,10 @@ struct Refusal
 /// The effect of one stored element, which may be null, or why there is none.
 std::variant<EffectPtr, Refusal> ReadEffect(const PropertyTree& element);
 
-/// The effect, or nothing where the library refuses the element: quick, for who need not know why.
+/// The effect, or nothing if the library refuses the element. Faster than `ReadEffect`, since it does not look for the reason.
 std::optional<EffectPtr> TryReadEffect(const PropertyTree& element);
 
-/// What an exception of the library says.
+/// The text of an exception of the library.
 std::string ReasonOf(const std::exception& error);
 
 } // namespace Ombrel::EffectsTool

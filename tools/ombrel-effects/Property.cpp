@@ -26,7 +26,7 @@ std::string ChildrenOf(const PropertyTree& tree)
 {
     if (tree.isNull() || tree.isScalar())
     {
-        return std::string("nothing stands below ") + KindOf(tree);
+        return std::string("there is nothing below ") + KindOf(tree);
     }
     const std::vector<std::string> steps = StepsOf(tree);
     if (steps.empty())
@@ -58,7 +58,7 @@ void Property::CheckKey() const
     }
     if (std::ranges::find(Proc::StoredKeys::RESERVED, key()) != Proc::StoredKeys::RESERVED.end())
     {
-        fail("belongs to the stored effect itself and is no property");
+        fail("is a key of the stored effect itself, not a property");
     }
     const auto access = m_effect->GetPropertyAccess();
     if (!access)

@@ -11,8 +11,8 @@
 namespace Ombrel::EffectsTool
 {
 
-/// A property of one effect of a document, or a value within it, reached through the library. Nothing of it reaches the
-/// document before `StoreIn`.
+/// A property of one effect of a document, or a value within that property. `Set` changes only this object, `StoreIn` changes
+/// the stored effect.
 class Property
 {
 public:
@@ -20,14 +20,14 @@ public:
     /// @throws ToolError `BadInput` if the effect cannot be read, `NotAsAsked` if there is no such property or value
     Property(const Document& document, const Document::Target& target);
 
-    /// The value that the path leads to, in its stored form; null if a change has left none there.
+    /// The value at the end of the path, in its stored form. Null if a change has removed it.
     const PropertyTree* Value() const;
 
     /// Changes that value.
     /// @throws ToolError `BadInput` if the library refuses it
     void Set(const PropertyTree& value);
 
-    /// Takes the property over into the stored effect, or out of it if it has its default now. All other keys stay.
+    /// Writes the property into the stored effect, or removes it there if it has its default. All other keys stay.
     void StoreIn(PropertyTree& element) const;
 
     const std::string& key() const { return m_path.front(); }
@@ -43,7 +43,7 @@ private:
     Path m_path;
     EffectPtr m_effect;
     std::unique_ptr<PhotoUtil::ISerializableBase::IPropertyAccess> m_access;
-    PropertyTree m_tree; // the whole property
+    PropertyTree m_tree; // the whole property in its stored form
 };
 
 } // namespace Ombrel::EffectsTool

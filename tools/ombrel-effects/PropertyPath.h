@@ -13,7 +13,7 @@
 namespace Ombrel::EffectsTool
 {
 
-/// The map keys and list indices that lead to a value. Which of the two a step is, the tree it is applied to decides.
+/// The map keys and list indices that lead to a value. The tree decides whether a step is a key or an index.
 using Path = std::vector<std::string>;
 using PathView = std::span<const std::string>;
 
@@ -23,23 +23,23 @@ Path ParsePath(std::string_view text);
 /// The reverse of `ParsePath`, with control characters made visible; empty for an empty path.
 std::string PathText(PathView path);
 
-/// The index that `step` spells in decimal without sign or leading zeros, if it does.
+/// The index, if `step` is a decimal number without sign and leading zeros.
 std::optional<std::size_t> IndexOf(std::string_view step);
 
 /// The child of a map or list, or null.
 const PropertyTree* FindChild(const PropertyTree& tree, const std::string& step);
 
-/// What `path` leads to, or null.
+/// The value at the end of `path`, or null.
 const PropertyTree* Find(const PropertyTree& tree, PathView path);
 PropertyTree* Find(PropertyTree& tree, PathView path);
 
 /// The steps to all children, in order; none for null and scalars.
 std::vector<std::string> StepsOf(const PropertyTree& tree);
 
-/// `path` with one step more.
+/// `path` with one more step.
 Path Below(PathView path, const std::string& step);
 
-/// The tree itself has no test for this state.
+/// A tree that is neither null nor a scalar nor a list.
 inline bool IsMap(const PropertyTree& tree)
 {
     return !tree.isNull() && !tree.isScalar() && !tree.isList();

@@ -113,7 +113,7 @@ std::string InputsText(const PhotoCore::EffectClass& effectClass)
     return inputs == "1" ? "1 input" : (inputs == "var" ? "a variable number of" : inputs) + " inputs";
 }
 
-// An item of a list, in lines of the length that hand-written pages have.
+// An item of a Markdown list, wrapped at the width of the hand-written pages.
 std::string Item(const std::string& text)
 {
     constexpr std::size_t width = 128;
@@ -181,7 +181,7 @@ private:
         return Link(section.title, section.page == m_page ? "" : m_notes.pages[section.page].name + ".md");
     }
 
-    // Where the heading does not give the same.
+    // Empty if the heading has the same anchor.
     static std::string AnchorOfClassId(const ReferenceSection& section)
     {
         if (!section.notedClass)
@@ -268,7 +268,7 @@ private:
         return isRecord && row.defaultValue == DefaultsOf(row.value->record()) ? "its own" : Code(Shown(row.defaultValue));
     }
 
-    // Each once, in the order of the keys.
+    // Without repeats, in the order of the keys.
     std::vector<const EnumNameTable*> EnumerationsOf(const ReferenceSection& section) const
     {
         std::vector<const EnumNameTable*> all;

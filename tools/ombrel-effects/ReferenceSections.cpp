@@ -13,7 +13,7 @@ namespace
 using Proc::RecordSchema;
 using Proc::ValueSchema;
 
-// Where a record that is no class's stands.
+// The uses of a record that belongs to no settings class.
 struct Uses
 {
     std::size_t page; // the first

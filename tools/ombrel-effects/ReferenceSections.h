@@ -14,7 +14,7 @@
 namespace Ombrel::EffectsTool
 {
 
-/// One heading of the reference with one table of keys: a settings class, or a record that stands in several others.
+/// One heading of the reference with one table of keys: a settings class, or a record that several others contain.
 struct ReferenceSection
 {
     std::size_t page;
@@ -32,10 +32,10 @@ struct ReferenceRow
     std::string_view access;   // the way in C++
 };
 
-/// What stands under which heading, so that each record and each enumeration is written out once and linked elsewhere.
+/// The sections of the reference. Each record and each enumeration is described once and linked from elsewhere.
 ///
-/// A record that is that of a settings class is told there. A record that stands in one other record only is told in place,
-/// by the paths to its keys. Any other record has a section on the first page that needs it.
+/// The record of a settings class is described in the section of the class. A record that only one other record contains is
+/// described there, by the paths to its keys. Any other record has a section on the first page that needs it.
 class ReferenceSections
 {
 public:
@@ -48,7 +48,7 @@ public:
     /// The section of a record, or null where it has none.
     const ReferenceSection* Find(const Proc::RecordSchema& record) const;
 
-    /// The section that writes the names of an enumeration out.
+    /// The section that lists the names of an enumeration.
     const ReferenceSection& Find(const Proc::EnumNameTable& names) const;
 
     /// The table of a section.
@@ -67,10 +67,10 @@ private:
     std::map<const Proc::EnumNameTable*, std::size_t> m_ofEnumeration;
 };
 
-/// A pair has no name of its own, and a value of its kind is told by the kinds of its two parts.
+/// True for a pair, which has no name of its own. The pages show the kinds of its two parts instead.
 bool IsPair(const Proc::RecordSchema& record);
 
-/// The kinds that a value is made of: what its lists and pairs hold in the end, or the value itself.
+/// The values inside the lists and pairs of a value, at any depth; or the value itself if it is neither.
 std::vector<const Proc::ValueSchema*> LeavesOf(const Proc::ValueSchema& value);
 
 /// The map with the defaults of all fields.

@@ -10,14 +10,14 @@ namespace Ombrel::EffectsTool
 namespace
 {
 
-// A string is taken as it stands, so that names need no quotes; what anything else is, only JSON tells.
+// A string needs no quotes, so that names are easy to type. Any other value is JSON.
 PropertyTree ParseValue(const std::string& text, const Property& property, bool nonFinite)
 {
     const PropertyTree& current = *property.Value();
     if (IsString(current))
     {
         PropertyTree string(text);
-        TextOf(string, property.Where() + "the value", nonFinite); // refuses what is no UTF-8
+        TextOf(string, property.Where() + "the value", nonFinite); // throws if it is not UTF-8
         return string;
     }
     try
@@ -26,7 +26,7 @@ PropertyTree ParseValue(const std::string& text, const Property& property, bool 
     }
     catch (const JsonError& error)
     {
-        throw ToolError(ExitCode::BadInput, property.Where() + "the value is no JSON: " + error.what() + "; expected " +
+        throw ToolError(ExitCode::BadInput, property.Where() + "the value is not JSON: " + error.what() + "; expected " +
                                                 (current.isNull() ? "any value" : KindOf(current)));
     }
 }
@@ -41,7 +41,7 @@ void ComplainIfOther(Outcome& outcome, const Property& property, const PropertyT
     }
 }
 
-// The addressed key is written anew by the library, which knows nothing of the unknown keys below it.
+// The library writes the addressed key again. This drops the unknown keys below it.
 void ComplainOfLostKeys(Outcome& outcome, const Document& document, const Document::Target& target, const EffectPtr& effect)
 {
     for (const Path& place : UnknownKeys().In(document[target.index], effect))

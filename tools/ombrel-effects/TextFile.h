@@ -7,14 +7,14 @@
 namespace Ombrel::EffectsTool
 {
 
-/// What messages call a file: "<stdin>" for "-".
+/// The name of a file in messages: "<stdin>" for "-".
 std::string NameOfFile(const std::string& file);
 
 /// The content of a file, or of the standard input for "-".
 /// @throws ToolError `UsageOrFile`
 std::string ReadTextFile(const std::string& file);
 
-/// Makes a file or overwrites it; not in one step, so for what can be made again.
+/// Creates or overwrites a file. This is not atomic, so it is only for files that can be written again.
 /// @throws ToolError `UsageOrFile`
 void WriteTextFile(const std::string& file, std::string_view text);
 

@@ -7,13 +7,14 @@
 namespace Ombrel::EffectsTool
 {
 
-/// What the program tells its caller. Scripts rely on the numbers.
+/// The exit codes of the program. Scripts rely on the numbers.
 enum class ExitCode : int
 {
     Fine = 0,
-    NotAsAsked = 1,  // a key, index or class id that does not exist; a value stored otherwise; keys dropped
+    NotAsAsked =
+        1, // a key, index or class id that does not exist; a stored value that differs from the given one; dropped keys
     UsageOrFile = 2, // a wrong command line; a file that cannot be read or written
-    BadInput = 3,    // no JSON, no effects, an unknown class id in the file, a value that the library refuses
+    BadInput = 3,    // not JSON, not effects, an unknown class id in the file, a value that the library refuses
 };
 
 /// Ends a command. `what()` is the whole message for the user, with the file and the place.

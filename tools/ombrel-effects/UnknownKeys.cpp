@@ -13,7 +13,7 @@ namespace Ombrel::EffectsTool
 namespace
 {
 
-// Every kind of property refuses at least one of these or is changed by it: maps are no scalars, 5 is no name, and so on.
+// Each kind of property refuses or is changed by at least one of these: a map is not a scalar, 5 is not a name, and so on.
 std::vector<PropertyTree> TrialValues()
 {
     PropertyTree map;
@@ -25,13 +25,13 @@ std::vector<PropertyTree> TrialValues()
     return {map, 5, numbers, maps, true, "x", PropertyTree()};
 }
 
-// The text of an effect, where trees would not do: one with a NaN is not equal to itself.
+// An effect as text. Trees cannot be compared for this: one with a NaN is not equal to itself.
 std::string FormOf(const EffectPtr& effect)
 {
     return WriteJson(StoredForm(effect), {.nonFiniteAsText = true});
 }
 
-// What the library makes of an element, if it reads it.
+// The same for an element, if the library reads it.
 std::optional<std::string> FormOf(const PropertyTree& element)
 {
     const auto effect = TryReadEffect(element);

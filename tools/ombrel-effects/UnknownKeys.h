@@ -13,16 +13,16 @@
 namespace Ombrel::EffectsTool
 {
 
-/// Finds the keys of stored effects that the library reads over, at any depth.
+/// Finds the keys of stored effects that the library ignores, at any depth.
 ///
-/// A key that the library writes itself is known. Of one that it leaves out, nobody can tell from the outside whether it has
-/// its default or is unknown, least of all in effects within effects and in classes without a property access. So other
-/// values are tried in its place: if all of them are read and none changes the effect, the key is unknown.
+/// A key that the library writes is known. A key that it does not write is unknown or has its default. The library does not say
+/// which, so other values are tried for the key. If the library reads all of them and none changes the effect, the key is
+/// unknown.
 class UnknownKeys
 {
 public:
-    /// The places of the unknown keys of an element, of which the library has read `effect`. What stands below an unknown key
-    /// is not named.
+    /// The places of the unknown keys of an element. `effect` is what the library has read from it. Keys below an unknown key
+    /// are not listed.
     std::vector<Path> In(const PropertyTree& element, const EffectPtr& effect);
 
 private:
@@ -33,7 +33,7 @@ private:
     PropertyTree m_element;
     std::optional<std::string> m_form;
     std::vector<Path> m_found;
-    std::map<std::string, bool> m_known; // by pattern, which says the class ids on the way and no list indices
+    std::map<std::string, bool> m_known; // by pattern: the path with the class ids on the way and without list indices
 };
 
 } // namespace Ombrel::EffectsTool

@@ -52,7 +52,7 @@ std::string Shown(const PropertyTree& value)
 {
     try
     {
-        return WriteJson(value); // as it stands: the option would put a backslash before a string "NaN"
+        return WriteJson(value); // without the option below, which would put a backslash before a string "NaN"
     }
     catch (const JsonWriteError&)
     {

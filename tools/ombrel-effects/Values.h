@@ -19,8 +19,8 @@ const char* KindOf(const PropertyTree& value);
 
 bool IsString(const PropertyTree& value);
 
-/// True if `stored` is what was given. Numbers compare by their exact value, whether integer or float, and a NaN is a NaN. A
-/// map that was given says nothing about the keys that it leaves out.
+/// True if `stored` has the given value. An integer and a float are equal if their exact values are equal, and a NaN equals a
+/// NaN. In a map only the given keys are compared.
 bool IsStoredAs(const PropertyTree& given, const PropertyTree& stored);
 
 } // namespace Ombrel::EffectsTool

@@ -33,19 +33,20 @@ struct Arguments
     std::function<Outcome()> command;
 };
 
-constexpr const char* DESCRIPTION = "Looks at stored effects and changes them.\n\n"
+constexpr const char* DESCRIPTION = "Shows stored effects and changes them.\n\n"
                                     "A FILE is JSON: one effect (a map) or a list of effects; \"-\" is the standard input.";
 
 constexpr const char* PATH_HELP =
-    "What to address: the effect's index from 0, a property, then map keys and list indices, joined by \"/\", such as "
+    "Path to a value: the effect's index from 0, a property, then map keys and list indices, joined by \"/\", such as "
     "2/smartBlur/lumaRadius. If the file is a single effect, its index is left out. Within a key, ~1 is \"/\" and ~0 is \"~\"";
 
 constexpr const char* FOOTER =
     "Exit codes:\n"
     "  0  fine\n"
-    "  1  a key, index or class id that was asked for does not exist; a value is stored otherwise than given; keys dropped\n"
+    "  1  a key, index or class id that was asked for does not exist; a stored value differs from the given one; keys were "
+    "dropped\n"
     "  2  wrong usage; a file cannot be read or written\n"
-    "  3  no JSON, no effects, an unknown class id in the file, a value that the library refuses, or notes that do not fit";
+    "  3  not JSON, not effects, an unknown class id in the file, a value that the library refuses, or notes that do not fit";
 
 Document Load(const Arguments& arguments)
 {
@@ -73,7 +74,7 @@ void AddFile(CLI::App* command, Arguments& arguments)
 
 void AddWriting(CLI::App* command, Arguments& arguments, const char* forceHelp)
 {
-    command->add_flag("--in-place", arguments.isInPlace, "Replace the file in one step, in place of printing");
+    command->add_flag("--in-place", arguments.isInPlace, "Replace the file atomically instead of printing");
     command->add_flag("--force", arguments.isForced, forceHelp);
 }
 
@@ -100,22 +101,22 @@ void AddWriters(CLI::App& app, Arguments& arguments)
 {
     const auto setValue = [&arguments]
     { return SetValue(Load(arguments), ParsePath(arguments.path), arguments.value, arguments.isForced); };
-    CLI::App* set = AddCommand(app, arguments, "set", "Change one value and leave all others as they stand", setValue);
+    CLI::App* set = AddCommand(app, arguments, "set", "Change one value and keep all others", setValue);
     AddFile(set, arguments);
     set->add_option("PATH", arguments.path, PATH_HELP)->required();
-    set->add_option(
-           "VALUE", arguments.value,
-           "The text itself where a string stands, else JSON. Write -- before a value that begins with \"-\" and is no "
-           "number")
+    set->add_option("VALUE", arguments.value,
+                    "A string without quotes, any other value as JSON. Write -- before a value that begins with \"-\" and is "
+                    "not a number")
         ->required();
-    AddWriting(
-        set, arguments,
-        "Write the result also if the value is stored otherwise than given or unknown keys get lost; the exit code stays 1");
+    AddWriting(set, arguments,
+               "Write the result even if the stored value differs from the given one or unknown keys are dropped; the exit "
+               "code stays 1");
 
     CLI::App* normalise = AddCommand(app, arguments, "normalise", "Print the effects as the library reads and writes them",
                                      [&arguments] { return Normalise(Load(arguments)); });
     AddFile(normalise, arguments);
-    AddWriting(normalise, arguments, "With --in-place: replace the file also if unknown keys get lost; the exit code stays 1");
+    AddWriting(normalise, arguments,
+               "With --in-place: replace the file even if unknown keys are dropped; the exit code stays 1");
 }
 
 void AddReference(CLI::App& app, Arguments& arguments)
@@ -188,12 +189,12 @@ int Run(const Arguments& arguments)
 } // namespace
 } // namespace Ombrel::EffectsTool
 
-// NOLINTNEXTLINE(bugprone-exception-escape): what the set-up throws is a mistake in it, which every run would show
+// NOLINTNEXTLINE(bugprone-exception-escape): the set-up throws only if it has a mistake, which every run would show
 int main(int argc, char** argv)
 {
     using namespace Ombrel::EffectsTool;
 
-    // A file that grows beyond the limit is then a failed write, after which the rest is cleaned up, and no sudden death.
+    // A file that grows beyond the limit then fails to be written, instead of ending the program before it cleans up.
     std::signal(SIGXFSZ, SIG_IGN);
 
     CLI::App app(DESCRIPTION, "ombrel-effects");
