@@ -45,7 +45,7 @@ const RecordSchema& Frame()
         record.name = "Frame";
         record.fields = fields;
         record.defaults = &NoDefaults;
-        record.write = [](const void*, PropertyTree::Map& target, const Proc::WriteFlags*) { target["width"] = 0; };
+        record.write = [](const void*, PropertyTree::Map& target, auto...) { target["width"] = 0; };
         return record;
     }();
     return schema;
@@ -62,7 +62,7 @@ const RecordSchema* Turn() noexcept
         record.name = "Turn";
         record.fields = fields;
         record.defaults = &NoDefaults;
-        record.write = [](const void*, PropertyTree::Map& target, const Proc::WriteFlags*)
+        record.write = [](const void*, PropertyTree::Map& target, auto...)
         {
             target["radius"] = 3;
             target["hue"] = 0;

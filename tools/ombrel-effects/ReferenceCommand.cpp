@@ -69,7 +69,8 @@ std::string ExampleOf(const PhotoCore::EffectClass& effectClass, const std::file
     const EffectPtr effect = document.size() == 1 ? document.Read(0) : nullptr;
     if (!effect || effect->GetClassId() != effectClass.classId)
     {
-        throw ToolError(ExitCode::BadInput, file + ": expected one effect of class id \"" + effectClass.classId + "\"");
+        throw ToolError(ExitCode::BadInput,
+                        file + ": expected one effect of class id \"" + std::string(effectClass.classId) + "\"");
     }
     return Compact(StoredForm(effect), 0);
 }
