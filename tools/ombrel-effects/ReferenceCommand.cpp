@@ -42,7 +42,7 @@ std::string OnOneLine(const PropertyTree& tree)
 std::string Compact(const PropertyTree& tree, std::size_t indent)
 {
     constexpr std::size_t width = 100;
-    const std::string line = OnOneLine(tree);
+    std::string line = OnOneLine(tree);
     if (indent + line.size() <= width || !(IsMap(tree) || tree.isList()))
     {
         return line;
@@ -75,28 +75,29 @@ std::string ExampleOf(const PhotoCore::EffectClass& effectClass, const std::file
     return Compact(StoredForm(effect), 0);
 }
 
-// Every name in "members.json" must be used: by a class, or by a record that has a section.
+// The section shows these members: it is that of the record that declares them, or of a class that lists the record.
+bool Shows(const ReferenceSection& section, const std::string& name, const std::vector<KeylessMember>& members)
+{
+    if (!section.notedClass)
+    {
+        return section.title == name;
+    }
+    const auto& rows = section.notedClass->members;
+    return std::ranges::all_of(members, [&rows](const KeylessMember& member)
+                               { return std::ranges::find(rows, member.member, &KeylessMember::member) != rows.end(); });
+}
+
+// Members in "members.json" that no section shows are a mistake.
 void CheckMembers(const ReferenceNotes& notes, const ReferenceSections& sections, const std::string& folder)
 {
     std::string complaints;
-    for (const auto& [name, members] : notes.members)
+    for (const auto& entry : notes.members)
     {
-        const auto shows = [&name, &members](const ReferenceSection& section)
-        {
-            if (!section.notedClass)
-            {
-                return section.title == name;
-            }
-            const auto& rows = section.notedClass->members;
-            return std::ranges::all_of(members,
-                                       [&rows](const KeylessMember& member) {
-                                           return std::ranges::find(rows, member.member, &KeylessMember::member) != rows.end();
-                                       });
-        };
-        if (std::ranges::none_of(sections.All(), shows))
+        if (std::ranges::none_of(sections.All(), [&entry](const ReferenceSection& section)
+                                 { return Shows(section, entry.first, entry.second); }))
         {
             complaints +=
-                (complaints.empty() ? "" : "\n") + folder + ": " + name + ": no class and no record has these members";
+                (complaints.empty() ? "" : "\n") + folder + ": " + entry.first + ": no class and no record has these members";
         }
     }
     if (!complaints.empty())
