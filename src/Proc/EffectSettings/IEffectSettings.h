@@ -61,7 +61,7 @@ public:
     /// True if `Add` folds another effect of the class into this one.
     virtual bool IsAdditive() const = 0;
 
-    /// True if the effect says of itself that it does nothing. Most effects never do, whatever their records say.
+    /// True if the effect counts as empty. Most classes always answer false, even if `IsEmpty` of their record is true.
     virtual bool IsEmpty() const = 0;
 
     /// Replaces the record by a copy of `settings` and leaves the rest.

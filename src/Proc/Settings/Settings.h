@@ -32,7 +32,9 @@ public:
     /// @throws std::bad_cast if `other` is a record of another type
     virtual bool IsEqualTo(const Settings& other) const = 0;
 
-    /// True if the effect would do nothing. False here: a record overrides it where it has a neutral state.
+    /// True if the record counts as empty. False here; a record that overrides it says when it is empty. A record that keeps
+    /// its members to itself is empty when it is as by default. With any other value it is not, even if its effect would do
+    /// nothing.
     virtual bool IsEmpty() const;
 
     /// Does nothing; no record overrides it.

@@ -18,7 +18,7 @@ public:
 
     const std::string& GetClassId() const override;
 
-    /// True if all nine values are 0.
+    /// True if all nine values are 0, as by default. With another gamma weight alone the record is not empty.
     bool IsEmpty() const override;
 
     std::int32_t GetBrightness() const { return m_brightness; }

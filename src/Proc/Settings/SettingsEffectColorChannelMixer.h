@@ -29,7 +29,7 @@ public:
         A = 3,
     };
 
-    /// True if the matrix is the identity.
+    /// True if the matrix is the identity, as by default.
     bool IsEmpty() const override;
 
     /// How much of the channel `column` goes into the channel `row`.

@@ -19,7 +19,7 @@ public:
 
     const std::string& GetClassId() const override;
 
-    /// True if all four values are 0.
+    /// True if all four values are 0, as by default.
     bool IsEmpty() const override;
 
     std::int32_t GetX() const { return m_x; }

@@ -17,7 +17,7 @@ public:
 
     const std::string& GetClassId() const override;
 
-    /// True if the factor is 0 and the intensity 1.
+    /// True if the factor is 0 and the intensity 1, as by default. At another intensity the record is not empty.
     bool IsEmpty() const override;
 
     /// The intensity times the factor.

@@ -16,7 +16,7 @@ public:
 
     const std::string& GetClassId() const override;
 
-    /// True if neither axis is flipped.
+    /// True if neither axis is flipped, as by default.
     bool IsEmpty() const override;
 
     bool GetHorizontal() const { return m_horizontal; }

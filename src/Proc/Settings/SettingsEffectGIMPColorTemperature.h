@@ -17,7 +17,8 @@ public:
 
     const std::string& GetClassId() const override;
 
-    /// True if every value has its default.
+    /// True if every value has its default. With two equal temperatures other than 6500 the record is not empty, although it
+    /// changes nothing.
     bool IsEmpty() const override;
 
     float GetOriginalTemperature() const { return m_originalTemperature; }

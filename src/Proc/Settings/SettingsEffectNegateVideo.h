@@ -28,7 +28,8 @@ public:
         Alpha = 8,
     };
 
-    /// True if no bit of the mask is set.
+    /// True if the mask is 0, as by default. With a bit that belongs to no channel the record is not empty, although it negates
+    /// nothing.
     bool IsEmpty() const override;
 
     /// The channels whose bits are set; a bit that belongs to no channel is passed over.

@@ -19,7 +19,8 @@ public:
 
     const std::string& GetClassId() const override;
 
-    /// True if the radius was set to 0 and the intensity is 1.
+    /// True if the radius was set to 0 and the intensity is 1, as by default. At intensity 0 the record is not empty, although
+    /// the radius it shows is 0.
     bool IsEmpty() const override;
 
     /// The radius that was set times the intensity in 32-bit floating point, cut towards zero. A product that does not fit is

@@ -20,7 +20,8 @@ public:
 
     const std::string& GetClassId() const override;
 
-    /// True if both switches are off, the amounts were set to 0 and the intensity is 1.
+    /// True if both switches are off, the amounts were set to 0 and the intensity is 1, as by default. At intensity 0 the
+    /// record is not empty, although the amounts it shows are 0.
     bool IsEmpty() const override;
 
     bool GetShake() const { return m_shake; }

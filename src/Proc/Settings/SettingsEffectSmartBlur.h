@@ -18,7 +18,7 @@ public:
 
     const std::string& GetClassId() const override;
 
-    /// True if all eight values are 0.
+    /// True if all eight values are 0, as by default. With another threshold alone the record is not empty.
     bool IsEmpty() const override;
 
     std::int32_t GetLumaRadius() const { return m_lumaRadius; }

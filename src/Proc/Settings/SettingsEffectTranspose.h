@@ -28,7 +28,7 @@ public:
         Angle_270 = 3,
     };
 
-    /// True if the picture is not turned.
+    /// True if the angle is `NoRotation`, as by default.
     bool IsEmpty() const override;
 
     TransposeAngle GetAngle() const { return m_angle; }

@@ -34,7 +34,7 @@ public:
         Stretch = 2,
     };
 
-    /// True while no size was entered.
+    /// True if the record is as by default: no size was ever entered. With an entered scale of 1 it is not empty.
     bool IsEmpty() const override;
 
     SizeModes GetSizeMode() const { return m_sizeMode; }
