@@ -4,10 +4,12 @@
 #include "OmbrelExport.h"
 #include "PhotoUtil/ISerializableBase.h"
 
+#include <concepts>
+
 namespace Ombrel::PhotoUtil
 {
 
-/// A serialisable value that can be compared.
+/// A value that can be stored in a tree and compared.
 class OMBREL_API ISerializable : public ISerializableBase
 {
 public:
@@ -18,9 +20,16 @@ public:
     ISerializable& operator=(ISerializable&&) noexcept;
     ~ISerializable() override;
 
-    /// Compares the class ids, since the base has nothing else; a derived class goes on with its members.
+    /// True for the same class id, since the base has nothing else to compare. A derived class adds its members.
     virtual bool operator==(const ISerializable& other) const;
 };
+
+/// Two serialisable values of any classes compare through the virtual `operator==` of the left one. Without this form two
+/// classes that each override it would be ambiguous.
+template <std::derived_from<ISerializable> A, std::derived_from<ISerializable> B> bool operator==(const A& a, const B& b)
+{
+    return static_cast<const ISerializable&>(a).operator==(static_cast<const ISerializable&>(b));
+}
 
 } // namespace Ombrel::PhotoUtil
 

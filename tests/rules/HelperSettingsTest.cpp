@@ -134,6 +134,80 @@ TEST(HelperSettings, ComparesAsASerializable)
     EXPECT_THROW((void)(base == Other("HelperSettings")), std::bad_cast);
 }
 
+// A caller's own, which is equal to everything or to nothing, and counts how often it was asked.
+class Answering : public Ombrel::PhotoUtil::ISerializable
+{
+public:
+    explicit Answering(bool answer) : m_answer(answer) {}
+
+    const std::string& GetClassId() const override
+    {
+        static const std::string classId{"HelperSettings"};
+        return classId;
+    }
+
+    void Serialize(PropertyTree&) const override {}
+    void Deserialize(const PropertyTree&) override {}
+
+    bool operator==(const ISerializable&) const override
+    {
+        ++m_questions;
+        return m_answer;
+    }
+
+    int Questions() const { return m_questions; }
+
+private:
+    bool m_answer;
+    mutable int m_questions = 0;
+};
+
+// A `HelperSettings` would throw `std::bad_cast`, since the class ids agree and the classes do not.
+TEST(HelperSettings, TheLeftOperandAnswers)
+{
+    const HelperSettings helper;
+    for (const bool answer : {true, false})
+    {
+        const Answering own(answer);
+        const Ombrel::PhotoUtil::ISerializable& base = own;
+        EXPECT_EQ(base == helper, answer);
+        EXPECT_EQ(base != helper, !answer);
+        EXPECT_EQ(own == helper, answer);
+        EXPECT_EQ(own != helper, !answer);
+        EXPECT_EQ(own.Questions(), 4);
+
+        EXPECT_THROW((void)(helper == own), std::bad_cast);
+        EXPECT_THROW((void)(helper == base), std::bad_cast);
+        EXPECT_THROW((void)(helper != own), std::bad_cast);
+        EXPECT_THROW((void)(helper != base), std::bad_cast);
+        EXPECT_EQ(own.Questions(), 4);
+    }
+}
+
+TEST(HelperSettings, EveryMixOfStaticTypesCompares)
+{
+    const HelperSettings helper;
+    HelperSettings other;
+    other.SetUndoSet(true);
+    const Ombrel::PhotoUtil::ISerializable& base = helper;
+    const Ombrel::PhotoUtil::ISerializable& otherBase = other;
+    EXPECT_TRUE(helper == helper);
+    EXPECT_TRUE(helper == base);
+    EXPECT_TRUE(base == helper);
+    EXPECT_TRUE(base == base);
+    EXPECT_FALSE(helper != helper);
+    EXPECT_FALSE(helper != base);
+    EXPECT_FALSE(base != helper);
+    EXPECT_FALSE(helper == other);
+    EXPECT_FALSE(helper == otherBase);
+    EXPECT_FALSE(base == other);
+    EXPECT_FALSE(base == otherBase);
+    EXPECT_TRUE(helper != other);
+    EXPECT_TRUE(helper != otherBase);
+    EXPECT_TRUE(base != other);
+    EXPECT_TRUE(HelperSettings() == helper) << "a temporary on the left";
+}
+
 // A caller's own, which says so.
 class Renamed : public HelperSettings
 {

@@ -52,6 +52,12 @@ public:
     bool operator==(const PhotoUtil::ISerializable& other) const override;
     bool operator==(const HelperSettings& other) const;
 
+    /// Lets the left value answer. Without it the compiler would turn the two round, since this class is an exact match.
+    friend bool operator==(const PhotoUtil::ISerializable& a, const HelperSettings& b)
+    {
+        return a.operator==(static_cast<const PhotoUtil::ISerializable&>(b));
+    }
+
     bool GetUndoSet() const { return m_undoSet; }
     void SetUndoSet(bool value) { m_undoSet = value; }
 
