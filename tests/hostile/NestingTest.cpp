@@ -179,6 +179,37 @@ TEST_P(EffectNesting, EndsAtThe513th)
     Support::RunOnStack(STACK, work);
 }
 
+// Such an effect can be made in memory alone. What is stored of it would be lost, since no reader takes it.
+TEST_P(EffectNesting, IsNotWrittenBeyondThe512th)
+{
+    const auto work = []
+    {
+        const PropertyTree tree = Nested(GetParam(), LIMIT + 1);
+        const auto effect = IEffectSettings::CreateEffectSettings(tree["name"].getScalar().toString());
+        effect->Deserialize(tree); // which counts the effects inside it alone
+        PropertyTree written;
+        try
+        {
+            EffectSettings::SerializePtr(written, effect);
+            ADD_FAILURE() << "was written";
+        }
+        catch (const std::length_error& failure)
+        {
+            EXPECT_STREQ(failure.what(), REFUSAL);
+        }
+        EXPECT_TRUE(Written(Read(Nested(GetParam(), LIMIT))) == Nested(GetParam(), LIMIT))
+            << "the refusal has left levels counted";
+
+        effect->Serialize(written); // which counts them in the same way
+        written["name"] = effect->GetClassId();
+        EXPECT_TRUE(written == tree);
+        const auto clone = effect->Clone();
+        EXPECT_TRUE(*clone == *effect);
+        EXPECT_THROW(Written(clone), std::length_error);
+    };
+    Support::RunOnStack(STACK, work);
+}
+
 // What is left of a cell is nothing, since its row is added when it has been read.
 INSTANTIATE_TEST_SUITE_P(Shapes, EffectNesting,
                          testing::Values(Shape{"foreground", {Foreground}, Foreground(List({Vibrance()}))},
@@ -267,17 +298,38 @@ protected:
 
 TEST_F(HeldEffects, AreReadTo512Levels)
 {
-    const Chain chain = ChainOf(Read(Holding(LIMIT, PropertyTree())["effect"]));
-    EXPECT_EQ(chain.length, 511);
-    EXPECT_FALSE(chain.end) << "the null tree is the 512th level";
     EXPECT_EQ(ChainOf(Read(Holding(LIMIT - 1, Map({{"name", "EFFECT_HOLDING"}})))).length, 512);
+}
+
+// It takes no stack, and is written where it stands.
+TEST_F(HeldEffects, ANullTreeIsNoLevel)
+{
+    const Chain chain = ChainOf(Read(Holding(LIMIT, PropertyTree())));
+    EXPECT_EQ(chain.length, 512);
+    EXPECT_FALSE(chain.end);
+}
+
+// A read that writes, and a write that reads, may each go as deep as any.
+TEST_F(HeldEffects, ReadsAndWritesAreCountedApart)
+{
+    static const auto tree = Nested(Shape{"", {Foreground}, {}}, LIMIT);
+    static const auto effect = Read(tree);
+    static bool isEqual;
+    IEffectSettings::RegisterFactory("EFFECT_WRITES_WHEN_MADE",
+                                     []
+                                     {
+                                         isEqual = Written(effect) == tree;
+                                         return std::make_shared<HoldingSettings>();
+                                     });
+    EXPECT_EQ(ChainOf(Read(Holding(LIMIT - 1, Map({{"name", "EFFECT_WRITES_WHEN_MADE"}})))).length, 512);
+    EXPECT_TRUE(isEqual);
 }
 
 // All that was read stays, and what the 513th was to replace.
 TEST_F(HeldEffects, TheRefusedOneIsNotTouched)
 {
     for (const PropertyTree& innermost :
-         {Map({{"name", "EFFECT_HOLDING"}}), Map({{"name", "EFFECT_NOTHING"}}), Map({}), PropertyTree(), PropertyTree(5)})
+         {Map({{"name", "EFFECT_HOLDING"}}), Map({{"name", "EFFECT_NOTHING"}}), Map({}), PropertyTree(5)})
     {
         std::shared_ptr<IEffectSettings> effect;
         EXPECT_THROW(EffectSettings::DeserializePtr(Holding(LIMIT, innermost), effect), std::length_error);
@@ -290,7 +342,7 @@ TEST_F(HeldEffects, TheRefusedOneIsNotTouched)
 // They end as early as 513 do.
 TEST_F(HeldEffects, AHundredThousandLevelsAreRefusedToo)
 {
-    const PropertyTree tree = Holding(100'000, PropertyTree());
+    const PropertyTree tree = Holding(100'000, Map({}));
     const auto work = [&tree]
     {
         std::shared_ptr<IEffectSettings> effect;

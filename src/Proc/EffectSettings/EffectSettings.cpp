@@ -15,30 +15,34 @@ namespace
 
 namespace StoredKeys = Proc::StoredKeys;
 
-// Counts the effects in whose reads this thread stands. Every level costs stack, which a stored tree must not exhaust.
+// How many effects this thread is reading and writing, each inside the one before.
+constinit thread_local int effectsInRead = 0;
+constinit thread_local int effectsInWrite = 0;
+
+// Counts one level for as long as it lives. Each level takes stack, which a stored tree must not exhaust; and what is too deep
+// to be read must not be written.
 class NestingGuard
 {
 public:
-    NestingGuard()
+    explicit NestingGuard(int& depth) : m_depth(depth)
     {
-        if (s_depth == LIMIT)
+        if (depth == LIMIT)
         {
             throw std::length_error("effects stand in effects more than 512 levels deep");
         }
-        ++s_depth;
+        ++depth;
     }
 
     NestingGuard(const NestingGuard&) = delete;
     NestingGuard& operator=(const NestingGuard&) = delete;
 
-    ~NestingGuard() { --s_depth; }
+    ~NestingGuard() { --m_depth; }
 
 private:
     static constexpr int LIMIT = 512;
-    static thread_local int s_depth;
-};
 
-thread_local int NestingGuard::s_depth = 0;
+    int& m_depth;
+};
 
 std::shared_ptr<IEffectSettings> Make(const std::string& id)
 {
@@ -137,6 +141,7 @@ void EffectSettings::SerializePtr(PropertyTree& tree, const std::shared_ptr<cons
         tree = PropertyTree();
         return;
     }
+    const NestingGuard guard(effectsInWrite);
     const bool wasNull = tree.isNull();
     effect->Serialize(tree);
     // The entries of a tree that was null nobody has seen yet, so they may still move.
@@ -147,12 +152,12 @@ void EffectSettings::SerializePtr(PropertyTree& tree, const std::shared_ptr<cons
 
 void EffectSettings::DeserializePtr(const PropertyTree& tree, std::shared_ptr<IEffectSettings>& effect)
 {
-    const NestingGuard guard;
     if (tree.isNull())
     {
         effect.reset();
         return;
     }
+    const NestingGuard guard(effectsInRead);
     // The old effect goes last: the tree may be one that it holds.
     const auto old = std::exchange(effect, Make(tree.getMap().at(StoredKeys::CLASS_ID).getScalar().toString()));
     effect->Deserialize(tree);

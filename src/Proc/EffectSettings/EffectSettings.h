@@ -34,6 +34,9 @@ public:
     bool IsEmpty() const override;
 
     /// Stores an effect together with its class id, under the key "name"; a null pointer is a null tree.
+    /// @throws std::length_error if effects stand in effects more than 512 levels deep, since they could not be read back; the
+    ///         tree then holds part of the effect
+    /// @throws what `Serialize` throws
     static void SerializePtr(PropertyTree& tree, const std::shared_ptr<const IEffectSettings>& effect);
 
     /// Makes the effect that the tree names, assigns it to `effect` and reads it; a null tree is a null pointer. A failure
@@ -43,7 +46,7 @@ public:
     /// @throws std::invalid_argument if the tree is no map or "name" no string
     /// @throws Exception "Unknown Effect Setting type (...)!" for an unknown class id
     /// @throws std::bad_function_call or std::logic_error if an empty function, or one that makes nothing, was registered
-    /// @throws std::length_error if effects stand in effects more than 512 levels deep
+    /// @throws std::length_error if effects stand in effects more than 512 levels deep; a null tree is no level
     /// @throws what `Deserialize` throws
     static void DeserializePtr(const PropertyTree& tree, std::shared_ptr<IEffectSettings>& effect);
 
