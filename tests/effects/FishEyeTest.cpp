@@ -57,6 +57,46 @@ TEST(FishEye, WhereNoFactorReachesTheDeviationItIsTheFactor)
     EXPECT_EQ(Record(5.0, 0.0f).GetDeviation(), 0.0);
 }
 
+// The smallest intensity and the largest deviations: the quotient of the two does not fit 64 bits.
+TEST(FishEye, WhereTheFactorWouldBeInfiniteItIsTheDeviation)
+{
+    constexpr float smallest = std::numeric_limits<float>::denorm_min();
+    constexpr double largest = std::numeric_limits<double>::max();
+    for (const float intensity : {smallest, -smallest})
+    {
+        for (const double deviation : {1e300, -1e300, largest, -largest})
+        {
+            SettingsEffectFishEye record = Record(deviation, intensity);
+            EXPECT_EQ(record.GetDeviation(), static_cast<double>(intensity) * deviation);
+            record.SetIntensity(1.0f);
+            EXPECT_EQ(record.GetDeviation(), deviation) << intensity;
+        }
+    }
+    EXPECT_EQ(Record(largest, 0.5f).GetDeviation(), largest / 2);
+    EXPECT_DOUBLE_EQ(Record(1e260, smallest).GetDeviation(), 1e260) << "a quotient that fits";
+}
+
+// A third of the largest number is rounded up, and three times that no longer fits.
+TEST(FishEye, TheDeviationStaysFiniteWhereTheQuotientIsRoundedUp)
+{
+    constexpr double largest = std::numeric_limits<double>::max();
+    for (const float intensity : {3.0f, -3.0f, 5.0f, 7.0f, 236.85289f})
+    {
+        EXPECT_DOUBLE_EQ(Record(largest, intensity).GetDeviation(), largest) << intensity;
+        EXPECT_DOUBLE_EQ(Record(-largest, intensity).GetDeviation(), -largest) << intensity;
+    }
+}
+
+TEST(FishEye, AnInfiniteDeviationIsShown)
+{
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    for (const float intensity : {0.5f, -0.5f, 3.0f, std::numeric_limits<float>::denorm_min()})
+    {
+        EXPECT_EQ(Record(infinity, intensity).GetDeviation(), infinity) << intensity;
+        EXPECT_EQ(Record(-infinity, intensity).GetDeviation(), -infinity) << intensity;
+    }
+}
+
 TEST(FishEye, TheDeviationIsReadBeforeTheIntensity)
 {
     FishEyeSettings fresh;

@@ -28,8 +28,22 @@ bool SettingsEffectFishEye::IsEmpty() const
 
 void SettingsEffectFishEye::SetDeviation(double value)
 {
-    const bool isReachable = m_intensity != 0.0f && std::isfinite(m_intensity);
-    m_deviationFactor = isReachable ? value / static_cast<double>(m_intensity) : value;
+    m_deviationFactor = value;
+    if (m_intensity == 0.0f || !std::isfinite(m_intensity))
+    {
+        return;
+    }
+    const auto intensity = static_cast<double>(m_intensity);
+    const double factor = value / intensity;
+    if (!std::isfinite(value))
+    {
+        m_deviationFactor = factor;
+    }
+    else if (std::isfinite(factor))
+    {
+        // A quotient that was rounded away from 0 may give a product that no longer fits.
+        m_deviationFactor = std::isfinite(factor * intensity) ? factor : std::nextafter(factor, 0.0);
+    }
 }
 
 // The field list knows the product alone, which at intensity 0 says nothing of the factor.

@@ -23,8 +23,9 @@ public:
     /// The intensity times the factor.
     double GetDeviation() const { return static_cast<double>(m_intensity) * m_deviationFactor; }
 
-    /// Sets the factor so that the deviation at the present intensity is `value`, but for rounding. At an intensity where no
-    /// factor can reach it, that is 0, an infinity or NaN, `value` itself becomes the factor: the deviation at intensity 1.
+    /// Sets the factor so that the deviation at the present intensity is `value`, but for rounding. Where no finite factor
+    /// gives a finite `value`, that is at an intensity of 0, of an infinity or NaN, or too small for it, `value` itself becomes
+    /// the factor: the deviation at intensity 1.
     void SetDeviation(double value);
 
     float GetIntensity() const { return m_intensity; }
