@@ -11,6 +11,12 @@ Exception::Exception() = default;
 Exception::Exception(const Exception& other) = default;
 Exception::~Exception() noexcept = default;
 
+std::string DescribeFailure(const std::exception& failure)
+{
+    const std::string* description = boost::get_error_info<ErrorDescription>(failure);
+    return description ? *description : failure.what();
+}
+
 std::string GetCallStack()
 {
     return {};

@@ -3,7 +3,7 @@
 
 #include "OmbrelExport.h"
 
-// Boost's types must be visible, or what is attached to an exception is lost when it crosses into another library.
+// Boost's types must be visible. Otherwise what is attached to an exception is lost when another library catches it.
 #pragma GCC visibility push(default)
 #include <boost/assert/source_location.hpp>
 #include <boost/exception/exception.hpp>
@@ -17,9 +17,9 @@
 namespace Ombrel
 {
 
-/// The failure type of this library. All that it says is attached to it and read with `boost::get_error_info`: the text under
-/// `TagDescription`, the call stack under `TagCallStack`, and file, function and line of the throw as Boost's own
-/// `boost::throw_file`, `boost::throw_function` and `boost::throw_line`.
+/// The failure type of this library. Its `what()` says nothing: `DescribeFailure` gives the text. All data is attached as error
+/// information and read with `boost::get_error_info`: the text under `TagDescription`, the call stack under `TagCallStack`, and
+/// file, function and line of the throw under Boost's own `boost::throw_file`, `boost::throw_function` and `boost::throw_line`.
 class OMBREL_API Exception : public virtual std::exception, public virtual boost::exception
 {
 public:
@@ -34,13 +34,18 @@ struct OMBREL_API TagCallStack;
 using ErrorDescription = boost::error_info<TagDescription, std::string>;
 using ErrorCallStack = boost::error_info<TagCallStack, std::string>;
 
-/// Where a failure is raised: a fixed name of a place, stable over rebuilds, and no path of the machine that built it.
+/// Where a failure is raised. The names are fixed: they do not change with a rebuild, and contain no path of the machine that
+/// built the library.
 using ThrowLocation = boost::source_location;
 
-/// The text that a failure carries under `TagCallStack`: empty, since the library walks no stacks.
+/// The text of any failure, for a message or a log: what is attached under `TagDescription`, also to a class of the caller's
+/// own, and `failure.what()` where there is none.
+OMBREL_API std::string DescribeFailure(const std::exception& failure);
+
+/// The text that a failure has under `TagCallStack`: always empty, since the library records no call stack.
 OMBREL_API std::string GetCallStack();
 
-/// Throws an `Exception` with `description` and the call stack, as a `boost::wrapexcept<Exception>` that knows `location`.
+/// Throws a `boost::wrapexcept<Exception>` with `description`, the call stack and `location` attached.
 [[noreturn]] OMBREL_API void ThrowException(const std::string& description, const ThrowLocation& location);
 
 } // namespace Ombrel

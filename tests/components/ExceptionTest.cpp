@@ -4,6 +4,7 @@
 
 #include <boost/throw_exception.hpp>
 
+#include <stdexcept>
 #include <type_traits>
 
 namespace
@@ -50,6 +51,47 @@ TEST(Exception, ACopyKeepsWhatIsAttached)
     const Exception copy = exception;
     EXPECT_EQ(*boost::get_error_info<Ombrel::ErrorDescription>(copy), "text");
     EXPECT_FALSE(boost::get_error_info<Ombrel::ErrorCallStack>(copy));
+}
+
+TEST(DescribeFailure, GivesTheDescription)
+{
+    try
+    {
+        Ombrel::ThrowException("what went wrong", LOCATION);
+        FAIL();
+    }
+    catch (const std::exception& failure)
+    {
+        EXPECT_EQ(Ombrel::DescribeFailure(failure), "what went wrong");
+    }
+    Exception exception;
+    exception << Ombrel::ErrorDescription("");
+    EXPECT_EQ(Ombrel::DescribeFailure(exception), "") << "an empty description is one";
+}
+
+TEST(DescribeFailure, GivesTheMessageWhereThereIsNoDescription)
+{
+    EXPECT_EQ(Ombrel::DescribeFailure(std::out_of_range("invalid map<K, T> key")), "invalid map<K, T> key");
+    EXPECT_EQ(Ombrel::DescribeFailure(Exception()), std::exception().what());
+    Exception exception;
+    exception << Ombrel::ErrorCallStack("main");
+    EXPECT_EQ(Ombrel::DescribeFailure(exception), std::exception().what()) << "a call stack is no description";
+}
+
+// A failure of a caller's own, which may carry what this library's failures carry.
+class Failure : public std::runtime_error, public boost::exception
+{
+public:
+    Failure() : std::runtime_error("a failure of the caller's own") {}
+};
+
+TEST(DescribeFailure, TakesFailuresOfACallersOwn)
+{
+    Failure failure;
+    EXPECT_EQ(Ombrel::DescribeFailure(failure), "a failure of the caller's own");
+    failure << Ombrel::ErrorDescription("the description of the caller's own");
+    EXPECT_EQ(Ombrel::DescribeFailure(failure), "the description of the caller's own");
+    EXPECT_STREQ(failure.what(), "a failure of the caller's own");
 }
 
 TEST(Exception, HasNoMessageOfItsOwn)
