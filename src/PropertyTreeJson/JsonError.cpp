@@ -6,7 +6,16 @@ namespace Ombrel
 namespace
 {
 
-// A key may come from a hostile file: nothing of it may move the cursor of a terminal or spoil the encoding of a log.
+// U+0000 to U+001F and U+007F to U+009F. A terminal may take U+009B for the start of a command, like ESC and "[".
+bool IsControl(std::string_view character)
+{
+    const auto first = static_cast<unsigned char>(character.front());
+    return character.size() == 1 ? first < 0x20 || first == 0x7F
+                                 : first == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0;
+}
+
+// Keys come from the input, which may be hostile: no message may contain a command to a terminal or break the encoding of a
+// log.
 std::string Printable(std::string_view text)
 {
     constexpr std::string_view hex = "0123456789abcdef";
@@ -21,9 +30,9 @@ std::string Printable(std::string_view text)
             result += hex[byte >> 4];
             result += hex[byte & 0xF];
         }
-        else if (byte < 0x20 || byte == 0x7F)
+        else if (IsControl(text.substr(0, length)))
         {
-            JsonText::AppendEscape(result, text.front());
+            JsonText::AppendEscape(result, text[length - 1]); // the last byte is the code point, of either length
         }
         else
         {
@@ -36,7 +45,7 @@ std::string Printable(std::string_view text)
 
 std::string Message(const std::string& path, const std::string& reason)
 {
-    return path.empty() ? reason : "at " + Printable(path) + ": " + reason;
+    return path.empty() ? Printable(reason) : "at " + Printable(path) + ": " + Printable(reason);
 }
 
 } // namespace

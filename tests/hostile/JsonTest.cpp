@@ -54,9 +54,12 @@ bool IsWithin(std::string_view text, std::size_t line, std::size_t column)
     return line == 1 && column >= 1 && column <= std::min(text.find('\n'), text.size()) + 1;
 }
 
+// Whether `text` has none of U+0000 to U+001F and U+007F to U+009F.
 bool IsPrintable(std::string_view text)
 {
-    return std::ranges::none_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; });
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; };
+    const auto isC1 = [](char a, char b) { return a == '\xC2' && static_cast<unsigned char>(b) < 0xA0; };
+    return std::ranges::none_of(text, isControl) && std::ranges::adjacent_find(text, isC1) == text.end();
 }
 
 // A tree, which is then the same after a further round, or an error with a place.
@@ -179,6 +182,7 @@ TEST_F(HostileJsonRandom, Tokens)
         "\"b\"",
         "\"\"",
         "\"\\u00e4\"",
+        "\"\\u009b\":",
         "0",
         "-1",
         "1.5",

@@ -157,6 +157,8 @@ INSTANTIATE_TEST_SUITE_P(
                             3, 35, "2/smartBlur", R"(3:35: at 2/smartBlur: duplicate key "lumaRadius")"},
                     BadText{"SpelledInTwoWays", R"({"a/b": 1, "a\u002fb": 2})", 1, 12, "", R"(1:12: duplicate key "a/b")"},
                     BadText{"ControlCharacters", R"({"\u001b": 1, "\u001b": 2})", 1, 15, "", R"(1:15: duplicate key "\u001b")"},
+                    BadText{"DeleteAndC1", "{\"\x7F\xC2\x9B\": 1, \"\\u007f\\u009b\": 2}", 1, 12, "",
+                            R"(1:12: duplicate key "\u007f\u009b")"},
                     BadText{"BehindByteOrderMark", "\xEF\xBB\xBF{\"a\":1,\"a\":2}", 1, 8, "", R"(1:8: duplicate key "a")"}),
     NameOf);
 
@@ -185,7 +187,10 @@ INSTANTIATE_TEST_SUITE_P(
                     BadText{"SlashAndTilde", R"({"a/b": {"~1": x}})", 1, 16, "a~1b/~01", "1:16: at a~1b/~01: invalid literal"},
                     BadText{"EmptyKeys", R"({"": {"": x}})", 1, 11, "/", "1:11: at /: invalid literal"},
                     BadText{"KeyFromHostileFile", R"({"\u001b[2J\u007f\n": x})", 1, 23, "\x1b[2J\x7f\n",
-                            R"(1:23: at \u001b[2J\u007f\n: invalid literal)"}),
+                            R"(1:23: at \u001b[2J\u007f\n: invalid literal)"},
+                    BadText{"C1FromHostileFile", "{\"\xC2\x80\xC2\x9B\x32J\xC2\x9F\xC2\xA0\xC3\x84\": x}", 1, 18,
+                            "\xC2\x80\xC2\x9B\x32J\xC2\x9F\xC2\xA0\xC3\x84",
+                            "1:18: at \\u0080\\u009b2J\\u009f\xC2\xA0\xC3\x84: invalid literal"}),
     NameOf);
 
 // Every beginning of a text is no text, whatever it cuts: a sequence of UTF-8, an escape, a number, a literal.
@@ -227,6 +232,25 @@ TEST(JsonErrorObject, ReasonStaysShort)
     const std::optional<JsonError> error = ErrorOf("\"" + std::string(100000, 'x'));
     ASSERT_TRUE(error);
     EXPECT_STREQ(error->what(), "1:100002: invalid string: missing closing quote");
+}
+
+// Whoever makes such an error, with a reason that quotes the input too.
+TEST(JsonErrorObject, MessageHasNoControlCharacters)
+{
+    for (unsigned code = 1; code < 0xA0; ++code)
+    {
+        const bool isControl = code < 0x20 || code >= 0x7F;
+        const std::string character =
+            code < 0x80 ? std::string(1, static_cast<char>(code)) : "\xC2" + std::string(1, static_cast<char>(code));
+        const JsonError error(1, 2, "a" + character, "bad " + character);
+        const JsonWriteError writeError("a" + character, "bad " + character);
+        const std::string_view message = error.what();
+        EXPECT_EQ(message.substr(5), writeError.what());
+        EXPECT_EQ(message.find(character) == std::string_view::npos, isControl) << code;
+        EXPECT_EQ(error.path(), "a" + character);
+        EXPECT_EQ(writeError.path(), "a" + character);
+    }
+    EXPECT_STREQ(JsonError(1, 2, "\xC2\x9B", "bad \xC2\x85\xC2").what(), R"(1:2: at \u009b: bad \u0085\xc2)");
 }
 
 TEST(JsonErrorObject, MessageIsValidTextWhateverTheFile)
