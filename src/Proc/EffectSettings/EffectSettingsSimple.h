@@ -11,6 +11,8 @@ namespace Ombrel::PhotoCore
 
 /// An effect around any record, for an effect that has no settings class of its own. Copies and clones share the record.
 ///
+/// Threads: effects that share a record count as one object.
+///
 /// Record and input type are not stored: what is read back from a tree has no record and takes one image. An effect without a
 /// record answers questions with an empty record of its own class id and throws `std::logic_error` where its record would
 /// change.

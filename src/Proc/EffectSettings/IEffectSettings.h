@@ -26,7 +26,8 @@ class HelperSettings;
 /// The settings of one image effect: a record of parameters with what the editor needs of it. The order of the virtual
 /// operations is fixed.
 ///
-/// Threads: different objects are independent; one object is for many readers or one writer.
+/// Threads: different objects are independent; one object is for many readers or one writer. `EffectSettingsSimple` and
+/// `ResizeSettings` promise less.
 class OMBREL_API IEffectSettings : public PhotoUtil::ISerializableBase
 {
 public:
@@ -45,7 +46,7 @@ public:
     /// No key of a settings class that stores members of its own may be one of these.
     static constexpr const auto& RESERVED_KEYS = Proc::StoredKeys::RESERVED;
 
-    /// A copy with a record of its own.
+    /// A copy with a record of its own, but that an `EffectSettingsSimple` shares its record with its clone.
     virtual std::shared_ptr<IEffectSettings> Clone() const = 0;
 
     /// Which implementation runs the effect, one of `Proc::ImplNames`.

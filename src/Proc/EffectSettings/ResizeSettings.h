@@ -17,7 +17,7 @@ namespace Ombrel::PhotoCore
 /// The record's mode is not stored. A frame or a scale is therefore restored only into a record that is in that mode already,
 /// as the one that the effect's creator has set up. There is no property access.
 ///
-/// Threads: `Serialize` refreshes the mirrors, so that two threads must not call it at once on one object.
+/// Threads: `Serialize` writes the mirrors, although it is const: while it runs, no other thread may use the object.
 class OMBREL_API ResizeSettings : public EffectSettingsOneInputReflection<Proc::SettingsResizer, ResizeSettings>
 {
 public:
