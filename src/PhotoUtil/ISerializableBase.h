@@ -15,7 +15,7 @@ class PropertyTree;
 namespace Ombrel::PhotoUtil
 {
 
-/// What turns into a tree and back. The order of the virtual operations is fixed.
+/// A value that can be stored in a tree and read back. The order of the virtual operations is fixed.
 class OMBREL_API ISerializableBase
 {
 public:
@@ -26,12 +26,12 @@ public:
     /// Replaces `tree` by the stored form of this object: a map, whatever the tree was.
     virtual void Serialize(PropertyTree& tree) const = 0;
 
-    /// Reads the stored form. A key that is missing resets its field to the default, an unknown key is ignored. A failure
-    /// stops the read where it stands: what was read stays, the rest keeps its old value.
+    /// Reads the stored form. A missing key resets its field to the default. An unknown key is ignored. After a failure the
+    /// fields that were read before it have their new values, all others their old ones.
     /// @throws what the tree throws for a value of the wrong state or kind (`std::invalid_argument`, `std::out_of_range`)
     virtual void Deserialize(const PropertyTree& tree) = 0;
 
-    /// A view on the single properties, or an empty pointer where there is none. It does not own the object and must not
+    /// Access to the single properties, or an empty pointer if the class has none. It refers to this object and must not
     /// outlive it.
     virtual std::unique_ptr<const IPropertyAccess> GetPropertyAccess() const;
     virtual std::unique_ptr<IPropertyAccess> GetPropertyAccess();
@@ -52,10 +52,10 @@ class OMBREL_API ISerializableBase::IPropertyAccess
 public:
     virtual ~IPropertyAccess();
 
-    /// The property in its stored form, also where it has its default; a null tree for an unknown key.
+    /// The property in its stored form, even if it has its default; a null tree for an unknown key.
     virtual PropertyTree GetProperty(const std::string& key) const = 0;
 
-    /// Reads one property from its stored form and leaves all others; an unknown key does nothing.
+    /// Reads one property from its stored form and changes no other; an unknown key does nothing.
     /// @throws what `Deserialize` throws for the same value
     virtual void SetProperty(const std::string& key, const PropertyTree& value) = 0;
 
