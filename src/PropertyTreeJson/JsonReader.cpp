@@ -13,8 +13,8 @@
 #include <system_error>
 #include <vector>
 
-// The lexer asserts that strtod has taken a whole number, which fails where the locale's decimal point has several bytes.
-// Nothing here relies on that value.
+// The lexer asserts that strtod reads the whole of each number. That fails in a locale whose decimal point has several bytes.
+// The value is not used here, so the assertion is switched off.
 #define JSON_ASSERT(condition) static_cast<void>(0)
 #include <nlohmann/json.hpp>
 
@@ -26,7 +26,7 @@ namespace
 constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 constexpr std::string_view WHITE_SPACE = " \t\n\r";
 
-// Walks over the text and leaves word of how far the lexer has come.
+// Iterates over the text and counts the bytes that the lexer has read. The parser reports no positions with its events.
 class CountingIterator
 {
 public:
@@ -62,8 +62,7 @@ bool IsFloat(std::string_view lexeme)
     return lexeme.find_first_of(".eE") != std::string_view::npos;
 }
 
-// True for a number whose first significant digit stands before the point once the exponent is applied. `lexeme` must not be
-// zero.
+// Whether a number that does not fit a float is too large rather than too small. `lexeme` must not be zero.
 [[maybe_unused]] bool IsLarge(std::string_view lexeme)
 {
     const std::size_t exponentAt = std::min(lexeme.find_first_of("eE"), lexeme.size());
@@ -80,12 +79,12 @@ bool IsFloat(std::string_view lexeme)
     std::int64_t size = 0;
     if (std::from_chars(exponent.data(), exponent.data() + exponent.size(), size).ec != std::errc())
     {
-        return !isNegative; // such an exponent outweighs any number of digits
+        return !isNegative; // no number of digits makes up for an exponent beyond 64 bits
     }
     return isNegative ? point - digit > size : point - digit > -size;
 }
 
-// What the exception of the parser says, without its own place and without the token, which may be long or no valid UTF-8.
+// The reason in a message of the parser, without its position and without the token, which may be long or invalid UTF-8.
 std::string_view ReasonIn(std::string_view message)
 {
     const std::size_t dash = message.find(" - ");
@@ -96,8 +95,8 @@ std::string_view ReasonIn(std::string_view message)
     return message.substr(0, message.find("; last read: "));
 }
 
-// Takes the parser's events and builds the tree. The parser names these functions, and a false result would end it: here
-// every failure throws.
+// Builds the tree from the parser's events. The parser prescribes the names of these functions and their result, where false
+// means "stop". Here they return true, and throw on failure.
 class Reader
 {
 public:
@@ -111,9 +110,14 @@ public:
 
     PropertyTree Read()
     {
+        if (m_text.size() > m_options.maxBytes)
+        {
+            Fail(std::max(m_options.maxBytes, m_start),
+                 "the text is longer than " + std::to_string(m_options.maxBytes) + " bytes");
+        }
         const char* begin = m_text.data();
         Json::sax_parse(CountingIterator(begin, m_count), CountingIterator(begin + m_text.size(), m_count), this);
-        // To the parser a zero byte is the end.
+        // The parser takes a zero byte for the end of the text.
         if (const std::size_t rest = SkipWhiteSpace(m_tokenEnd); rest != m_text.size())
         {
             Fail(rest, "unexpected zero byte");
@@ -149,7 +153,7 @@ public:
         return true;
     }
 
-    // The value that comes along depends on the locale, and so does `lexeme` but for its length.
+    // The parser's value depends on the locale, and so do the characters of `lexeme`. Its length does not.
     bool number_float(Json::number_float_t, const std::string& lexeme)
     {
         const std::size_t start = NextToken();
@@ -157,7 +161,7 @@ public:
         return true;
     }
 
-    // `value` is the lexer's buffer. A copy of the right size costs less than a buffer that has to grow for each string.
+    // `value` is the lexer's buffer, which the next string uses again. So it is copied and not moved from.
     bool string(const std::string& value)
     {
         if (m_options.nonFiniteAsText && JsonText::NeedsGuard(value))
@@ -172,7 +176,7 @@ public:
         return true;
     }
 
-    bool binary(Json::binary_t&) { return false; } // no event of a text
+    bool binary(Json::binary_t&) { return false; } // never called: JSON text has no binary values
 
     bool start_object(std::size_t)
     {
@@ -224,16 +228,21 @@ public:
     }
 
 private:
-    // A map or list that is not closed yet. Pointers do: entries of a map never move, and a list does not grow while one of
-    // its elements is open.
+    // A map or list that is not closed yet. The pointers stay valid: entries of a map never move, and a list does not grow
+    // while one of its elements is open.
     struct Level
     {
         PropertyTree* tree;
-        PropertyTree::Map::value_type* entry = nullptr; // of a map, between the key and the end of its value
+        PropertyTree::Map::value_type* entry = nullptr; // the current one of a map, from its key to the end of its value
     };
 
     PropertyTree& NewChild()
     {
+        if (m_values == m_options.maxValues)
+        {
+            Fail(NextToken(), "more than " + std::to_string(m_options.maxValues) + " values");
+        }
+        ++m_values;
         if (m_open.empty())
         {
             return m_top;
@@ -282,7 +291,7 @@ private:
     {
         if (!IsFloat(lexeme))
         {
-            FailNumber("integer"); // the parser takes what no integer holds for a float
+            FailNumber("integer"); // the parser reports an integer beyond 64 bits as a float
         }
 #ifdef __cpp_lib_to_chars
         double value = 0.0;
@@ -296,7 +305,7 @@ private:
             return lexeme.starts_with('-') ? -0.0 : 0.0;
         }
         return value;
-#else // a standard library that cannot do so yet
+#else // a standard library without from_chars for floats
         static const locale_t classic = newlocale(LC_ALL_MASK, "C", nullptr);
         const double value = strtod_l(std::string(lexeme).c_str(), nullptr, classic);
         if (std::isinf(value))
@@ -312,7 +321,7 @@ private:
         return std::min(m_text.find_first_not_of(WHITE_SPACE, offset), m_text.size());
     }
 
-    // Where the token behind the last event's token starts; a comma or colon that may stand between is no event and skipped.
+    // The offset of the first token after that of the last event. Skips one comma or colon, for which there are no events.
     std::size_t NextToken() const
     {
         const std::size_t offset = SkipWhiteSpace(m_tokenEnd);
@@ -324,7 +333,7 @@ private:
         return m_separator != '\0' && offset < m_text.size() && m_text[offset] == m_separator;
     }
 
-    // The lexer has mostly read one byte beyond a number, but none at the end of the text.
+    // The lexer has read one byte beyond the number, but not at the end of the text, so its count does not tell.
     std::size_t IntegerEnd() const
     {
         std::size_t offset = NextToken();
@@ -346,7 +355,7 @@ private:
             else if (level.tree->isList() && !(isInnermost && isBetweenValues))
             {
                 const std::size_t size = level.tree->getList().size();
-                path.Add(isInnermost ? size : size - 1); // the innermost list has not got the element yet
+                path.Add(isInnermost ? size : size - 1); // the innermost list does not contain the element yet
             }
         }
         return path.Text();
@@ -367,10 +376,11 @@ private:
 
     const std::string_view m_text;
     const JsonReadOptions& m_options;
-    const std::size_t m_start; // of what follows the byte order mark
+    const std::size_t m_start; // offset behind the byte order mark
     std::size_t m_count = 0;   // bytes that the lexer has read
-    std::size_t m_tokenEnd;    // of the last event
-    char m_separator = '\0';   // that belongs between the last event's token and the next one
+    std::size_t m_tokenEnd;    // offset behind the last event's token
+    char m_separator = '\0';   // expected between the last event's token and the next one
+    std::size_t m_values = 0;  // in the tree so far
     PropertyTree m_top;
     std::vector<Level> m_open;
 };

@@ -20,8 +20,8 @@ struct Utf8Range
     unsigned char highestSecond;
 };
 
-// What may follow a lead byte. The narrower ranges of the second byte keep out overlong forms, surrogates and what lies
-// behind the last code point.
+// The length of the sequence that a lead byte begins, and the range of its second byte. That range is narrower where the full
+// one would admit overlong forms, surrogates or code points above U+10FFFF.
 Utf8Range RangeAfter(unsigned char lead) noexcept
 {
     if (lead < 0xC2 || lead > 0xF4)

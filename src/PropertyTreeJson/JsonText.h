@@ -6,11 +6,11 @@
 #include <string>
 #include <string_view>
 
-/// What the reader, the writer and the exceptions share. Not for callers.
+/// Shared by the reader, the writer and the exceptions. Not for callers.
 namespace Ombrel::JsonText
 {
 
-/// The way from the top of a tree to one of its values, as text.
+/// The path from the top of a tree to one of its values, as text.
 class Path
 {
 public:
@@ -23,25 +23,25 @@ private:
     void AddSeparator();
 
     std::string m_text;
-    bool m_isTop = true; // the text alone cannot tell, since a key may be empty
+    bool m_isTop = true; // an empty text does not tell, since a key may be empty
 };
 
 /// The length of the well-formed UTF-8 sequence at the start of `text`, or 0. `text` must not be empty.
 std::size_t Utf8Length(std::string_view text) noexcept;
 
-/// Adds the escape of `character`, a quote, a backslash or a control character.
+/// Adds the escape of the code point `character`, which is below 256: a quote, a backslash or a control character.
 void AppendEscape(std::string& out, char character);
 
-/// Adds `text` as a JSON string; false if it is not valid UTF-8: then part of it may have been added.
+/// Adds `text` as a JSON string. False if it is not valid UTF-8; part of it may then have been added.
 bool AppendQuoted(std::string& out, std::string_view text);
 
-/// The text that stands for a float that is no finite number.
+/// The name of a float that is NaN or infinite.
 std::string_view NonFiniteText(double value) noexcept;
 
-/// The float that `text` stands for, if it does.
+/// The float that `text` is the name of, if it is one.
 std::optional<double> NonFiniteValue(std::string_view text) noexcept;
 
-/// True if `text` is backslashes, or none, and then a text that stands for a float.
+/// True if `text` is such a name behind zero or more backslashes.
 bool NeedsGuard(std::string_view text) noexcept;
 
 } // namespace Ombrel::JsonText

@@ -1,6 +1,7 @@
 #include "PropertyTreeJson/JsonText.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -12,11 +13,14 @@ namespace Ombrel
 namespace
 {
 
-// A map or list that is being written, and the child that it has come to.
+// Lines in deeper levels are not indented further. Else the text would grow with the square of the depth.
+constexpr std::size_t MAX_INDENTED_LEVELS = 64;
+
+// A map or list that is being written, and its current child.
 struct Level
 {
     const PropertyTree* tree;
-    std::size_t begun = 0; // children, the current one included
+    std::size_t begun = 0; // children written, including the current one
     PropertyTree::Map::const_iterator entry{};
 
     std::size_t Size() const { return tree->isList() ? tree->getList().size() : tree->getMap().size(); }
@@ -113,7 +117,7 @@ private:
         if (m_options.indent != 0)
         {
             m_out += '\n';
-            m_out.append(m_options.indent * m_open.size(), ' ');
+            m_out.append(m_options.indent * std::min(m_open.size(), MAX_INDENTED_LEVELS), ' ');
         }
     }
 
@@ -159,11 +163,11 @@ private:
         WriteDigits(value);
         if (m_out.find_first_of(".e", start) == std::string::npos)
         {
-            m_out += ".0"; // without it the number would read back as an integer
+            m_out += ".0"; // otherwise the number would read back as an integer
         }
     }
 
-    // The shortest text that reads back as the same number. 32 bytes hold any of them.
+    // Writes the shortest text that reads back as the same number. It has at most 24 characters.
     void WriteDigits(auto value)
     {
         std::array<char, 32> digits;

@@ -92,13 +92,17 @@ INSTANTIATE_TEST_SUITE_P(Shapes, JsonDepth,
                                          DeepText{"WithNeighbours", 500000, R"([0,{"a":[],"b":)", "true", R"(,"c":1},"x"])"}),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST(JsonDepthLimit, IsAThousandByDefault)
+TEST(JsonDepthLimit, Is4096ByDefault)
 {
-    EXPECT_TRUE(ReadJson(Nested(1000, "[", "", "]")).isList());
-    EXPECT_TRUE(ReadJson(Nested(500, R"({"a":[)", "", "]}")).contains("a"));
-    EXPECT_TRUE(ReadJson(Nested(1000, "[", "1", "]")).isList()) << "a scalar is no level";
-    EXPECT_THROW(ReadJson(Nested(1001, "[", "", "]")), JsonError);
-    EXPECT_THROW(ReadJson(Nested(500, R"({"a":[)", "{}", "]}")), JsonError);
+    const auto work = []
+    {
+        EXPECT_TRUE(ReadJson(Nested(4096, "[", "", "]")).isList());
+        EXPECT_TRUE(ReadJson(Nested(2048, R"({"a":[)", "", "]}")).contains("a"));
+        EXPECT_TRUE(ReadJson(Nested(4096, "[", "1", "]")).isList()) << "a scalar is no level";
+        EXPECT_THROW(ReadJson(Nested(4097, "[", "", "]")), JsonError);
+        EXPECT_THROW(ReadJson(Nested(2048, R"({"a":[)", "{}", "]}")), JsonError);
+    };
+    Support::RunOnStack(STACK_SIZE, work);
 }
 
 struct LimitedText

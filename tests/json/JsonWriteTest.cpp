@@ -74,6 +74,26 @@ TEST(JsonWrite, IndentsByTheGivenNumberOfSpaces)
     EXPECT_EQ(WriteJson(list, {.indent = 1}), "[\n 1\n]");
 }
 
+// Each level on the way down and each on the way up is a line.
+TEST(JsonWrite, IndentsNoFurtherThan64Levels)
+{
+    PropertyTree tree = 1;
+    for (int i = 0; i < 67; ++i)
+    {
+        PropertyTree outer;
+        outer.append(std::move(tree));
+        tree = std::move(outer);
+    }
+    const std::string text = WriteJson(tree, {.indent = 3});
+    const std::string at63 = "\n" + std::string(189, ' ');
+    const std::string at64 = "\n" + std::string(192, ' ');
+    EXPECT_NE(text.find(at63 + "[" + at64 + "[" + at64 + "[" + at64 + "[" + at64 + "1" + at64 + "]" + at64 + "]" + at64 + "]" +
+                        at63 + "]\n"),
+              std::string::npos)
+        << text;
+    EXPECT_EQ(ReadJson(text), tree);
+}
+
 TEST(JsonWrite, IndentedTextReadsBack)
 {
     EXPECT_EQ(ReadJson(WriteJson(SampleTree(), {.indent = 4})), SampleTree());
