@@ -24,8 +24,9 @@ namespace Ombrel::Proc
 ///     static void Read(const PropertyTree& child, Value& value, const ReadFlags* flags);
 ///     static constexpr ValueSchema SCHEMA; // optional
 ///
-/// `Read` decodes `child` into `value`, which holds what the field held before. Whatever the tree throws passes through.
-/// A new kind is a new specialisation, which may stand beside its type. What has none is a record with a field list.
+/// `Read` decodes `child` into `value`, which still has the old value of the field. Exceptions of the tree pass through. A
+/// further kind of value is a further specialisation, which may be defined beside the type. A type without a specialisation is
+/// a record.
 template <class Value> struct Codec;
 
 /// How a value describes itself.
@@ -42,7 +43,7 @@ inline constexpr const ValueSchema& SCHEMA_OF = []() -> const ValueSchema&
     }
 }();
 
-// The routines of the plain kinds, one per kind whatever the type, so that a record's own code stays small.
+// One routine for each plain kind, whatever the field's type is, so that a record needs little code of its own.
 OMBREL_API void WriteInteger(PropertyTree& child, std::int64_t value);
 OMBREL_API void WriteFloat(PropertyTree& child, double value);
 OMBREL_API void WriteBool(PropertyTree& child, bool value);
@@ -55,7 +56,7 @@ OMBREL_API void ReadBool(const PropertyTree& child, bool& value);
 OMBREL_API void ReadString(const PropertyTree& child, std::string& value);
 OMBREL_API std::int32_t ReadEnum(const PropertyTree& child, const EnumNameTable& table);
 
-/// Makes `child` a list of `size` null trees, whatever it was, and hands the list out.
+/// Replaces `child` by a list of `size` null trees and returns the list.
 OMBREL_API PropertyTree::List& WriteList(PropertyTree& child, std::size_t size);
 
 /// The integer kinds: widened to 64 bits on the way out, cut to the low bits on the way in, without a range test.
@@ -131,7 +132,7 @@ struct Codec<Value>
     }
 };
 
-/// A child that is no list leaves the field as it is; otherwise the elements replace it one by one, in order.
+/// Reads the elements in order into the emptied field. A child that is no list leaves the field as it is.
 template <class Element> struct Codec<std::vector<Element>>
 {
     static constexpr ValueSchema SCHEMA{.kind = ValueKind::List, .element = &SCHEMA_OF<Element>};
@@ -162,7 +163,7 @@ template <class Element> struct Codec<std::vector<Element>>
     }
 };
 
-/// As a list, in ascending order; on reading, repeated elements fall together.
+/// A list in ascending order. Reading ignores repeated elements.
 template <class Element> struct Codec<std::set<Element>>
 {
     static constexpr ValueSchema SCHEMA{.kind = ValueKind::Set, .element = &SCHEMA_OF<Element>};

@@ -10,13 +10,13 @@ namespace Ombrel::Proc
 
 struct ReadFlags
 {
-    bool resetMissing; // a key that is missing resets its field to the default; clear: it leaves the field alone
+    bool resetMissing; // whether a missing key resets its field to the default; if not, the field keeps its value
 };
 
 struct WriteFlags
 {
-    bool resetTargets; // a nested record starts from an empty map; clear: it adds to what the target holds
-    bool omitDefaults; // a field that equals its default is left out
+    bool resetTargets; // whether a nested record is written into an empty map; if not, into the map that is there
+    bool omitDefaults; // whether fields that equal their default are left out
 };
 
 /// The state of one read. Nested reads make a context of their own and pass the same flags on.
@@ -33,7 +33,7 @@ template <class Record> struct WriteContext
     const Record& record;
     PropertyTree::Map& target;
     const WriteFlags* flags;
-    std::size_t others = 0; // entries that the caller will add to the map itself, so that it has room for them
+    std::size_t others = 0; // how many entries the caller adds itself; the map gets room for them
 };
 
 } // namespace Ombrel::Proc

@@ -6,7 +6,7 @@
 namespace Ombrel::Proc
 {
 
-/// A record without a default constructor says itself what its default is.
+/// The default record: made by the default constructor, or by `Record::MakeDefault()` if there is none.
 template <class Record> Record MakeDefaultRecord()
 {
     if constexpr (std::default_initializable<Record>)

@@ -11,7 +11,7 @@
 namespace Ombrel::Proc
 {
 
-/// One name of an enumeration as it stands in stored trees: exact and case-sensitive, misspellings included.
+/// One name of an enumeration as it is stored: case-sensitive, misspellings included.
 struct EnumNameRow
 {
     template <class Enum>
@@ -37,8 +37,8 @@ struct OMBREL_API EnumNameTable
     std::int32_t ValueOf(std::string_view name) const noexcept;
 };
 
-/// Says which table belongs to an enumeration. It is specialised once, beside the enumeration or beside the only record that
-/// stores it, with `static constexpr EnumNameTable TABLE`.
+/// The table of an enumeration: specialised once with `static constexpr EnumNameTable TABLE`, beside the enumeration or in the
+/// source of the only record that stores it.
 template <class Enum> struct EnumNames;
 
 } // namespace Ombrel::Proc

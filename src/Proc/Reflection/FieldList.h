@@ -54,8 +54,8 @@ template <std::size_t Size> struct KeyText
     char value[Size];
 };
 
-/// `std::invoke` of a function with the record it takes first or is a member of; <functional> would be half of the time that
-/// a record's file takes to compile.
+/// Calls a member function of the record, or a function that takes the record first. `std::invoke` does the same, but its
+/// header takes half of the time in which a record's file compiles.
 template <class Function, class Record, class... Arguments>
 constexpr decltype(auto) Invoke(Function function, Record& record, Arguments&&... arguments)
 {
@@ -70,7 +70,7 @@ constexpr decltype(auto) Invoke(Function function, Record& record, Arguments&&..
 }
 
 /// A reflected property, reached through a setter and a getter: member functions of the record, or functions that take it
-/// first. The tree sees only what the getter says; the setter runs once per read, after the value is decoded.
+/// first. What the getter returns is stored. A read calls the setter once, with the decoded value.
 template <KeyText Key, auto Setter, auto Getter> struct AccessorDescriptor
 {
     static constexpr std::string_view KEY{Key.value, sizeof(Key.value) - 1};
@@ -82,7 +82,7 @@ template <KeyText Key, auto Setter, auto Getter> struct AccessorDescriptor
         }
         else
         {
-            return MEMBER_NAME<Getter>; // the setter belongs to the list, no caller knows it
+            return MEMBER_NAME<Getter>; // a function of the list is no setter for callers
         }
     }();
 
@@ -117,8 +117,8 @@ template <class... Descriptors> struct FieldList
     static constexpr std::size_t SIZE = sizeof...(Descriptors);
     static constexpr std::array<std::string_view, SIZE> KEYS{Descriptors::KEY...};
 
-    /// The fields in the byte order of their keys. Sorted by hand, here and below: the compiler would take more time for the
-    /// standard's algorithms than for all else that there is of a record.
+    /// The fields in the byte order of their keys. The algorithms of the standard library are not used here: the compiler would
+    /// take longer for them than for the rest of a record.
     static constexpr std::array<SortedKey, SIZE> SORTED_KEYS = []
     {
         std::array<std::uint16_t, SIZE> order{};

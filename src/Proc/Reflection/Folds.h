@@ -10,20 +10,24 @@
 #include <cstddef>
 #include <utility>
 
-// How a record gets to a tree and back.
+// How a record is written to a tree and read from it.
 //
-// Both ways go through the fields in declaration order, so that setters run and failures stop as the list says. A map holds its
-// keys in byte order, and so does a constant table that the compiler sorts for each record: a read walks the two side by side,
-// once and out of line, which gives each field its child or none, and then decodes. A write finds out which fields are to be
-// stored, appends their keys in byte order to a map with room for exactly so many, and then fills them. What depends on a
-// value's type alone is one routine per kind, also out of line: of a field only its key, its offset and the comparison with the
-// default are code of its own.
+// Reading and writing visit the fields in declaration order, which is the order in which setters run and in which a failure
+// stops.
+//
+// A map has its keys in byte order. For each record, the compiler makes a constant table of the keys in the same order. A read
+// first walks map and table side by side, which finds the child of each field, and then decodes the children. A write first
+// finds the fields to store, adds their keys in byte order to a map with room for exactly that many, and then encodes the
+// values.
+//
+// The routines that depend only on the kind of a value exist once, in `Codec.cpp`. Compiled for each field are its key, its
+// offset and the comparison with the default.
 namespace Ombrel::Proc
 {
 namespace ReflectedDetail
 {
 
-// A record whose map is not its own alone says in RESERVED_KEYS which keys are taken.
+// A record that shares its map with others lists their keys in RESERVED_KEYS.
 template <class Record, class List> consteval bool HasOwnKeys()
 {
     if constexpr (requires { Record::RESERVED_KEYS; })
@@ -39,7 +43,7 @@ template <class Record, class List> consteval bool HasOwnKeys()
     return true;
 }
 
-/// The folds over the fields of `Record`, which are told apart by their place in the list.
+/// The folds over the fields of `Record`. An index tells two fields with equal descriptors apart.
 template <class Record, class List, class Indices = std::make_index_sequence<List::SIZE>> struct Folds;
 
 template <class Record, class... Descriptors, std::size_t... Index>
@@ -65,7 +69,7 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         }
     }
 
-    // The flag is asked for anew at each field: of what it knew beforehand the compiler would make two copies.
+    // Each field tests the flag. If it were tested once, before the fields, the compiler would make two copies of this code.
     static void Read([[maybe_unused]] void* subject, const PropertyTree::Map& source, [[maybe_unused]] const ReadFlags* flags)
     {
         std::array<const PropertyTree*, List::SIZE> children;
@@ -75,7 +79,7 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         (ReadOrReset<Descriptors>(children[Index], record, flags, defaults), ...);
     }
 
-    // A place that the write has come to is cleared, so that its child stays whatever happens.
+    // Clears the place, so that a failure does not take the child away again: as a write field by field, it leaves it there.
     template <class Descriptor> static void WriteOrOmit(PropertyTree*& place, const Record& record, const WriteFlags* flags)
     {
         if (PropertyTree* child = std::exchange(place, nullptr))

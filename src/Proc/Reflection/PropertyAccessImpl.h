@@ -11,8 +11,8 @@
 namespace Ombrel::Proc
 {
 
-/// Key-by-key access to a record of the described type. It answers as reading and writing the whole record would, and touches
-/// the one field alone. It holds a plain pointer: the record must outlive it.
+/// Key-by-key access to a record of the described type. The results are those of reading or writing the whole record, but only
+/// the one field is read or written. It has a plain pointer to the record, which must outlive it.
 class OMBREL_API PropertyAccess : public PhotoUtil::ISerializableBase::IPropertyAccess
 {
 public:

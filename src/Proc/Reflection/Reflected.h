@@ -54,7 +54,7 @@ template <class Record> struct Reflected
     static bool Equal(const Record& a, const Record& b) { return Schema().equal(&a, &b); }
 };
 
-/// What has no codec of its own is a record, stored as a nested map.
+/// A type without a codec of its own is a record: it is stored as a nested map.
 template <class Record> struct Codec
 {
     static constexpr ValueSchema SCHEMA{.kind = ValueKind::Record, .record = &Reflected<Record>::Schema};

@@ -11,8 +11,8 @@ namespace Ombrel::Proc
 namespace
 {
 
-// Of two keys with the same head. What follows the head is compared by words, a load for each, of which the last overlaps with
-// the one before: no key is so long that a call would be made up for.
+// Compares two keys with the same head. The characters after the head are compared by words; the last word overlaps with the
+// one before. Keys are too short for a call of `memcmp` to pay.
 bool IsKey(std::string_view text, const SortedKey& key, const FieldSchema* fields)
 {
     constexpr std::size_t word = sizeof(key.head);
@@ -84,7 +84,7 @@ WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, b
     std::fill_n(children, schema.fields.size(), nullptr);
 }
 
-// The delegated-to constructor is done, so a failure in here runs the destructor.
+// The delegating constructor has returned, so a failure in this body runs the destructor.
 WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, bool* isWritten,
                            PropertyTree** children)
     : WriteTargets(schema, map, isWritten, children)

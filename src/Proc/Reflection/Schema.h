@@ -37,7 +37,7 @@ enum class ValueKind : std::uint8_t
     List,
     Set,    // stored as a list
     Effect, // any effect or none, stored with its class id
-    Other,  // has a codec of its own that does not describe itself
+    Other,  // a caller's codec without a SCHEMA
 };
 
 /// What a field holds. Constant data.
@@ -49,7 +49,7 @@ struct ValueSchema
     const ValueSchema* element = nullptr;      // of a list or set
 };
 
-/// Describes what does not describe itself.
+/// The description of a value whose codec has none.
 inline constexpr ValueSchema OTHER_VALUE{ValueKind::Other};
 
 /// One field of a record. Constant data.
@@ -60,7 +60,7 @@ struct FieldSchema
     std::string_view access; // how C++ reaches it: "m_radius", or "SetHue, GetHue" for a setter and a getter
 };
 
-/// A key as a search needs it, with the place of its field in the list. Constant data.
+/// A key in the form that searches use, with the place of its field in the list. Constant data.
 struct SortedKey
 {
     constexpr SortedKey() = default;
@@ -80,15 +80,15 @@ struct SortedKey
     char beginning[SHORT_KEY] = {}; // the first characters, and zeros if there are not so many
 };
 
-/// What is known of a record type without naming it: its fields, and the folds over them for a record that is passed by `void*`
-/// and must be of the type. Constant data; an index is the place in `fields`.
+/// The description of a record type: its fields, and the folds over them. The folds take a record of this type by `void*`. An
+/// index is a place in `fields`. Constant data.
 struct RecordSchema
 {
     std::string_view name;               // of the type, without its namespace; "pair" for every pair
     std::span<const FieldSchema> fields; // in declaration order, which is the order of reading
     const SortedKey* sortedKeys;         // of the fields, in byte order
 
-    const void* (*defaults)(); // what missing keys are reset to; made on first use
+    const void* (*defaults)(); // the record that missing keys are reset to; made on first use
     void (*read)(void* record, const PropertyTree::Map& source, const ReadFlags* flags);
     void (*write)(const void* record, PropertyTree::Map& target, const WriteFlags* flags, std::size_t others);
     bool (*equal)(const void* a, const void* b); // field by field, each by its own `==`
@@ -99,21 +99,21 @@ struct RecordSchema
 /// The field with the key.
 OMBREL_API std::optional<std::size_t> FindField(const RecordSchema& schema, std::string_view key);
 
-/// Points `children`, of which there is one per field, at the field's child in the map, or at nothing.
+/// Sets `children`, an array with a place for each field, to the children of the fields in the map, or to null.
 OMBREL_API void FindChildren(const RecordSchema& schema, const PropertyTree::Map& source, const PropertyTree** children);
 
-/// The children that a write of a record fills. Those that the map lacks are made as null trees before the first is filled, in
-/// key order, which makes no more than one block for all of them. A write that fails takes those away that it has not come to.
+/// The children that a write of a record fills. Missing children are inserted as null trees before the first one is filled, in
+/// key order, so that the map allocates at most one block. If the write fails, the children that it did not come to are
+/// removed.
 class OMBREL_API WriteTargets
 {
 public:
-    /// @param isWritten for each field, whether it is written; then, whether its child is new. As `children`, it belongs to the
-    ///                  caller and must outlive this object.
+    /// @param flags for each field: on entry, whether it is written; from then on, whether its child is new. It belongs to the
+    ///              caller and must outlive this object, as `children`.
     /// @param children for each field, its child or null; the caller clears a place when the write comes to it
-    /// @param others entries that there shall be room for beside the fields
-    /// @throws std::bad_alloc, with the map as it was but for what room it has
-    WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, bool* isWritten,
-                 PropertyTree** children);
+    /// @param others the map gets room for this many further entries
+    /// @throws std::bad_alloc; the entries of the map are then unchanged
+    WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, bool* flags, PropertyTree** children);
 
     WriteTargets(const WriteTargets&) = delete;
     WriteTargets& operator=(const WriteTargets&) = delete;
@@ -126,11 +126,11 @@ public:
         }
     }
 
-    /// Every child has been filled: none is taken away any more.
+    /// All children have been filled; none is removed any more.
     void Finish() noexcept { m_isDone = true; }
 
 private:
-    WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, bool* isWritten, PropertyTree** children) noexcept;
+    WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, bool* flags, PropertyTree** children) noexcept;
 
     void Withdraw() noexcept;
 

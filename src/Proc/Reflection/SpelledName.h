@@ -11,8 +11,8 @@ namespace Ombrel::Proc
 namespace SpelledNameDetail
 {
 
-// The compiler spells the template argument out in the name of the function: "... [with auto Member = &Record::m_radius]".
-// Nothing may follow the argument but brackets, so the functions must not return a class.
+// The compiler gives the template argument in the function's name: "... [with auto Member = &Record::m_radius]". The functions
+// must not return a class, whose name would follow the argument.
 template <auto Member> constexpr const char* Spelling()
 {
     return __PRETTY_FUNCTION__;
@@ -69,7 +69,7 @@ template <std::size_t Size> consteval std::array<char, Size> CopyOf(std::string_
     return copy;
 }
 
-// An array of its own keeps the long spelling out of the binary.
+// The copy keeps the long name of the function out of the binary.
 template <const char* (*Spelled)()> struct Name
 {
     static constexpr std::string_view SOURCE = LastName(Spelled());
