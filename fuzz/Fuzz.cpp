@@ -44,7 +44,7 @@ std::string TextOf(const PropertyTree& tree)
 {
     std::ostringstream out;
     out.precision(17);
-    PrintTo(tree, &out);
+    out << tree;
     return out.str();
 }
 

@@ -2,19 +2,12 @@
 #define OMBREL_TESTS_SUPPORT_TREE_TEXT_H
 
 #include "PropertyTree/PropertyTree.h"
+#include "PropertyTree/PropertyTreeOutput.h" // shows a tree in a failed expectation
 
 #include <initializer_list>
-#include <iosfwd>
+#include <ostream>
 #include <string_view>
 #include <utility>
-
-namespace Ombrel
-{
-
-/// Shows a tree in a failed expectation.
-void PrintTo(const PropertyTree& tree, std::ostream* out);
-
-} // namespace Ombrel
 
 namespace Support
 {
