@@ -9,14 +9,14 @@
 namespace Ombrel
 {
 
-/// As many characters as a number, the first in the highest byte, so that texts and numbers have one order.
+/// Reads so many characters as a number, the first one as its highest byte, so that numbers compare as the texts do.
 template <std::size_t... I> constexpr std::uint64_t NumberAt(const char* text, std::index_sequence<I...>) noexcept
 {
     return ((std::uint64_t{static_cast<unsigned char>(text[I])} << 8 * (sizeof...(I) - 1 - I)) | ...); // one load
 }
 
-/// The first eight characters of a key, and zeros if there are not so many, as a number. Where the heads of two keys differ,
-/// they differ in the order of the keys.
+/// The first eight characters of a key as a number; a shorter key is padded with zeros. If the heads of two keys differ, they
+/// compare as the keys do.
 constexpr std::uint64_t HeadOf(std::string_view key) noexcept
 {
     const std::size_t size = key.size();
@@ -29,7 +29,7 @@ constexpr std::uint64_t HeadOf(std::string_view key) noexcept
     {
         const std::uint64_t first = NumberAt(key.data(), std::make_index_sequence<4>());
         const std::uint64_t last = NumberAt(key.data() + size - 4, std::make_index_sequence<4>());
-        return first << 32 | last << missing; // they overlap in the same characters
+        return first << 32 | last << missing; // where they overlap, their characters are the same
     }
     std::uint64_t head = 0;
     for (const char character : key)
@@ -39,7 +39,7 @@ constexpr std::uint64_t HeadOf(std::string_view key) noexcept
     return size == 0 ? 0 : head << missing;
 }
 
-/// A `std::string` of so many characters needs no memory of its own, with every usual library.
+/// With every usual standard library, a `std::string` of so many characters allocates nothing.
 inline constexpr std::size_t SHORT_KEY = 15;
 
 } // namespace Ombrel

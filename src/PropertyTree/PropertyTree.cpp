@@ -12,15 +12,15 @@
 namespace Ombrel
 {
 
-// The state of a tree is read through `m_null` whichever member is there, which the common beginning of standard-layout
-// structs allows. So a scalar is not wrapped, and a tree is no larger than one.
+// The state of a tree is read through `m_null` whichever member is active: the members are standard-layout structs with a
+// common initial sequence. So a scalar needs no wrapper, and a tree is no larger than one.
 static_assert(std::is_standard_layout_v<PropertyTree> && sizeof(PropertyTree) == sizeof(PropertyTreeScalar));
 
 namespace
 {
 
-// So many levels are copied, compared and destroyed by recursion, which is fast. What lies deeper, and may be as deep as
-// memory allows, is put off and then taken up in a loop.
+// So many levels are copied, compared and destroyed by recursion, which is fast. Deeper levels, which may go on as far as
+// memory allows, are noted and handled later in a loop.
 constexpr int RECURSION_LIMIT = 32;
 
 const char* NameOf(const PropertyTree& tree)
@@ -38,10 +38,10 @@ const char* NameOf(const PropertyTree& tree)
 
 bool IsContainer(const PropertyTree& tree)
 {
-    return !tree.isNull() && !tree.isScalar();
+    return tree.isMap() || tree.isList();
 }
 
-// The four functions below see a map and a list alike, as a row of children.
+// The four functions below treat maps and lists alike, as a sequence of children.
 
 std::size_t ChildCount(const PropertyTree& tree)
 {
@@ -74,10 +74,10 @@ void PopLastChild(PropertyTree& tree)
     }
 }
 
-// Empties a tree of any depth without recursion and without memory. It always works at the last child. A child that has
-// children of its own is turned over with its parent: the child becomes the top, its first child takes the place that it
-// had, and the old top hangs where that first child was. So each container is turned over at most once, and every step
-// after that drops a childless child or an emptied top.
+// Empties a tree of any depth without recursion and without allocating. It always looks at the last child of the top. A last
+// child without children is removed. A last child with children changes places with its parent: it becomes the top, its first
+// child moves to its old place in the parent, and the parent moves to the place of that first child. So each container becomes
+// the top at most once, and every other step removes a child.
 void Dismantle(PropertyTree& top) noexcept
 {
     while (ChildCount(top) != 0)
@@ -165,7 +165,7 @@ public:
     }
 
 private:
-    // The places of what is pending do not move, since every container has room for all its children from the beginning.
+    // The pending targets do not move, since every container has room for all its children from the beginning.
     void Copy(const PropertyTree& source, PropertyTree& target, int depth)
     {
         if (source.isScalar())
@@ -184,7 +184,7 @@ private:
                 Copy(child, list.emplace_back(), depth + 1);
             }
         }
-        else if (source.IsMap())
+        else if (source.isMap())
         {
             CopyMap(source.m_map.content, target.makeMap(), depth + 1);
         }
@@ -209,7 +209,7 @@ private:
 
 PropertyTree::PropertyTree(const PropertyTree& other) : PropertyTree()
 {
-    Copying().Copy(other, *this); // the delegated-to constructor is done, so a failure in here runs the destructor
+    Copying().Copy(other, *this); // if it fails, the destructor runs, as the default constructor is done
 }
 
 PropertyTree& PropertyTree::operator=(const PropertyTree& other)
@@ -219,7 +219,7 @@ PropertyTree& PropertyTree::operator=(const PropertyTree& other)
 
 PropertyTree& PropertyTree::operator=(PropertyTree&& other) noexcept
 {
-    PropertyTree taken(std::move(other)); // first, since it may stand in this tree
+    PropertyTree taken(std::move(other)); // first, since it may be a part of this tree
     Clear();
     Take(taken);
     return *this;
@@ -235,7 +235,7 @@ void PropertyTree::swap(PropertyTree& other) noexcept
 
 bool PropertyTree::contains(std::string_view key) const noexcept
 {
-    return IsMap() && m_map.content.contains(key);
+    return isMap() && m_map.content.contains(key);
 }
 
 PropertyTree& PropertyTree::operator[](std::string_view key)
@@ -254,7 +254,7 @@ const PropertyTree& PropertyTree::operator[](std::string_view key) const
 
 void PropertyTree::convertToMap() noexcept
 {
-    if (!IsMap())
+    if (!isMap())
     {
         SetMap(Map());
     }
@@ -323,7 +323,7 @@ void PropertyTree::Take(PropertyTree& other) noexcept
         std::construct_at(&m_scalar, std::move(other.m_scalar));
         std::destroy_at(&other.m_scalar);
     }
-    else if (other.IsMap())
+    else if (other.isMap())
     {
         SetMap(std::move(other.m_map.content));
         std::destroy_at(&other.m_map);
@@ -336,7 +336,7 @@ void PropertyTree::Take(PropertyTree& other) noexcept
     std::construct_at(&other.m_null);
 }
 
-// Destroys the content and leaves the tree without any, not even null.
+// Destroys the content and leaves the tree without a state: the caller must set one.
 void PropertyTree::Release(int depth) noexcept
 {
     if (isScalar())

@@ -8,6 +8,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <new>
 #include <string_view>
 #include <type_traits>
@@ -19,11 +20,19 @@ namespace Ombrel
 
 /// The stored form of an object: a value that is null, a scalar, an ordered map or a list of trees.
 ///
-/// Copies are deep, a moved-from tree is null. Every assignment equals "copy or take the right side first, then assign", so
-/// a tree may be assigned from its own child; it must not be moved, nor swapped, into a part of itself. No operation recurses:
-/// trees may nest as deep as memory allows, and destroying one needs no memory. Copying has the strong guarantee.
+/// Copies are deep, and a moved-from tree is null. A tree may be assigned from its own child or any other part of itself, by
+/// copy or by move: the right side is copied or taken before the left side changes. A tree must not be moved or swapped into a
+/// part of itself.
 ///
-/// An operation on a tree in the wrong state throws `std::invalid_argument`, which names what was expected and what is there.
+/// A list is a `std::vector` and follows its rules. Assigning the list from a list inside one of its own elements,
+/// `list = list[0].getList()`, is undefined, by copy and by move. Safe are: assigning the tree that has the list,
+/// `tree = tree.getList()[0]` or `tree = std::move(tree.getList()[0])`; making a copy first, `list = List(list[0].getList())`;
+/// and moving the inner list out first, `List inner = std::move(list[0].getList())` and then `list = std::move(inner)`.
+///
+/// No operation recurses: trees may be nested as deep as memory allows, and destroying one needs no memory. Copying has the
+/// strong guarantee.
+///
+/// An operation on a tree in the wrong state throws `std::invalid_argument`, which names the expected and the actual state.
 ///
 /// Threads: as a standard container, many readers or one writer.
 class OMBREL_API PropertyTree
@@ -53,6 +62,10 @@ public:
     {
     }
 
+    // A null pointer is no text, and a single character no number.
+    template <std::same_as<std::nullptr_t> T> PropertyTree(T) = delete;
+    template <PropertyTreeCharacter T> PropertyTree(T) = delete;
+
     ~PropertyTree()
     {
         if (HoldsMemory())
@@ -69,7 +82,7 @@ public:
              !std::same_as<std::remove_cvref_t<T>, PropertyTree>) PropertyTree&
     operator=(T&& value)
     {
-        PropertyTreeScalar scalar(std::forward<T>(value)); // first, since it may stand in this tree
+        PropertyTreeScalar scalar(std::forward<T>(value)); // first, since `value` may be a part of this tree
         Clear();
         ::new (static_cast<void*>(&m_scalar)) PropertyTreeScalar(std::move(scalar));
         return *this;
@@ -80,6 +93,7 @@ public:
 
     bool isNull() const noexcept { return State() == STATE_NULL; }
     bool isScalar() const noexcept { return State() != STATE_NULL && State() <= STATE_TEXT; }
+    bool isMap() const noexcept { return State() == STATE_MAP; }
     bool isList() const noexcept { return State() == STATE_LIST; }
 
     /// True if the tree is a map that holds `key`; false in any other state.
@@ -94,11 +108,17 @@ public:
     /// @throws std::invalid_argument on anything but a map
     const PropertyTree& operator[](std::string_view key) const;
 
-    /// The map itself. The reference lives until the tree is assigned, converted or destroyed; so with the two below.
+    // A null pointer, or a literal 0, is no key.
+    template <PropertyTreeNoKey Key> void contains(Key) const = delete;
+    template <PropertyTreeNoKey Key> void operator[](Key) = delete;
+    template <PropertyTreeNoKey Key> void operator[](Key) const = delete;
+
+    /// The map itself. The reference is valid until the tree is assigned, converted or destroyed. The same holds for the list
+    /// and the scalar.
     /// @throws std::invalid_argument on anything but a map
     Map& getMap()
     {
-        if (!IsMap())
+        if (!isMap())
         {
             Refuse("a map");
         }
@@ -156,7 +176,7 @@ private:
     friend Map;
     class Copying;
 
-    // A scalar's states are the numbers of its kinds.
+    // The state of a scalar is the number of its kind.
     static constexpr std::uint8_t STATE_NULL = 0;
     static constexpr std::uint8_t STATE_TEXT = static_cast<std::uint8_t>(PropertyTreeScalar::Kind::String);
     static constexpr std::uint8_t STATE_MAP = STATE_TEXT + 1;
@@ -181,12 +201,11 @@ private:
 
     // Every member begins with the state, which may therefore be read through any of them.
     std::uint8_t State() const noexcept { return m_null.state; }
-    bool IsMap() const noexcept { return State() == STATE_MAP; }
     bool HoldsMemory() const noexcept { return State() >= STATE_TEXT; }
 
     [[noreturn]] void Refuse(const char* expected) const;
 
-    // Makes the tree null. What it holds stands so many containers below the one that is given up as a whole.
+    // Makes the tree null. The tree is `depth` containers below the one that is destroyed as a whole.
     void Clear(int depth = 0) noexcept
     {
         if (HoldsMemory())
@@ -209,6 +228,21 @@ private:
         ListNode m_list;
     };
 };
+
+// Members of the map that need the complete type of the children.
+
+template <std::input_iterator It, std::sentinel_for<It> End> void PropertyTreeMap::insert(It first, End last)
+{
+    for (; first != last; ++first)
+    {
+        insert(value_type(*first));
+    }
+}
+
+template <class... Arguments> std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::emplace(Arguments&&... arguments)
+{
+    return insert(value_type(std::forward<Arguments>(arguments)...));
+}
 
 } // namespace Ombrel
 

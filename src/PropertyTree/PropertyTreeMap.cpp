@@ -25,7 +25,7 @@ constexpr std::uint32_t BitOf(std::size_t slot)
 
 } // namespace
 
-PropertyTreeMap::Root* PropertyTreeMap::Root::Make(size_type capacity)
+PropertyTreeMap::Root* PropertyTreeMap::Root::Make(size_type capacity, const PropertyTreeMap* owner)
 {
     constexpr size_type bytesPerEntry =
         sizeof(value_type) + sizeof(std::uint64_t) + sizeof(value_type*) + sizeof(Leaf); // or less
@@ -36,7 +36,8 @@ PropertyTreeMap::Root* PropertyTreeMap::Root::Make(size_type capacity)
         throw std::length_error("tree: a map of so many entries cannot be");
     }
     const size_type bytes = sizeof(Root) + capacity * (sizeof(std::uint64_t) + sizeof(value_type)) + Index::RoomFor(capacity);
-    Root* root = ::new (::operator new(bytes)) Root{0, static_cast<std::uint32_t>(capacity), 0, nullptr, nullptr, nullptr};
+    Root* root =
+        ::new (::operator new(bytes)) Root{0, static_cast<std::uint32_t>(capacity), 0, nullptr, nullptr, nullptr, owner};
     root->end = root->Slots();
     return root;
 }
@@ -46,7 +47,7 @@ inline PropertyTreeMap::size_type PropertyTreeMap::Root::SlotsInUse() const noex
     return gaps == 0 ? size : size + static_cast<size_type>(std::popcount(gaps));
 }
 
-// Gives up the last slot in use, and the gaps before it.
+// Destroys the entry in the last slot in use, and with it the gaps before it.
 inline void PropertyTreeMap::Root::DropLast() noexcept
 {
     value_type* last = end - 1;
@@ -62,7 +63,7 @@ inline void PropertyTreeMap::Root::DropLast() noexcept
 
 PropertyTreeMap::PropertyTreeMap(const PropertyTreeMap& other) : PropertyTreeMap()
 {
-    PropertyTreeMapFiller copy(*this, other.size()); // the delegated-to constructor is done: a failure runs the destructor
+    PropertyTreeMapFiller copy(*this, other.size()); // if it fails, the destructor runs, as the default constructor is done
     for (const auto& [key, child] : other)
     {
         copy.Append(key, HeadOf(key)) = child;
@@ -87,7 +88,7 @@ void PropertyTreeMap::reserve(size_type count)
     {
         if (count != 0 && (!m_root || m_root->index || m_root->capacity < count))
         {
-            Root* root = Root::Make(count);
+            Root* root = Root::Make(count, this);
             clear();
             m_root = root;
         }
@@ -99,18 +100,6 @@ void PropertyTreeMap::reserve(size_type count)
         index->Widen(count, m_root->blocks);
         m_root->index = index;
     }
-}
-
-PropertyTreeMap::iterator PropertyTreeMap::find(std::string_view key) noexcept
-{
-    const Where where = Search(key);
-    return where.isThere ? At<iterator>(where) : end();
-}
-
-PropertyTreeMap::const_iterator PropertyTreeMap::find(std::string_view key) const noexcept
-{
-    const Where where = Search(key);
-    return where.isThere ? At<const_iterator>(where) : end();
 }
 
 bool PropertyTreeMap::contains(std::string_view key) const noexcept
@@ -130,7 +119,7 @@ const PropertyTree& PropertyTreeMap::at(std::string_view key) const
     {
         throw std::out_of_range("invalid map<K, T> key");
     }
-    return At<const_iterator>(where)->second;
+    return EntryAt(where).second;
 }
 
 PropertyTree& PropertyTreeMap::operator[](std::string_view key)
@@ -139,18 +128,38 @@ PropertyTree& PropertyTreeMap::operator[](std::string_view key)
     {
         return m_root->Append(head, m_root->SlotsInUse(), key).second;
     }
-    return At<iterator>(Insert(key))->second;
+    return EntryAt(Insert(key)).second;
 }
 
 std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::try_emplace(std::string_view key, PropertyTree&& value)
 {
     const Where where = Insert(key);
-    const iterator position = At<iterator>(where);
     if (!where.isThere)
     {
-        position->second = std::move(value);
+        EntryAt(where).second = std::move(value);
     }
-    return {position, !where.isThere};
+    return {iterator(At(where)), !where.isThere};
+}
+
+std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::try_emplace(std::string_view key, const PropertyTree& value)
+{
+    if (const Where where = Search(key); where.isThere)
+    {
+        return {iterator(At(where)), false};
+    }
+    return try_emplace(key, PropertyTree(value));
+}
+
+std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::insert_or_assign(std::string_view key, PropertyTree&& value)
+{
+    const Where where = Insert(key);
+    EntryAt(where).second = std::move(value);
+    return {iterator(At(where)), !where.isThere};
+}
+
+std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::insert_or_assign(std::string_view key, const PropertyTree& value)
+{
+    return insert_or_assign(key, PropertyTree(value));
 }
 
 std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::insert(value_type entry)
@@ -160,11 +169,7 @@ std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::insert(value_type en
 
 PropertyTreeMap::iterator PropertyTreeMap::erase(const_iterator position) noexcept
 {
-    if (m_root->index)
-    {
-        return EraseAt({static_cast<size_type>(position.m_leaf - FirstLeaf()), position.m_place});
-    }
-    return EraseAt({0, static_cast<size_type>(position.m_entry - m_root->Slots())});
+    return iterator(EraseAt(Locate(position.m_position)));
 }
 
 PropertyTreeMap::size_type PropertyTreeMap::erase(std::string_view key) noexcept
@@ -185,27 +190,54 @@ bool operator==(const PropertyTreeMap& a, const PropertyTreeMap& b)
                                               { return left.first == right.first && left.second == right.second; });
 }
 
-const PropertyTreeMap::Leaf* PropertyTreeMap::FirstLeaf() const noexcept
+PropertyTreeMap::Position PropertyTreeMap::Find(std::string_view key) const noexcept
 {
-    return m_root->index->FirstLeaf();
+    const Where where = Search(key);
+    return where.isThere ? At(where) : Position(this);
 }
 
-const PropertyTreeMap::Leaf* PropertyTreeMap::EndLeaf() const noexcept
+// The entry at this place or, if the place is behind the last entry of a leaf or is a gap, the next one.
+PropertyTreeMap::Position PropertyTreeMap::At(const Where& where) const noexcept
 {
-    return m_root->index->EndLeaf();
+    const Index* index = m_root->index;
+    if (!index)
+    {
+        value_type* slot = NotBefore(*m_root, m_root->Slots() + where.place);
+        return slot == m_root->end ? Position(this) : Position(slot, m_root);
+    }
+    const Leaf* leaf = &index->LeafAt(where.leaf);
+    size_type place = where.place;
+    if (place != 0 && place == leaf->count)
+    {
+        ++leaf;
+        place = 0;
+    }
+    if (leaf->count == 0) // behind the last leaf that is in use
+    {
+        return Position(this);
+    }
+    Position position(leaf->places[place], m_root);
+    position.leaf = static_cast<std::uint32_t>(leaf - index->FirstLeaf());
+    position.place = static_cast<std::uint32_t>(place);
+    return position;
+}
+
+PropertyTreeMap::value_type& PropertyTreeMap::EntryAt(const Where& where) const noexcept
+{
+    return m_root->index ? *m_root->index->LeafAt(where.leaf).places[where.place] : m_root->Slots()[where.place];
 }
 
 PropertyTreeMap::value_type* PropertyTreeMap::NotBefore(Root& root, const value_type* slot) noexcept
 {
     const auto place = static_cast<size_type>(slot - root.Slots());
-    const bool isLast = place == Index::GAPS_MAX; // behind all bits
-    return root.Slots() + place + (isLast ? 0 : std::countr_one(root.gaps >> place));
+    const bool hasBit = root.gaps != 0 && place != Index::GAPS_MAX;
+    return root.Slots() + place + (hasBit ? std::countr_one(root.gaps >> place) : 0);
 }
 
 PropertyTreeMap::value_type* PropertyTreeMap::NotBehind(Root& root, const value_type* slot) noexcept
 {
     const auto place = static_cast<size_type>(slot - root.Slots());
-    return root.Slots() + place - std::countl_one(root.gaps << (Index::GAPS_MAX - 1 - place));
+    return root.Slots() + place - (root.gaps != 0 ? std::countl_one(root.gaps << (Index::GAPS_MAX - 1 - place)) : 0);
 }
 
 PropertyTreeMap::Where PropertyTreeMap::Search(std::string_view key) const noexcept
@@ -225,13 +257,7 @@ PropertyTreeMap::Where PropertyTreeMap::Search(std::string_view key) const noexc
     return {0, place, isThere && !isGap, isGap};
 }
 
-template <class It> It PropertyTreeMap::At(const Where& where) const noexcept
-{
-    return m_root->index ? It(m_root->index->LeafAt(where), where.place)
-                         : It(m_root->gaps == 0 ? nullptr : m_root, m_root->Slots() + where.place);
-}
-
-// Whether an entry can be put behind the slots in use.
+// Whether an entry with this key can be added in the slot behind those in use.
 inline bool PropertyTreeMap::HasRoomAtEnd(std::string_view key, std::uint64_t head) const noexcept
 {
     if (!m_root || m_root->index)
@@ -258,7 +284,7 @@ PropertyTreeMap::Where PropertyTreeMap::Insert(std::string_view key)
     if (!m_root)
     {
         PropertyTreeMap first;
-        first.m_root = Root::Make(FIRST_CAPACITY);
+        first.m_root = Root::Make(FIRST_CAPACITY, &first);
         first.m_root->Append(head, 0, key);
         swap(first);
         return {};
@@ -277,7 +303,7 @@ PropertyTreeMap::Where PropertyTreeMap::Insert(std::string_view key)
     }
     else if (!where.isThere)
     {
-        std::string text(key); // first, so that nothing is left to fail once there is room
+        std::string text(key); // first, so that nothing can fail after room was made
         Index* index = m_root->index;
         if (!index)
         {
@@ -293,14 +319,14 @@ PropertyTreeMap::Where PropertyTreeMap::Insert(std::string_view key)
 }
 
 // Erases the entry and finds the next.
-PropertyTreeMap::iterator PropertyTreeMap::EraseAt(Where where) noexcept
+PropertyTreeMap::Position PropertyTreeMap::EraseAt(Where where) noexcept
 {
     if (!m_root->index)
     {
         if (where.place + 1 == m_root->SlotsInUse())
         {
             m_root->DropLast();
-            return end();
+            return Position(this);
         }
         if (m_root->capacity <= Index::GAPS_MAX)
         {
@@ -308,14 +334,14 @@ PropertyTreeMap::iterator PropertyTreeMap::EraseAt(Where where) noexcept
             slot->second = PropertyTree();
             m_root->gaps |= BitOf(where.place);
             --m_root->size;
-            return iterator(m_root, NotBefore(*m_root, slot));
+            return Position(NotBefore(*m_root, slot), m_root);
         }
         m_root->index = Index::MakeInRoom(*m_root);
         where = m_root->index->Find(where.place);
     }
     m_root->index->Erase(where);
     --m_root->size;
-    return At<iterator>(where);
+    return At(where);
 }
 
 PropertyTree& PropertyTreeMapFiller::Insert(PropertyTreeMap& map, std::string_view key)
@@ -332,7 +358,7 @@ PropertyTree& PropertyTreeMapFiller::Insert(PropertyTreeMap& map, std::string_vi
     Entry* const slot = root.Slots() + where.place;
     for (Entry* last = root.end; last != slot; --last)
     {
-        // The key is const for those who hold the entry, and nobody does.
+        // The key is const only for callers who hold a reference to the entry, and there are none.
         std::construct_at(last, std::move(const_cast<std::string&>(last[-1].first)), std::move(last[-1].second));
         std::destroy_at(last - 1);
     }
@@ -344,7 +370,7 @@ PropertyTree& PropertyTreeMapFiller::Insert(PropertyTreeMap& map, std::string_vi
     return std::construct_at(slot, std::move(text), PropertyTree())->second;
 }
 
-// Destroys the children here and not by their destructors, which would not know how deep they stand.
+// Destroys the children here and not in their destructors, which would not know how deep they are nested.
 void PropertyTreeMap::Release(int depth) noexcept
 {
     const auto destroy = [depth](value_type& entry)
@@ -352,9 +378,12 @@ void PropertyTreeMap::Release(int depth) noexcept
         entry.second.Clear(depth + 1);
         std::destroy_at(&entry);
     };
-    if (m_root->index)
+    if (const Index* index = m_root->index)
     {
-        std::for_each(begin(), end(), destroy);
+        std::for_each(
+            index->FirstLeaf(), index->EndLeaf(),
+            [&destroy](const Leaf& leaf)
+            { std::for_each(leaf.places, leaf.places + leaf.count, [&destroy](value_type* entry) { destroy(*entry); }); });
     }
     else
     {

@@ -3,6 +3,7 @@
 
 #include "OmbrelExport.h"
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -16,21 +17,30 @@ namespace Ombrel
 
 class PropertyTree;
 
-/// The children of a tree in the map state: `std::string` keys in byte order, the shorter first on a common prefix.
+/// What would become a text by way of a null pointer: `nullptr` and the literal 0. The other integers are no keys either.
+template <class T>
+concept PropertyTreeNoKey = std::integral<T> || std::same_as<T, std::nullptr_t>;
+
+/// The children of a tree in the map state: `std::string` keys in byte order, where a key comes before every longer key that
+/// begins with it.
 ///
-/// It has the manners of `std::map`, with a look-up by `std::string_view` that makes no string. An entry never moves: a
-/// reference to a key or a child lives until that entry is erased, through every insert and every other erase, and goes along
-/// when the map is moved or swapped. Iterators do not survive an insert or an erase; `erase` returns the next one. Inserting
-/// and copying either succeed or leave the map as it was; moving, swapping, erasing and destroying never throw, and erasing
-/// and destroying allocate nothing.
+/// The map behaves like `std::map`, and a look-up takes a `std::string_view` without making a string. An entry never moves in
+/// memory. References and iterators to an entry stay valid until that entry is erased: inserting, erasing other entries and
+/// `reserve` do not affect them, nor does `end()` change. When the map is moved or swapped, they go with the entries, and
+/// `end()` stays with the map. `clear` and assigning to the map invalidate all of them.
 ///
-/// The entries stand side by side in one block as long as they come in key order and there is room for them, so that such a
-/// map costs one allocation, beside one for each key of more characters than a `std::string` keeps in itself (15 on
-/// libstdc++). An empty map costs none. The memory of erased entries, in a small map with their keys, is kept for further ones;
-/// it is given back by `clear` and by destroying the map.
+/// Inserting and copying either succeed or leave the map as it was. Moving, swapping, erasing and destroying never throw, and
+/// erasing and destroying allocate nothing.
 ///
-/// Of n entries, finding one costs O(log n); inserting behind the last and erasing it O(1); inserting and erasing elsewhere
-/// O(log n) and the shift of a few hundred pointers, the first time O(n); copying, comparing and clearing O(n).
+/// The entries are stored next to each other in one block as long as they are added in key order and the block has room. Such a
+/// map costs one allocation, plus one for each key that is too long to be stored inside a `std::string` (more than 15
+/// characters on libstdc++). An empty map costs none. The memory of erased entries is kept for new entries; in a small map
+/// their keys are kept as well. `clear` and destroying the map free all memory.
+///
+/// For n entries, finding one takes O(log n). Inserting behind the last entry and erasing the last entry take O(1). Inserting
+/// and erasing elsewhere take O(log n) and a shift of a few hundred pointers; the first time they take O(n). Copying, comparing
+/// and clearing take O(n). A step of an iterator takes O(1), or O(log n) if entries were inserted or erased since the last
+/// step.
 ///
 /// Threads: as a standard container, many readers or one writer.
 class OMBREL_API PropertyTreeMap
@@ -45,10 +55,53 @@ public:
     using const_reference = const value_type&;
 
 private:
-    struct Leaf;
     struct Root;
 
-    // Steps along the slots of the entries as long as `m_leaf` is null, else along the pointers to them.
+    // What an iterator is made of. It asks the map for its neighbours at every step, so it survives every change of the map.
+    class Position
+    {
+    public:
+        Position() noexcept = default;
+        explicit Position(const PropertyTreeMap* end) noexcept : map(end) {}
+        Position(value_type* entryInUse, Root* itsRoot) noexcept : entry(entryInUse), root(itsRoot) {}
+
+        // Entry is value_type, whose size is not known here.
+        template <class Entry> void Next() noexcept
+        {
+            if (root->index || root->gaps != 0)
+            {
+                SearchNext();
+                return;
+            }
+            Entry* const next = static_cast<Entry*>(entry) + 1;
+            *this = next == root->end ? Position(root->owner) : Position(next, root);
+        }
+
+        template <class Entry> void Previous() noexcept
+        {
+            if (!entry || root->index || root->gaps != 0)
+            {
+                SearchPrevious();
+                return;
+            }
+            entry = static_cast<Entry*>(entry) - 1;
+        }
+
+        value_type* entry = nullptr; // null behind the last entry
+        union
+        {
+            const PropertyTreeMap* map = nullptr; // behind the last entry
+            Root* root;                           // of an entry: it stays the same when the map is moved
+        };
+        // Where the index had the entry when it was last looked at.
+        std::uint32_t leaf = 0;
+        std::uint32_t place = 0;
+
+    private:
+        void SearchNext() noexcept;
+        void SearchPrevious() noexcept;
+    };
+
     template <bool IsConst> class Iterator
     {
     public:
@@ -62,23 +115,15 @@ private:
 
         template <bool IsOtherConst>
         requires(IsConst && !IsOtherConst) Iterator(const Iterator<IsOtherConst>& other)
-        noexcept : m_entry(other.m_entry), m_leaf(other.m_leaf), m_place(other.m_place), m_gaps(other.m_gaps) {}
+        noexcept : m_position(other.m_position) {}
 
-        reference operator*() const noexcept { return *m_entry; }
-        pointer operator->() const noexcept { return m_entry; }
+        reference operator*() const noexcept { return *m_position.entry; }
+        pointer operator->() const noexcept { return m_position.entry; }
 
         Iterator& operator++() noexcept
         {
-            if (!m_leaf)
-            {
-                ++m_entry;
-                if (m_gaps)
-                {
-                    m_entry = NotBefore(*m_gaps, m_entry);
-                }
-                return *this;
-            }
-            return *this = Iterator(m_leaf, m_place + 1);
+            m_position.template Next<value_type>();
+            return *this;
         }
 
         Iterator operator++(int) noexcept
@@ -90,21 +135,8 @@ private:
 
         Iterator& operator--() noexcept
         {
-            if (!m_leaf)
-            {
-                --m_entry;
-                if (m_gaps)
-                {
-                    m_entry = NotBehind(*m_gaps, m_entry);
-                }
-                return *this;
-            }
-            if (m_place == 0)
-            {
-                --m_leaf;
-                m_place = m_leaf->count;
-            }
-            return *this = Iterator(m_leaf, m_place - 1);
+            m_position.template Previous<value_type>();
+            return *this;
         }
 
         Iterator operator--(int) noexcept
@@ -114,67 +146,83 @@ private:
             return before;
         }
 
-        friend bool operator==(const Iterator& a, const Iterator& b) noexcept { return a.m_entry == b.m_entry; }
+        friend bool operator==(const Iterator& a, const Iterator& b) noexcept
+        {
+            return a.m_position.entry == b.m_position.entry;
+        }
 
     private:
         friend PropertyTreeMap;
         template <bool> friend class Iterator;
 
-        Iterator(Root* gaps, pointer entry) noexcept : m_entry(entry), m_gaps(gaps) {}
+        explicit Iterator(const Position& position) noexcept : m_position(position) {}
 
-        // Behind a leaf's last entry comes the first of the next leaf, and behind the last leaf one that holds none.
-        Iterator(const Leaf* leaf, size_type place) noexcept : m_leaf(leaf), m_place(place)
-        {
-            if (m_place != 0 && m_place == m_leaf->count)
-            {
-                ++m_leaf;
-                m_place = 0;
-            }
-            m_entry = m_leaf->count == 0 ? nullptr : m_leaf->places[m_place];
-        }
-
-        pointer m_entry = nullptr;
-        const Leaf* m_leaf = nullptr;
-        size_type m_place = 0;
-        Root* m_gaps = nullptr; // if some of the slots are gaps
+        Position m_position;
     };
 
 public:
     using iterator = Iterator<false>;
     using const_iterator = Iterator<true>;
+    using reverse_iterator = std::reverse_iterator<iterator>;
+    using const_reverse_iterator = std::reverse_iterator<const_iterator>;
 
     PropertyTreeMap() noexcept = default;
     PropertyTreeMap(const PropertyTreeMap& other);
-    PropertyTreeMap(PropertyTreeMap&& other) noexcept : m_root(std::exchange(other.m_root, nullptr)) {}
+    PropertyTreeMap(PropertyTreeMap&& other) noexcept : m_root(std::exchange(other.m_root, nullptr)) { OwnRoot(); }
     ~PropertyTreeMap() { clear(); }
 
     PropertyTreeMap& operator=(const PropertyTreeMap& other);
     PropertyTreeMap& operator=(PropertyTreeMap&& other) noexcept;
 
-    void swap(PropertyTreeMap& other) noexcept { std::swap(m_root, other.m_root); }
+    void swap(PropertyTreeMap& other) noexcept
+    {
+        std::swap(m_root, other.m_root);
+        OwnRoot();
+        other.OwnRoot();
+    }
+
     friend void swap(PropertyTreeMap& a, PropertyTreeMap& b) noexcept { a.swap(b); }
 
     bool empty() const noexcept { return size() == 0; }
     size_type size() const noexcept { return m_root ? m_root->size : 0; }
 
-    iterator begin() noexcept { return First<iterator>(); }
-    iterator end() noexcept { return End<iterator>(); }
-    const_iterator begin() const noexcept { return First<const_iterator>(); }
-    const_iterator end() const noexcept { return End<const_iterator>(); }
+    iterator begin() noexcept { return iterator(First()); }
+    iterator end() noexcept { return iterator(Position(this)); }
+    const_iterator begin() const noexcept { return const_iterator(First()); }
+    const_iterator end() const noexcept { return const_iterator(Position(this)); }
     const_iterator cbegin() const noexcept { return begin(); }
     const_iterator cend() const noexcept { return end(); }
 
-    /// Makes room for `count` entries in one block, in an empty map for exactly so many: they will then cost no allocation
-    /// beside their keys, if they come in key order. On a map that has entries it is a hint.
-    /// @throws std::length_error for more than 2^32 - 1 in an empty map, or what no memory could hold
+    reverse_iterator rbegin() noexcept;
+    reverse_iterator rend() noexcept;
+    const_reverse_iterator rbegin() const noexcept;
+    const_reverse_iterator rend() const noexcept;
+    const_reverse_iterator crbegin() const noexcept;
+    const_reverse_iterator crend() const noexcept;
+
+    /// Makes room for `count` entries in one block, in an empty map for exactly so many: adding them in key order then
+    /// allocates nothing but their keys. On a map that has entries it is a hint.
+    /// @throws std::length_error for more than 2^32 - 1 in an empty map, or for more than memory can ever hold
     void reserve(size_type count);
 
     /// The entry under `key`, or `end()`.
-    iterator find(std::string_view key) noexcept;
-    const_iterator find(std::string_view key) const noexcept;
+    iterator find(std::string_view key) noexcept { return iterator(Find(key)); }
+    const_iterator find(std::string_view key) const noexcept { return const_iterator(Find(key)); }
 
     bool contains(std::string_view key) const noexcept;
     size_type count(std::string_view key) const noexcept { return contains(key) ? 1 : 0; }
+
+    /// The first entry whose key is not before `key`, or `end()`.
+    iterator lower_bound(std::string_view key) noexcept { return iterator(LowerBound(key)); }
+    const_iterator lower_bound(std::string_view key) const noexcept { return const_iterator(LowerBound(key)); }
+
+    /// The first entry whose key is after `key`, or `end()`.
+    iterator upper_bound(std::string_view key) noexcept { return iterator(UpperBound(key)); }
+    const_iterator upper_bound(std::string_view key) const noexcept { return const_iterator(UpperBound(key)); }
+
+    /// The range of the entries under `key`, which are one or none.
+    std::pair<iterator, iterator> equal_range(std::string_view key) noexcept;
+    std::pair<const_iterator, const_iterator> equal_range(std::string_view key) const noexcept;
 
     /// The child under `key`.
     /// @throws std::out_of_range "invalid map<K, T> key" if there is none
@@ -184,18 +232,75 @@ public:
     /// The child under `key`, inserted as a null tree if missing. A key that comes after all others is not searched for.
     PropertyTree& operator[](std::string_view key);
 
-    /// Inserts `value` under `key` unless the key is there already: then the map and `value` stay as they are.
+    /// Inserts `value` under `key`. If the key is there already, the map and `value` stay as they are. The result is the entry
+    /// and whether it is new, as it is for all of the following.
     std::pair<iterator, bool> try_emplace(std::string_view key, PropertyTree&& value);
+    std::pair<iterator, bool> try_emplace(std::string_view key, const PropertyTree& value);
+
+    /// Inserts `value` under `key`. If the key is there already, `value` replaces its child.
+    std::pair<iterator, bool> insert_or_assign(std::string_view key, PropertyTree&& value);
+    std::pair<iterator, bool> insert_or_assign(std::string_view key, const PropertyTree& value);
+
+    /// Inserts `entry` unless its key is there already.
     std::pair<iterator, bool> insert(value_type entry);
 
+    /// The same for the entries from `first` to the one before `last`. If one throws, those that were inserted before it stay.
+    template <std::input_iterator It, std::sentinel_for<It> End> void insert(It first, End last);
+
+    /// Inserts the entry that `arguments` construct unless its key is there already. Of a key and a value no pair is made.
+    template <class... Arguments> std::pair<iterator, bool> emplace(Arguments&&... arguments);
+
+    template <std::convertible_to<std::string_view> Key, class Value>
+    requires(!PropertyTreeNoKey<std::remove_cvref_t<Key>>) std::pair<iterator, bool> emplace(Key&& key, Value&& value)
+    {
+        return try_emplace(std::string_view(key), std::forward<Value>(value));
+    }
+
+    /// Erases the entry, and gives the one after it or `end()`.
     iterator erase(const_iterator position) noexcept;
+
+    /// Erases the entries from `first` to the one before `last`, and gives `last`.
+    iterator erase(const_iterator first, const_iterator last) noexcept;
+
+    /// Erases the entry under `key`, and gives how many that were: 1 or 0.
     size_type erase(std::string_view key) noexcept;
 
-    /// Erases all entries and gives back all memory.
+    /// Erases the entries for which `predicate` is true, and gives how many that were. If `predicate` throws, the entries that
+    /// were erased before stay erased.
+    template <class Predicate> friend size_type erase_if(PropertyTreeMap& map, Predicate predicate)
+    {
+        const size_type before = map.size();
+        for (iterator position = map.begin(); position != map.end();)
+        {
+            position = predicate(*position) ? map.erase(position) : std::next(position);
+        }
+        return before - map.size();
+    }
+
+    /// Erases all entries and frees all memory.
     void clear() noexcept { Clear(0); }
 
     /// Equal keys with equal children.
     friend OMBREL_API bool operator==(const PropertyTreeMap& a, const PropertyTreeMap& b);
+
+    // A null pointer, or a literal 0, is no key.
+    template <PropertyTreeNoKey Key> void find(Key) = delete;
+    template <PropertyTreeNoKey Key> void find(Key) const = delete;
+    template <PropertyTreeNoKey Key> void contains(Key) const = delete;
+    template <PropertyTreeNoKey Key> void count(Key) const = delete;
+    template <PropertyTreeNoKey Key> void lower_bound(Key) = delete;
+    template <PropertyTreeNoKey Key> void lower_bound(Key) const = delete;
+    template <PropertyTreeNoKey Key> void upper_bound(Key) = delete;
+    template <PropertyTreeNoKey Key> void upper_bound(Key) const = delete;
+    template <PropertyTreeNoKey Key> void equal_range(Key) = delete;
+    template <PropertyTreeNoKey Key> void equal_range(Key) const = delete;
+    template <PropertyTreeNoKey Key> void at(Key) = delete;
+    template <PropertyTreeNoKey Key> void at(Key) const = delete;
+    template <PropertyTreeNoKey Key> void operator[](Key) = delete;
+    template <PropertyTreeNoKey Key, class Value> void try_emplace(Key, Value&&) = delete;
+    template <PropertyTreeNoKey Key, class Value> void insert_or_assign(Key, Value&&) = delete;
+    template <PropertyTreeNoKey Key, class Value> void emplace(Key, Value&&) = delete;
+    template <PropertyTreeNoKey Key> void erase(Key) = delete;
 
 private:
     friend PropertyTree;
@@ -215,10 +320,17 @@ private:
         size_type capacity;
     };
 
-    // The head of the first block. Behind it stand the heads of the keys, and behind these the slots.
+    // What an index begins with. It is here so that a debugger finds it in every program.
+    struct LeafRow
+    {
+        Leaf* row;       // and behind them one without places
+        size_type inUse; // leaves that have entries; they come first
+    };
+
+    // The header of the first block. The heads of the keys follow it, and the slots follow these.
     struct Root
     {
-        static Root* Make(size_type capacity);
+        static Root* Make(size_type capacity, const PropertyTreeMap* owner);
 
         std::uint64_t* Heads() noexcept { return reinterpret_cast<std::uint64_t*>(this + 1); }
         value_type* Slots() noexcept { return reinterpret_cast<value_type*>(Heads() + capacity); }
@@ -227,52 +339,51 @@ private:
         template <class... KeyArguments> value_type& Append(std::uint64_t head, size_type slot, const KeyArguments&... key);
         void DropLast() noexcept;
 
-        size_type size;         // entries
-        std::uint32_t capacity; // slots in this block
-        std::uint32_t gaps;     // a bit for each slot whose entry was erased but for its key
-        value_type* end;        // of the slots in use, as long as there is no index
-        Index* index;           // null as long as the entries stand in order in the first slots
-        Block* blocks;          // what was allocated after this one
+        size_type size;               // entries
+        std::uint32_t capacity;       // slots in this block
+        std::uint32_t gaps;           // a bit for each slot whose entry was erased while its key was kept
+        value_type* end;              // of the slots in use, as long as there is no index
+        Index* index;                 // null as long as the entries are in order in the first slots
+        Block* blocks;                // those that were allocated after this one
+        const PropertyTreeMap* owner; // whose entries these are
     };
 
-    template <class It> It First() const noexcept
+    // For a root that was another map's.
+    void OwnRoot() noexcept
     {
-        if (!m_root)
+        if (m_root)
         {
-            return It();
+            m_root->owner = this;
         }
-        if (m_root->index)
-        {
-            return It(FirstLeaf(), 0);
-        }
-        value_type* first = m_root->Slots();
-        return m_root->gaps == 0 ? It(nullptr, first) : It(m_root, NotBefore(*m_root, first));
     }
 
-    template <class It> It End() const noexcept
-    {
-        if (!m_root)
-        {
-            return It();
-        }
-        return m_root->index ? It(EndLeaf(), 0) : It(m_root->gaps == 0 ? nullptr : m_root, m_root->end);
-    }
-
-    const Leaf* FirstLeaf() const noexcept;
-    const Leaf* EndLeaf() const noexcept;
-
-    // The nearest slot from this one on that is no gap.
+    // The nearest slot from this one on that is not a gap, in either direction.
     static value_type* NotBefore(Root& root, const value_type* slot) noexcept;
     static value_type* NotBehind(Root& root, const value_type* slot) noexcept;
 
+    Position First() const noexcept
+    {
+        if (m_root && !m_root->index && m_root->gaps == 0 && m_root->size != 0)
+        {
+            return Position(m_root->Slots(), m_root);
+        }
+        return SearchFirst();
+    }
+
+    Position SearchFirst() const noexcept;
+    Position Find(std::string_view key) const noexcept;
+    Position LowerBound(std::string_view key) const noexcept;
+    Position UpperBound(std::string_view key) const noexcept;
+    Position At(const Where& where) const noexcept;
+    Where Locate(const Position& position) const noexcept;
     Where Search(std::string_view key) const noexcept;
-    template <class It> It At(const Where& where) const noexcept;
+    value_type& EntryAt(const Where& where) const noexcept;
     bool HasRoomAtEnd(std::string_view key, std::uint64_t head) const noexcept;
     Where Insert(std::string_view key);
-    iterator EraseAt(Where where) noexcept;
+    Position EraseAt(Where where) noexcept;
     void Release(int depth) noexcept;
 
-    // The map stands so many containers below the one that is given up as a whole.
+    // The map is `depth` containers below the one that is destroyed as a whole.
     void Clear(int depth) noexcept
     {
         if (m_root)

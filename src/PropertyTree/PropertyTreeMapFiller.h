@@ -26,13 +26,13 @@ PropertyTreeMap::value_type& PropertyTreeMap::Root::Append(std::uint64_t head, s
     return *entry;
 }
 
-/// Fills an empty map in key order. Whoever copies a map or has sorted the keys knows what `operator[]` finds out anew for
-/// each: that there is room, that the entries stand in order and that the key is the last.
+/// Fills an empty map in key order. A caller that copies a map or has sorted the keys knows what `operator[]` has to find out
+/// for every key: that there is room and that the key comes after all others.
 class PropertyTreeMapFiller
 {
 public:
-    /// @param map without entries; nothing else is added while it is filled
-    /// @param count how many entries there will be room for
+    /// @param map without entries; nothing else is added to it while it is filled
+    /// @param count how many entries it gets room for
     /// @throws std::bad_alloc, std::length_error as `reserve`
     PropertyTreeMapFiller(PropertyTreeMap& map, std::size_t count)
     {
@@ -41,31 +41,30 @@ public:
     }
 
     /// Adds a null child.
-    /// @param key comes after all that are there
+    /// @param key comes after all keys of the map
     /// @param head of the key
-    /// @throws std::bad_alloc, without the child, if the key is too long for a `std::string` to keep in itself
+    /// @throws std::bad_alloc, without the child, if the key is too long to be stored inside a `std::string`
     PropertyTree& Append(std::string_view key, std::uint64_t head) { return m_root->Append(head, m_root->size, key).second; }
 
-    /// The same for a key of at most SHORT_KEY characters, to which `text` is filled up with zeros: so many are copied faster
-    /// than any other number that is not a constant.
+    /// The same for a key of at most SHORT_KEY characters. `text` is padded to SHORT_KEY characters, since copying a constant
+    /// number of characters is faster.
     PropertyTree& AppendShort(const char* text, std::size_t size, std::uint64_t head)
     {
         auto& [key, child] = m_root->Append(head, m_root->size, text, SHORT_KEY);
-        const_cast<std::string&>(key).resize(std::min(size, SHORT_KEY)); // so that it is seen not to grow
+        const_cast<std::string&>(key).resize(std::min(size, SHORT_KEY)); // so that the compiler sees that it never grows
         return child;
     }
 
-    /// The same in a map that may have entries, as its `operator[]`, but moves those behind the new one where that saves
-    /// memory.
-    /// @param map to whose entries nobody holds a reference
+    /// Does what `operator[]` of a map does, but moves the entries behind the new one where that saves memory.
+    /// @param map to whose entries nobody holds a reference or an iterator
     static PropertyTree& Insert(PropertyTreeMap& map, std::string_view key);
 
 private:
     PropertyTreeMap::Root* m_root;
 };
 
-/// Calls `visit` with a walk through the entries of a map in key order: one that knows the heads of their keys and steps from
-/// slot to slot if the map is as it was filled, else one along its iterators.
+/// Calls `visit` with a walk through the entries of a map in key order. If the map is as it was filled, the walk steps from
+/// slot to slot and has the heads of the keys; else it uses iterators.
 class PropertyTreeMapWalk
 {
 public:

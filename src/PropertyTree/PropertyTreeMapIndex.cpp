@@ -12,7 +12,7 @@ namespace
 
 using Entry = PropertyTreeMap::value_type;
 
-// Nothing that is put behind something else in a block needs a gap.
+// What follows something else in a block needs no padding before it.
 static_assert(alignof(Entry) == alignof(void*) && sizeof(Entry) % alignof(void*) == 0);
 
 // Makes the places point to the slots in order.
@@ -62,13 +62,13 @@ PropertyTreeMap::Index* PropertyTreeMap::Index::MakeInRoom(Root& root) noexcept
         const size_type end = (i + 1) * root.capacity / total;
         const size_type count = std::clamp(root.size, begin, end) - begin;
         leaves[i] = {places + begin, root.Heads() + begin, count, end - begin};
-        index->m_used += count == 0 ? 0 : 1;
+        index->inUse += count == 0 ? 0 : 1;
     }
     leaves[total] = {};
     return index;
 }
 
-// In a second block, with the slots that the first one lacks.
+// In a second block, which also has the slots that the first one lacks.
 PropertyTreeMap::Index* PropertyTreeMap::Index::MakeBeside(Root& root, size_type capacity)
 {
     const size_type indexBytes = sizeof(Index) + 2 * sizeof(Leaf);
@@ -100,19 +100,19 @@ PropertyTreeMap::Index* PropertyTreeMap::Index::MakeBeside(Root& root, size_type
     PointTo(slots, capacity - root.capacity, free);
     root.gaps = 0;
     Index* index = ::new (static_cast<void*>(block + 1)) Index(leaves, 1);
-    index->m_used = 1;
+    index->inUse = 1;
     return index;
 }
 
-PropertyTreeMap::Where PropertyTreeMap::Index::Find(size_type place) const noexcept
+PropertyTreeMap::Where PropertyTreeMap::Index::Find(size_type number) const noexcept
 {
     size_type leaf = 0;
-    while (leaf + 1 < m_used && place >= m_leaves[leaf].count)
+    while (leaf + 1 < inUse && number >= row[leaf].count)
     {
-        place -= m_leaves[leaf].count;
+        number -= row[leaf].count;
         ++leaf;
     }
-    return {leaf, place};
+    return {leaf, number};
 }
 
 PropertyTreeMap::Where PropertyTreeMap::Index::Find(std::string_view key) const noexcept
@@ -120,18 +120,41 @@ PropertyTreeMap::Where PropertyTreeMap::Index::Find(std::string_view key) const 
     const auto comesAfter = [key, head = HeadOf(key)](const Leaf& leaf)
     { return head != leaf.heads[0] ? head < leaf.heads[0] : key < leaf.places[0]->first; };
     // The last leaf that begins with this key or one before it, else the first.
-    const Leaf* next = std::partition_point(m_leaves, m_leaves + m_used, std::not_fn(comesAfter));
-    const Leaf& leaf = next == m_leaves ? *next : next[-1];
+    const Leaf* next = std::partition_point(row, row + inUse, std::not_fn(comesAfter));
+    const Leaf& leaf = next == row ? *next : next[-1];
     const auto [place, isThere] = PlaceAmong(leaf.heads, leaf.count, key, [&leaf](size_type i) { return leaf.places[i]; });
-    return {static_cast<size_type>(&leaf - m_leaves), place, isThere};
+    return {static_cast<size_type>(&leaf - row), place, isThere};
+}
+
+// Whether the entry is still where it was when the position was made.
+bool PropertyTreeMap::Index::IsAt(const Position& position) const noexcept
+{
+    return position.leaf < inUse && position.place < row[position.leaf].count &&
+           row[position.leaf].places[position.place] == position.entry;
+}
+
+PropertyTreeMap::Where PropertyTreeMap::Index::Locate(const Position& position) const noexcept
+{
+    return IsAt(position) ? Where{position.leaf, position.place} : Find(position.entry->first);
+}
+
+bool PropertyTreeMap::Index::StepInLeaf(Position& position) const noexcept
+{
+    if (!IsAt(position) || position.place + 1 == row[position.leaf].count)
+    {
+        return false;
+    }
+    ++position.place;
+    position.entry = row[position.leaf].places[position.place];
+    return true;
 }
 
 void PropertyTreeMap::Index::MakeRoom(Where& where, Block*& blocks)
 {
-    const Leaf& leaf = m_leaves[where.leaf];
-    if (m_used == 0)
+    const Leaf& leaf = row[where.leaf];
+    if (inUse == 0)
     {
-        m_used = 1;
+        inUse = 1;
     }
     else if (leaf.count == leaf.capacity)
     {
@@ -147,13 +170,13 @@ void PropertyTreeMap::Index::MakeRoom(Where& where, Block*& blocks)
 
 void PropertyTreeMap::Index::Widen(size_type capacity, Block*& blocks)
 {
-    const Leaf narrow = m_leaves[0];
+    const Leaf narrow = row[0];
     if (m_total == 1 && narrow.capacity < capacity)
     {
-        m_leaves[0] = MakeLeaf(capacity, capacity - narrow.capacity, blocks);
-        m_leaves[0].count = narrow.count;
-        std::copy_n(narrow.heads, narrow.count, m_leaves[0].heads);
-        std::copy_n(narrow.places, narrow.capacity, m_leaves[0].places);
+        row[0] = MakeLeaf(capacity, capacity - narrow.capacity, blocks);
+        row[0].count = narrow.count;
+        std::copy_n(narrow.heads, narrow.count, row[0].heads);
+        std::copy_n(narrow.places, narrow.capacity, row[0].places);
     }
 }
 
@@ -168,40 +191,40 @@ PropertyTreeMap::Leaf PropertyTreeMap::Index::MakeLeaf(size_type capacity, size_
     return {places, heads, 0, capacity};
 }
 
-// Sees to it that there is an empty leaf.
+// Makes sure that there is an empty leaf.
 void PropertyTreeMap::Index::AddLeaf(Block*& blocks)
 {
-    if (m_used < m_total)
+    if (inUse < m_total)
     {
         return;
     }
     if (m_total == m_room)
     {
-        Leaf* row = Behind<Leaf>(Block::Make((2 * m_room + 1) * sizeof(Leaf), blocks), sizeof(Block));
-        std::copy_n(m_leaves, m_total + 1, row);
-        m_leaves = row;
+        Leaf* longer = Behind<Leaf>(Block::Make((2 * m_room + 1) * sizeof(Leaf), blocks), sizeof(Block));
+        std::copy_n(row, m_total + 1, longer);
+        row = longer;
         m_room *= 2;
     }
-    m_leaves[m_total] = MakeLeaf(LEAF_MAX, LEAF_MAX, blocks);
-    m_leaves[++m_total] = {};
+    row[m_total] = MakeLeaf(LEAF_MAX, LEAF_MAX, blocks);
+    row[++m_total] = {};
 }
 
-// Puts an empty leaf beside the full one and half of the entries into it; none where keys come in rising or in falling order,
-// so that the leaves that they leave behind are full.
+// Puts an empty leaf next to the full one and moves half of the entries into it. Where keys are added in rising or falling
+// order it moves none, so that the leaves stay full.
 void PropertyTreeMap::Index::Split(Where& where) noexcept
 {
-    Leaf& full = m_leaves[where.leaf];
-    Leaf& empty = m_leaves[m_used];
+    Leaf& full = row[where.leaf];
+    Leaf& empty = row[inUse];
     const bool isFirst = where.leaf == 0 && where.place == 0;
-    const bool isLast = where.leaf + 1 == m_used && where.place == full.count;
+    const bool isLast = where.leaf + 1 == inUse && where.place == full.count;
     if (!isFirst && !isLast)
     {
         MoveEntries(full, full.count - full.count / 2, empty);
     }
     const size_type kept = full.count;
     const size_type target = isFirst ? 0 : where.leaf + 1;
-    std::rotate(m_leaves + target, m_leaves + m_used, m_leaves + m_used + 1);
-    ++m_used;
+    std::rotate(row + target, row + inUse, row + inUse + 1);
+    ++inUse;
     if (isLast || where.place > kept)
     {
         where = {target, where.place - kept};
@@ -210,7 +233,7 @@ void PropertyTreeMap::Index::Split(Where& where) noexcept
 
 void PropertyTreeMap::Index::Insert(const Where& where, std::string&& key) noexcept
 {
-    Leaf& leaf = m_leaves[where.leaf];
+    Leaf& leaf = row[where.leaf];
     value_type** place = leaf.places + where.place;
     std::uint64_t* head = leaf.heads + where.place;
     std::rotate(place, leaf.places + leaf.count, leaf.places + leaf.count + 1);
@@ -222,7 +245,7 @@ void PropertyTreeMap::Index::Insert(const Where& where, std::string&& key) noexc
 
 void PropertyTreeMap::Index::Erase(Where& where) noexcept
 {
-    Leaf& leaf = m_leaves[where.leaf];
+    Leaf& leaf = row[where.leaf];
     value_type** place = leaf.places + where.place;
     std::uint64_t* head = leaf.heads + where.place;
     std::destroy_at(*place);
@@ -239,12 +262,12 @@ void PropertyTreeMap::Index::Erase(Where& where) noexcept
     }
     else if (where.leaf != 0 && CanJoin(where.leaf - 1))
     {
-        where = {where.leaf - 1, where.place + m_leaves[where.leaf - 1].count};
+        where = {where.leaf - 1, where.place + row[where.leaf - 1].count};
         Join(where.leaf);
     }
 }
 
-// Moves the entries from `first` on behind those of `to`, and as many free slots back.
+// Moves the entries from `first` on behind those of `to`, and as many free slots in the other direction.
 void PropertyTreeMap::Index::MoveEntries(Leaf& from, size_type first, Leaf& to) noexcept
 {
     const size_type count = from.count - first;
@@ -254,23 +277,23 @@ void PropertyTreeMap::Index::MoveEntries(Leaf& from, size_type first, Leaf& to) 
     from.count = first;
 }
 
-// Whether the leaf and the next one are so empty that both fit into one with much room left.
+// Whether the entries of the leaf and the next one fit into one leaf with much room left.
 bool PropertyTreeMap::Index::CanJoin(size_type leaf) const noexcept
 {
-    return leaf + 1 < m_used && m_leaves[leaf].count + m_leaves[leaf + 1].count <= LEAF_MIN / 2;
+    return leaf + 1 < inUse && row[leaf].count + row[leaf + 1].count <= LEAF_MIN / 2;
 }
 
 void PropertyTreeMap::Index::Join(size_type leaf) noexcept
 {
-    MoveEntries(m_leaves[leaf + 1], 0, m_leaves[leaf]);
+    MoveEntries(row[leaf + 1], 0, row[leaf]);
     Drop(leaf + 1);
 }
 
 // Puts a leaf that has become empty behind those in use.
 void PropertyTreeMap::Index::Drop(size_type leaf) noexcept
 {
-    std::rotate(m_leaves + leaf, m_leaves + leaf + 1, m_leaves + m_used);
-    --m_used;
+    std::rotate(row + leaf, row + leaf + 1, row + inUse);
+    --inUse;
 }
 
 } // namespace Ombrel

@@ -11,26 +11,27 @@
 #include <string_view>
 #include <utility>
 
-// How the entries are kept. The first block has slots for exactly as many entries as were asked for, and as long as the entries
-// come in key order they fill these slots in that order: the slots themselves are walked. The heads of the keys, their first
-// eight characters as a number, stand side by side: these are searched, and a key itself is looked at only where its head is
-// the one that is wanted.
+// How the entries are stored. The first block has slots for exactly as many entries as were asked for. As long as the entries
+// are added in key order, they fill these slots in that order, and iterating steps from slot to slot. The heads of the keys,
+// their first eight characters as a number, form an array of their own: a search compares the heads, and looks at a key itself
+// only where its head equals the wanted one.
 //
-// An entry that is erased before the end leaves a gap in a small block: its child goes, its key stays, and a bit says so. That
-// takes no memory, and the same key can come back. A large block has room for an index of pointers instead, made when the
-// first entry goes, so that erasing never allocates. And the first entry that comes out of order or finds no slot makes such
-// an index, in that room or in a second block; from then on the entries stand anywhere and only pointers move.
+// An entry that is erased before the end leaves a gap in a small block: its child is destroyed, its key stays, and a bit marks
+// the slot. This takes no memory, and the same key can come back. A large block reserves room for an index of pointers instead.
+// The index is made when the first entry before the end is erased, so erasing never allocates. The first entry that is added
+// out of order, or finds no slot, also makes an index, in that room or in a second block. From then on the entries are in any
+// order in memory and only pointers move.
 //
-// The index is cut into leaves of a few hundred pointers, so that no shift is long; the heads stand beside the pointers. A leaf
-// has a pointer for each of its slots, whether an entry is there or not: the first ones lead to the entries in key order and
-// the others to the free slots. The leaves are arranged alike, first those in use and then the empty ones. So an insert takes
-// the pointer behind the entries and rotates it into its place, an erase rotates one out, two leaves are split or joined by
-// swapping pointers, and what is free needs no list of its own.
+// The index is divided into leaves of a few hundred pointers, so that no shift is long; the heads are stored beside the
+// pointers. A leaf has one pointer for each of its slots, used or not: the first ones point to the entries in key order and the
+// others to the free slots. The leaves are arranged in the same way, those in use first and the empty ones after them. So an
+// insert takes the pointer behind the entries and rotates it into its place, an erase rotates one out, leaves are split and
+// joined by swapping pointers, and the free slots need no list of their own.
 
 namespace Ombrel
 {
 
-/// Where an entry is or belongs: the place in a leaf or, as long as there is no index, the number of the slot.
+/// Where an entry is or would be inserted: the place in a leaf or, as long as there is no index, the number of the slot.
 struct PropertyTreeMap::Where
 {
     size_type leaf = 0;
@@ -39,7 +40,7 @@ struct PropertyTreeMap::Where
     bool isGap = false; // of this key
 };
 
-/// The head of every block but the first: that of a leaf's slots and places, or of a longer row of leaves.
+/// The header of every block but the first. It holds a leaf's slots and places, or a longer row of leaves.
 struct PropertyTreeMap::Block
 {
     static Block* Make(size_type bytes, Block*& blocks);
@@ -47,41 +48,47 @@ struct PropertyTreeMap::Block
     Block* next;
 };
 
-class PropertyTreeMap::Index
+class PropertyTreeMap::Index : private LeafRow
 {
 public:
     // A leaf that is alone grows until it has LEAF_MIN places or more; beside others it has at most LEAF_MAX. So half of any
-    // full leaf goes into any empty one, and leaves room there.
+    // full leaf fits into any empty one, and leaves room there.
     static constexpr size_type LEAF_MIN = 256;
     static constexpr size_type LEAF_MAX = 2 * LEAF_MIN - 1;
 
-    // A block of so many slots has a bit for each of them that may be a gap, and no room for an index.
+    // A block of at most so many slots has a bit for each slot that may be a gap, and no room for an index.
     static constexpr size_type GAPS_MAX = 32;
 
     /// How many bytes the first block has behind its slots.
     static size_type RoomFor(size_type capacity) noexcept;
 
-    /// Makes the index of the entries that stand in the slots of `root`, which does not get to know of it; the gaps are free
-    /// slots then. Throws, with the entries as they were, if there is no memory for a second block.
-    /// @param count with small blocks, so many entries will fit
+    /// Makes the index of the entries in the slots of `root`; the gaps become free slots. The caller stores it in `root`. If
+    /// there is no memory for a second block, it throws and leaves the entries as they were.
+    /// @param count how many entries it has room for beside a small first block
     static Index* Make(Root& root, size_type count);
 
     /// The same for a block that has room for it.
     static Index* MakeInRoom(Root& root) noexcept;
 
-    const Leaf* FirstLeaf() const noexcept { return m_leaves; }
-    const Leaf* EndLeaf() const noexcept { return m_leaves + m_used; }
-    const Leaf* LeafAt(const Where& where) const noexcept { return m_leaves + where.leaf; }
+    const Leaf* FirstLeaf() const noexcept { return row; }
+    const Leaf* EndLeaf() const noexcept { return row + inUse; }
+    const Leaf& LeafAt(size_type leaf) const noexcept { return row[leaf]; }
 
-    /// @param place in the row of all entries
-    Where Find(size_type place) const noexcept;
+    /// @param number of the entry among all entries
+    Where Find(size_type number) const noexcept;
     Where Find(std::string_view key) const noexcept;
 
-    /// Gives the leaf, if it is the only one, at least `capacity` slots, of which there may be LEAF_MAX, or throws and changes
-    /// nothing.
+    /// Where the entry is now. This takes no search if no entry has moved in the index since the position was made.
+    Where Locate(const Position& position) const noexcept;
+
+    /// Steps to the next entry, if that takes no search and it is in the same leaf.
+    bool StepInLeaf(Position& position) const noexcept;
+
+    /// Gives the leaf, if it is the only one, at least `capacity` slots, of which there may be LEAF_MAX. If that throws,
+    /// nothing has changed.
     void Widen(size_type capacity, Block*& blocks);
 
-    /// Sees to it that the leaf of `where` has a free slot, or throws and changes nothing.
+    /// Makes sure that the leaf of `where` has a free slot. If that throws, nothing has changed.
     void MakeRoom(Where& where, Block*& blocks);
 
     /// Needs a free slot in the leaf.
@@ -91,7 +98,9 @@ public:
     void Erase(Where& where) noexcept;
 
 private:
-    Index(Leaf* leaves, size_type total) noexcept : m_leaves(leaves), m_total(total), m_room(total) {}
+    bool IsAt(const Position& position) const noexcept;
+
+    Index(Leaf* leaves, size_type total) noexcept : LeafRow{leaves, 0}, m_total(total), m_room(total) {}
 
     static size_type LeavesFor(size_type capacity) noexcept;
     static Index* MakeBeside(Root& root, size_type capacity);
@@ -105,13 +114,12 @@ private:
     void Join(size_type leaf) noexcept;
     void Drop(size_type leaf) noexcept;
 
-    Leaf* m_leaves;       // and behind them one without places
-    size_type m_used = 0; // of them, those with entries; they come first
-    size_type m_total;    // leaves
-    size_type m_room;     // for so many leaves
+    size_type m_total; // leaves, with and without entries
+    size_type m_room;  // leaves for which the row has room
 };
 
-/// The place among `count` entries, which `entryAt` finds, where `key` is or belongs, and whether it is there.
+/// The place among `count` entries where `key` is or would be inserted, and whether it is there. `entryAt` gives the entry at a
+/// place.
 template <class EntryAt>
 std::pair<std::size_t, bool> PlaceAmong(const std::uint64_t* heads, std::size_t count, std::string_view key,
                                         const EntryAt& entryAt) noexcept
@@ -121,14 +129,14 @@ std::pair<std::size_t, bool> PlaceAmong(const std::uint64_t* heads, std::size_t 
     for (std::size_t rest = count; rest != 0;)
     {
         const std::size_t half = (rest + 1) / 2;
-        first += heads[first + half - 1] < head ? half : 0; // no branch: it could not be foretold
+        first += heads[first + half - 1] < head ? half : 0; // without a branch, which would be mispredicted
         rest -= half;
     }
     if (first == count || heads[first] != head)
     {
         return {first, false};
     }
-    std::size_t end = first + 1; // of those with the same head, mostly this one alone
+    std::size_t end = first + 1; // of the entries with this head, which mostly is only one
     if (end != count && heads[end] == head)
     {
         end = static_cast<std::size_t>(std::upper_bound(heads + end, heads + count, head) - heads);
@@ -147,7 +155,7 @@ std::pair<std::size_t, bool> PlaceAmong(const std::uint64_t* heads, std::size_t 
     return {first, false};
 }
 
-/// What stands so many bytes behind `start`.
+/// The object that is `bytes` behind `start`.
 template <class T> T* Behind(void* start, std::size_t bytes) noexcept
 {
     return reinterpret_cast<T*>(static_cast<std::byte*>(start) + bytes);

@@ -5,13 +5,30 @@
 
 #include <bit>
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <new>
 #include <string>
+#include <string_view>
+#include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace Ombrel
 {
+
+/// A type of single characters. They make no scalar, since the number that they are for the language is not what the caller
+/// means. `signed char` and `unsigned char` are 8-bit integers.
+template <class T>
+concept PropertyTreeCharacter = std::same_as<T, char> || std::same_as<T, wchar_t> || std::same_as<T, char8_t> ||
+    std::same_as<T, char16_t> || std::same_as<T, char32_t>;
+
+/// A type whose values are bools though it is not `bool`: an element of a `std::vector<bool>`, `std::true_type`,
+/// `std::false_type` and what derives from these.
+template <class T>
+concept PropertyTreeBoolLike =
+    std::same_as<T, std::vector<bool>::reference> || std::same_as<T, std::vector<bool>::const_reference> ||
+    std::derived_from<T, std::true_type> || std::derived_from<T, std::false_type>;
 
 /// One leaf of a stored tree: a bool, a signed 64-bit integer, a 64-bit float or a string.
 ///
@@ -31,10 +48,14 @@ public:
 
     PropertyTreeScalar(std::same_as<bool> auto value) noexcept : m_kind(Number(Kind::Bool)), m_bits(value) {}
 
+    template <PropertyTreeBoolLike T>
+    requires(!std::same_as<T, bool>) PropertyTreeScalar(const T& value)
+    noexcept : PropertyTreeScalar(static_cast<bool>(value)) {}
+
     /// Widens to 64 bits: sign-extended from a signed type, zero-extended from an unsigned one. An unsigned 64-bit value
-    /// above the signed range stands as the negative integer of the same bits.
+    /// above the signed range becomes the negative integer with the same bits.
     template <std::integral T>
-    requires(!std::same_as<T, bool>) PropertyTreeScalar(T value)
+    requires(!std::same_as<T, bool> && !PropertyTreeCharacter<T>) PropertyTreeScalar(T value)
     noexcept : m_kind(Number(Kind::Integer)), m_bits(static_cast<std::uint64_t>(value)) {}
 
     PropertyTreeScalar(std::floating_point auto value) noexcept
@@ -46,6 +67,11 @@ public:
 
     /// Copies up to the terminating zero; `text` must not be null.
     PropertyTreeScalar(const char* text) : PropertyTreeScalar(std::string(text)) {}
+
+    PropertyTreeScalar(std::string_view text) : PropertyTreeScalar(std::string(text)) {}
+
+    PropertyTreeScalar(std::nullptr_t) = delete;
+    template <PropertyTreeCharacter T> PropertyTreeScalar(T) = delete;
 
     PropertyTreeScalar(const PropertyTreeScalar& other) : PropertyTreeScalar(other, other.m_text) {}
     PropertyTreeScalar(PropertyTreeScalar&& other) noexcept : PropertyTreeScalar(other, std::move(other.m_text)) {}
@@ -78,7 +104,7 @@ public:
     /// @throws std::invalid_argument on a bool or a string
     double toDouble() const;
 
-    /// The stored string itself: the reference lives until this scalar is assigned or destroyed.
+    /// The stored string itself: the reference is valid until this scalar is assigned or destroyed.
     /// @throws std::invalid_argument on any other kind
     const std::string& toString() const;
 
@@ -100,7 +126,7 @@ public:
 private:
     static constexpr std::uint8_t Number(Kind kind) { return static_cast<std::uint8_t>(kind); }
 
-    // `text` is that of `other`, if it has one.
+    // `text` is that of `other`; it is used only if `other` is a string.
     template <class Text> PropertyTreeScalar(const PropertyTreeScalar& other, Text&& text) : m_kind(other.m_kind)
     {
         if (IsText())
@@ -118,7 +144,7 @@ private:
     std::int64_t Integer() const noexcept { return static_cast<std::int64_t>(m_bits); }
     double Float() const noexcept { return std::bit_cast<double>(m_bits); }
 
-    // The kind's number stands first and as a plain byte: a tree reads its own state from the same place.
+    // The number of the kind comes first and is a plain byte: a tree reads its own state from the same place.
     std::uint8_t m_kind;
     union
     {

@@ -5,7 +5,9 @@
 #include <cmath>
 #include <limits>
 #include <stdexcept>
+#include <string_view>
 #include <type_traits>
+#include <vector>
 
 namespace
 {
@@ -153,8 +155,52 @@ TEST(PropertyTreeScalar, EveryKindIsAssignedToEveryKind)
     static_assert(std::is_nothrow_move_assignable_v<PropertyTreeScalar>);
 }
 
+TEST(PropertyTreeScalar, WhatIsABoolMakesABool)
+{
+    std::vector<bool> flags{true, false};
+    const std::vector<bool>& constantFlags = flags;
+    const PropertyTreeScalar expected[] = {flags[0],         flags[1],          constantFlags[0],
+                                           std::true_type(), std::false_type(), std::is_same<int, int>()};
+    const bool values[] = {true, false, true, true, false, true};
+    for (std::size_t i = 0; i < std::size(values); ++i)
+    {
+        EXPECT_EQ(expected[i].kind(), Kind::Bool) << i;
+        EXPECT_EQ(expected[i], PropertyTreeScalar(values[i])) << i;
+    }
+    PropertyTreeScalar assigned = 5;
+    assigned = flags[0];
+    EXPECT_EQ(assigned, PropertyTreeScalar(true));
+}
+
+TEST(PropertyTreeScalar, AStringViewMakesAString)
+{
+    const std::string_view text = std::string_view("a text and more").substr(0, 6);
+    EXPECT_EQ(PropertyTreeScalar(text), PropertyTreeScalar("a text"));
+    EXPECT_EQ(PropertyTreeScalar(std::string_view()), PropertyTreeScalar(""));
+    PropertyTreeScalar assigned = 5;
+    assigned = text;
+    EXPECT_EQ(assigned.toString(), "a text");
+}
+
+TEST(PropertyTreeScalar, SignedAndUnsignedCharAreIntegers)
+{
+    EXPECT_EQ(PropertyTreeScalar(static_cast<signed char>(-1)), PropertyTreeScalar(-1));
+    EXPECT_EQ(PropertyTreeScalar(static_cast<unsigned char>(255)), PropertyTreeScalar(255));
+}
+
+TEST(PropertyTreeScalar, CharactersMakeNoScalar)
+{
+    static_assert(!std::is_constructible_v<PropertyTreeScalar, char> && !std::is_assignable_v<PropertyTreeScalar&, char>);
+    static_assert(!std::is_constructible_v<PropertyTreeScalar, wchar_t> && !std::is_assignable_v<PropertyTreeScalar&, wchar_t>);
+    static_assert(!std::is_constructible_v<PropertyTreeScalar, char8_t> && !std::is_assignable_v<PropertyTreeScalar&, char8_t>);
+    static_assert(!std::is_constructible_v<PropertyTreeScalar, char16_t>);
+    static_assert(!std::is_constructible_v<PropertyTreeScalar, char32_t>);
+    static_assert(!std::is_constructible_v<PropertyTreeScalar, const char&>);
+}
+
 TEST(PropertyTreeScalar, PointersMakeNoScalar)
 {
+    static_assert(!std::is_constructible_v<PropertyTreeScalar, std::nullptr_t>);
     static_assert(!std::is_constructible_v<PropertyTreeScalar, int*>);
     static_assert(!std::is_constructible_v<PropertyTreeScalar, void*>);
 }

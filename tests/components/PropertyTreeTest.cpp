@@ -35,10 +35,10 @@ TEST(PropertyTree, IsInOneOfFourStates)
     const PropertyTree scalar(5);
     const PropertyTree map = Map({});
     const PropertyTree list = List({});
-    EXPECT_TRUE(null.isNull() && !null.isScalar() && !null.isList());
-    EXPECT_TRUE(!scalar.isNull() && scalar.isScalar() && !scalar.isList());
-    EXPECT_TRUE(!map.isNull() && !map.isScalar() && !map.isList());
-    EXPECT_TRUE(!list.isNull() && !list.isScalar() && list.isList());
+    EXPECT_TRUE(null.isNull() && !null.isScalar() && !null.isMap() && !null.isList());
+    EXPECT_TRUE(!scalar.isNull() && scalar.isScalar() && !scalar.isMap() && !scalar.isList());
+    EXPECT_TRUE(!map.isNull() && !map.isScalar() && map.isMap() && !map.isList());
+    EXPECT_TRUE(!list.isNull() && !list.isScalar() && !list.isMap() && list.isList());
 }
 
 TEST(PropertyTree, TakesAnythingThatMakesAScalar)
@@ -54,6 +54,13 @@ TEST(PropertyTree, TakesAnythingThatMakesAScalar)
     EXPECT_EQ(tree["c"].getScalar().toString(), "text");
     EXPECT_EQ(tree["d"].getScalar().kind(), PropertyTreeScalar::Kind::Bool);
     EXPECT_EQ(tree["e"].getScalar().toInt(), 7);
+    tree["f"] = std::string_view("view");
+    tree["g"] = std::vector<bool>{true}[0];
+    tree["h"] = std::true_type();
+    EXPECT_EQ(tree["f"], PropertyTree("view"));
+    EXPECT_EQ(tree["g"], PropertyTree(true));
+    EXPECT_EQ(tree["h"], PropertyTree(true));
+    EXPECT_EQ(PropertyTree(std::vector<bool>{false}[0]), PropertyTree(false));
     EXPECT_EQ(PropertyTree(PropertyTreeScalar("a text")).getScalar().toString(), "a text");
 }
 
@@ -193,6 +200,29 @@ TEST(PropertyTree, AppendAddsAtTheEnd)
     EXPECT_EQ(tree, List({1, "two"}));
     tree.append(tree);
     EXPECT_EQ(tree, List({1, "two", List({1, "two"})}));
+}
+
+// What the header names as safe where a list is to become a part of itself.
+TEST(PropertyTree, AListIsReplacedByAListInsideIt)
+{
+    const std::string text = "a text that does not fit into the string itself";
+    const PropertyTree sample = List({List({text, 2}), 3, text});
+    const PropertyTree expected = List({text, 2});
+    PropertyTree tree = sample;
+    tree = tree.getList()[0];
+    EXPECT_EQ(tree, expected);
+    tree = sample;
+    tree = std::move(tree.getList()[0]);
+    EXPECT_EQ(tree, expected);
+    tree = sample;
+    PropertyTree::List& copied = tree.getList();
+    copied = PropertyTree::List(copied[0].getList());
+    EXPECT_EQ(tree, expected);
+    tree = sample;
+    PropertyTree::List& moved = tree.getList();
+    PropertyTree::List inner = std::move(moved[0].getList());
+    moved = std::move(inner);
+    EXPECT_EQ(tree, expected);
 }
 
 TEST(PropertyTree, SwapExchangesAnyTwoStates)
