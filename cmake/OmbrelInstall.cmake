@@ -1,5 +1,5 @@
-# What `cmake --install` puts where: the libraries that were built, their headers, and what CMake and pkg-config need to find
-# them. The installed tree may be moved as a whole.
+# What `cmake --install` puts where: the libraries that were built, their headers, what shows trees in a debugger, and what CMake
+# and pkg-config need to find them. The installed tree may be moved as a whole.
 
 set(OMBREL_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/${PROJECT_NAME})
 set(OMBREL_PKGCONFIG_DIR ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
@@ -71,6 +71,8 @@ ombrel_install_library(EffectSettings
   DESCRIPTION "${PROJECT_DESCRIPTION}"
   FOLDERS Conf Exception PhotoUtil Proc PropertyTree
   PRIVATE_HEADERS PropertyTreeMapFiller.h PropertyTreeMapIndex.h ScaledInteger.h WrappingArithmetic.h)
+install(FILES ${PROJECT_SOURCE_DIR}/debugger/ombrel_gdb.py ${PROJECT_SOURCE_DIR}/debugger/ombrel.natvis
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrel-effect-settings)
 if(TARGET ombrel_PropertyTreeJson)
   ombrel_install_library(PropertyTreeJson
     DESCRIPTION "The stored form of effect settings as JSON text"

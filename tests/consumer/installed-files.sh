@@ -30,6 +30,9 @@ expect "headers" "$expected" "$(cd "$include" && find . -name '*.h' -printf '%P\
 sed 's/.*/#include "&"/' <<<"$expected" | "$CXX" -std=c++20 -fsyntax-only -I "$include" -x c++ - ||
     fail "the installed headers do not compile"
 
+expect "what shows trees in a debugger" "$(printf '%s\n' ombrel.natvis ombrel_gdb.py)" \
+    "$(find "$prefix/share/ombrel-effect-settings" -type f -printf '%f\n' | sort)"
+
 # A shared library shows its interface alone: neither the parser inside nor the folds of the library's own records.
 if [[ $LAYOUT == shared-* ]]; then
     for library in "$libdir"/*.so; do
