@@ -1,6 +1,8 @@
 #ifndef OMBREL_CONF_FRAME_INFO_H
 #define OMBREL_CONF_FRAME_INFO_H
 
+#include "OmbrelExport.h"
+
 #include <cstdint>
 
 namespace Ombrel::Conf

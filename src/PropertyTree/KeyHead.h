@@ -1,6 +1,8 @@
 #ifndef OMBREL_PROPERTY_TREE_KEY_HEAD_H
 #define OMBREL_PROPERTY_TREE_KEY_HEAD_H
 
+#include "OmbrelExport.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string_view>

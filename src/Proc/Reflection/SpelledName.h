@@ -1,6 +1,8 @@
 #ifndef OMBREL_PROC_REFLECTION_SPELLED_NAME_H
 #define OMBREL_PROC_REFLECTION_SPELLED_NAME_H
 
+#include "OmbrelExport.h"
+
 #include <array>
 #include <cstddef>
 #include <initializer_list>

@@ -1,6 +1,8 @@
 #ifndef OMBREL_PROC_SETTINGS_PIX_FMT_H
 #define OMBREL_PROC_SETTINGS_PIX_FMT_H
 
+#include "OmbrelExport.h"
+
 #include <cstdint>
 
 namespace Ombrel

@@ -1,6 +1,8 @@
 #ifndef OMBREL_PROC_SETTINGS_STORED_KEYS_H
 #define OMBREL_PROC_SETTINGS_STORED_KEYS_H
 
+#include "OmbrelExport.h"
+
 #include <array>
 #include <string_view>
 
