@@ -66,7 +66,8 @@ function(ombrel_install_library name)
   install(FILES ${PROJECT_BINARY_DIR}/${OMBREL_PC_NAME}.pc DESTINATION ${OMBREL_PKGCONFIG_DIR})
 endfunction()
 
-install(FILES ${PROJECT_SOURCE_DIR}/src/OmbrelExport.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Ombrel)
+install(FILES ${PROJECT_SOURCE_DIR}/src/OmbrelExport.h ${PROJECT_SOURCE_DIR}/src/OmbrelVersion.h
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Ombrel)
 ombrel_install_library(EffectSettings
   DESCRIPTION "${PROJECT_DESCRIPTION}"
   FOLDERS Conf Exception PhotoUtil Proc PropertyTree
@@ -85,14 +86,20 @@ if(TARGET ombrel-effects) # its own rule installs it
   set_target_properties(ombrel-effects PROPERTIES INSTALL_RPATH "$ORIGIN/${toLibraries}")
 endif()
 
+set(OMBREL_COMPONENTS EffectSettings)
+if(TARGET ombrel_PropertyTreeJson)
+  list(APPEND OMBREL_COMPONENTS PropertyTreeJson)
+endif()
 configure_package_config_file(
   ${PROJECT_SOURCE_DIR}/cmake/OmbrelEffectSettingsConfig.cmake.in ${PROJECT_BINARY_DIR}/OmbrelEffectSettingsConfig.cmake
   INSTALL_DESTINATION ${OMBREL_CMAKE_DIR}
   NO_SET_AND_CHECK_MACRO)
-# Up to 1.0 a new minor version may break its callers.
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/OmbrelEffectSettingsConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/OmbrelEffectSettingsConfigVersion.cmake
+  COMPATIBILITY ${OMBREL_COMPATIBILITY})
 install(FILES
   ${PROJECT_BINARY_DIR}/OmbrelEffectSettingsConfig.cmake
   ${PROJECT_BINARY_DIR}/OmbrelEffectSettingsConfigVersion.cmake
   DESTINATION ${OMBREL_CMAKE_DIR})
 install(EXPORT OmbrelEffectSettingsTargets NAMESPACE Ombrel:: DESTINATION ${OMBREL_CMAKE_DIR})
+# The package is found in the build tree too, without an installation.
+export(EXPORT OmbrelEffectSettingsTargets NAMESPACE Ombrel:: FILE ${PROJECT_BINARY_DIR}/OmbrelEffectSettingsTargets.cmake)

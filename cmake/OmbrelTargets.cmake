@@ -28,10 +28,23 @@ if(OMBREL_LINKER_HAS_VERSION_SCRIPTS)
   list(APPEND OMBREL_SHARED_LINK_OPTIONS -Wl,--version-script=${OMBREL_EXPORTS})
 endif()
 
-# What is loaded into a program is bound at once and then read-only, and refers to nothing that no library on its list has.
-list(APPEND OMBREL_SHARED_LINK_OPTIONS -Wl,-z,relro -Wl,-z,now)
+# What is loaded into a program refers to nothing that no library on its list has.
 if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
-  list(APPEND OMBREL_SHARED_LINK_OPTIONS -Wl,-z,defs)
+  check_linker_flag(CXX "-Wl,-z,defs" OMBREL_LINKER_KNOWS_DEFS)
+  if(OMBREL_LINKER_KNOWS_DEFS)
+    list(APPEND OMBREL_SHARED_LINK_OPTIONS -Wl,-z,defs)
+  endif()
+endif()
+
+include(${CMAKE_CURRENT_LIST_DIR}/OmbrelHardening.cmake)
+
+# Callers depend on the number in the libraries' names. While the major version is 0, a new minor version may break them.
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+  set(OMBREL_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+  set(OMBREL_COMPATIBILITY SameMinorVersion)
+else()
+  set(OMBREL_SOVERSION ${PROJECT_VERSION_MAJOR})
+  set(OMBREL_COMPATIBILITY SameMajorVersion)
 endif()
 
 function(ombrel_defaults target)
@@ -40,13 +53,15 @@ function(ombrel_defaults target)
     CXX_EXTENSIONS OFF
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON
-    POSITION_INDEPENDENT_CODE ON)
+    POSITION_INDEPENDENT_CODE ON
+    BUILD_RPATH_USE_ORIGIN ON) # no folder of the machine that built it, not even by its length
   target_compile_options(${target} PRIVATE ${OMBREL_WARNINGS} $<$<BOOL:${OMBREL_WARNINGS_AS_ERRORS}>:-Werror>)
   # Without it a library that instantiates a template's static can never be unloaded.
   target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
-  target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-fstack-protector-strong>)
-  # What is handed out names no folder of the machine that built it, in its debug information either.
-  foreach(folder IN ITEMS ${PROJECT_BINARY_DIR} ${PROJECT_SOURCE_DIR})
+  ombrel_harden(${target})
+  # What is handed out names no folder of the machine that built it, in its debug information either. Where one folder stands
+  # in the other the later option holds.
+  foreach(folder IN ITEMS ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})
     target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${folder}=.>)
   endforeach()
   get_target_property(type ${target} TYPE)

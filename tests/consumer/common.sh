@@ -27,11 +27,24 @@ prefix_of() {
     echo "$WORK_DIR/installed/$1/moved"
 }
 
+# build_layout SOURCE BUILD LAYOUT: builds libraries and tool, to be installed into /opt/ombrel in this layout. With debug
+# information, which is where build paths would show, and without optimisation, which plays no part here.
+build_layout() {
+    local shared=OFF
+    [[ $3 != shared-* ]] || shared=ON
+    "$CMAKE" -S "$1" -B "$2" -G Ninja --log-level=WARNING \
+        -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O0 -g1" \
+        -DCMAKE_UNITY_BUILD=ON \
+        -DCMAKE_INSTALL_PREFIX=/opt/ombrel -DCMAKE_INSTALL_LIBDIR="$(libdir_of "$3")" -DBUILD_SHARED_LIBS=$shared \
+        -DOMBREL_BUILD_JSON=ON -DOMBREL_BUILD_TOOLS=ON -DOMBREL_BUILD_TESTS=OFF -DOMBREL_BUILD_BENCHMARKS=OFF
+    "$CMAKE" --build "$2" --target ombrel-effects
+}
+
 # A copy of the consumers' sources outside the project, so that nothing is found by standing near it.
 copy_consumer() {
     rm -rf "$1"
     mkdir -p "$1"
-    cp -r "$SOURCE_DIR"/tests/consumer/{own-effect,find-package,subproject,json.cpp} "$SOURCE_DIR/examples/readme.cpp" "$1"
+    cp -r "$SOURCE_DIR"/tests/consumer/{own-effect,own-export-header,find-package,subproject,json.cpp} "$SOURCE_DIR/examples/vibrance.cpp" "$1"
 }
 
 run_program() {
@@ -42,7 +55,7 @@ run_program() {
 
 # The three programs in folder $1.
 run_programs() {
-    run_program "$1/readme" "strength 40, equal: yes"
+    run_program "$1/vibrance" "strength 40, equal: yes"
     run_program "$1/own-effect" "own effect: fine"
     [[ ${2-} == without-json ]] || run_program "$1/json" "json: fine"
 }

@@ -10,3 +10,4 @@ found=$(sed -n 's/^found:INTERNAL=//p' "$work/build/CMakeCache.txt")
 expect "the package found" "$(prefix_of "$LAYOUT")/$(libdir_of "$LAYOUT")/cmake/OmbrelEffectSettings" "$found"
 "$CMAKE" --build "$work/build"
 run_programs "$work/build"
+run_program "$work/build/own-export-header" "EFFECT_ACID"

@@ -4,14 +4,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 rm -rf "$WORK_DIR/installed"
 for layout in shared-lib shared-arch static-lib static-arch; do
-    [[ $layout == shared-* ]] && shared=ON || shared=OFF
-    # With debug information, which is where build paths would show, and without optimisation, which plays no part here.
-    "$CMAKE" -S "$SOURCE_DIR" -B "$WORK_DIR/build" -G Ninja --log-level=WARNING \
-        -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O0 -g1" \
-        -DCMAKE_UNITY_BUILD=ON \
-        -DCMAKE_INSTALL_PREFIX=/opt/ombrel -DCMAKE_INSTALL_LIBDIR="$(libdir_of $layout)" -DBUILD_SHARED_LIBS="$shared" \
-        -DOMBREL_BUILD_JSON=ON -DOMBREL_BUILD_TOOLS=OFF -DOMBREL_BUILD_TESTS=OFF -DOMBREL_BUILD_BENCHMARKS=OFF
-    "$CMAKE" --build "$WORK_DIR/build"
+    build_layout "$SOURCE_DIR" "$WORK_DIR/build" $layout
     DESTDIR="$WORK_DIR/installed/$layout" "$CMAKE" --install "$WORK_DIR/build" >/dev/null
     mv "$WORK_DIR/installed/$layout/opt/ombrel" "$(prefix_of $layout)"
 done

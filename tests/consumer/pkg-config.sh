@@ -41,7 +41,7 @@ build() {
     "$CXX" "${link[@]}" -o "bin/$program" "${objects[@]}" $(pkg-config --libs "${static[@]}" "$package")
 }
 
-build readme ombrel-effect-settings readme.cpp
+build vibrance ombrel-effect-settings vibrance.cpp
 build own-effect ombrel-effect-settings own-effect/{main,FrameSettings,SettingsEffectFrame}.cpp
 build json ombrel-property-tree-json json.cpp
 run_programs bin

@@ -5,7 +5,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 work=$WORK_DIR/subproject
 copy_consumer "$work"
 "$CMAKE" -S "$work/subproject" -B "$work/build" -G Ninja --log-level=WARNING \
-    -DCMAKE_CXX_COMPILER="$CXX" -DOMBREL_SOURCE_DIR="$SOURCE_DIR"
+    -DCMAKE_CXX_COMPILER="$CXX" -DOMBREL_SOURCE_DIR="$SOURCE_DIR" -DCMAKE_UNITY_BUILD=ON
 "$CMAKE" --build "$work/build"
 run_programs "$work/build" without-json
 

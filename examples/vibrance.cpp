@@ -1,4 +1,5 @@
-// [readme]
+// Makes an effect, changes it by key, stores it and reads it back.
+
 #include "Proc/EffectSettings/EffectSettings.h"
 #include "PropertyTree/PropertyTree.h"
 
@@ -22,4 +23,3 @@ int main()
     std::cout << "strength " << stored["strength"].getScalar().toInt() << ", equal: " << (*copy == *vibrance ? "yes" : "no")
               << "\n";
 }
-// [/readme]

@@ -1,0 +1,11 @@
+#include "OmbrelVersion.h"
+
+namespace Ombrel
+{
+
+const char* GetVersion() noexcept
+{
+    return OMBREL_VERSION_STRING;
+}
+
+} // namespace Ombrel
