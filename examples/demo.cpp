@@ -13,8 +13,8 @@
 #include <filesystem>
 #include <fstream>
 #include <iomanip>
+#include <ios>
 #include <iostream>
-#include <iterator>
 #include <map>
 #include <memory>
 #include <stdexcept>
@@ -32,9 +32,9 @@ constexpr int NEW_VALUE = 40;
 
 std::string ReadFile(const std::filesystem::path& path)
 {
+    std::string text(std::filesystem::file_size(path), '\0');
     std::ifstream file(path, std::ios::binary);
-    std::string text(std::istreambuf_iterator<char>(file), {});
-    if (!file)
+    if (!file.read(text.data(), static_cast<std::streamsize>(text.size())))
     {
         throw std::runtime_error("cannot read " + path.string());
     }
