@@ -27,13 +27,22 @@ pattern_of() {
     sed -E 's/[^A-Za-z0-9 ]/\\&/g; s/^\\\.\\\.\\\.$/*/' <<<"$1"
 }
 
+# What a command says is seen if the test ends there.
+trap '(($? == 0)) || tail -20 "$work/output" >&2' EXIT
+
+# A newcomer is not met by warnings.
+no_warnings() {
+    if grep -n -A3 'warning:' "$work/output"; then fail "$1 warns"; fi
+}
+
 command='' expected=''
 # Runs the command and compares.
 run_command() {
     local found
     [[ -n $command ]] || return 0
     echo "$ $command"
-    eval "$command" >"$work/output" 2>&1 || fail "$command ended with $?: $(tail -5 "$work/output")"
+    eval "$command" >"$work/output" 2>&1 || fail "$command ended with $?"
+    no_warnings "$command"
     found=$(<"$work/output")
     # shellcheck disable=SC2053 # a pattern
     [[ $found == $(pattern_of "${expected%$'\n'}") ]] ||
@@ -49,7 +58,8 @@ for block in "$work"/blocks/*; do
     sh)
         echo "$(<"$work/text")"
         # shellcheck source=/dev/null
-        source "$work/text"
+        source "$work/text" >"$work/output" 2>&1
+        no_warnings "$(<"$work/text")"
         ;;
     console)
         while IFS= read -r line; do

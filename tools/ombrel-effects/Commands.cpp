@@ -111,7 +111,7 @@ Outcome GetValue(const Document& document, const Path& path)
     {
         return {document.Text(FullForm(document.Read(target.index))), {}, ExitCode::Fine};
     }
-    return {document.Text(*Property(document, target).Value()), {}, ExitCode::Fine};
+    return {document.Text(Property(document, target).Value()), {}, ExitCode::Fine};
 }
 
 Outcome Normalise(Document document)

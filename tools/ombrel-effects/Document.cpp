@@ -96,7 +96,7 @@ EffectPtr Document::Read(std::size_t index) const
     auto result = ReadEffect(element);
     if (const Refusal* refusal = std::get_if<Refusal>(&result))
     {
-        const PropertyTree& value = *Find(element, refusal->place);
+        const PropertyTree& value = At(element, refusal->place);
         throw ToolError(ExitCode::BadInput,
                         Where(index, refusal->place) + "cannot read " + ShownInBrief(value) + ": " + refusal->reason);
     }

@@ -61,7 +61,7 @@ PropertyTree ElementOf(const PropertyTree& element, PathView place, PropertyTree
 {
     for (std::size_t length = place.size(); length > 0; --length)
     {
-        value = WithOnly(*Find(element, place.first(length - 1)), place[length - 1], std::move(value));
+        value = WithOnly(At(element, place.first(length - 1)), place[length - 1], std::move(value));
     }
     return value;
 }
@@ -84,7 +84,7 @@ Refusal RefusedName(const PropertyTree& map, const Path& place, const std::strin
 // value itself.
 std::optional<Refusal> NextRefusal(const PropertyTree& element, const Refusal& refusal)
 {
-    const PropertyTree& value = *Find(element, refusal.place);
+    const PropertyTree& value = At(element, refusal.place);
     if (IsMap(value))
     {
         if (const auto reason = ReasonAgainst(ElementOf(element, refusal.place, Bare(value))))
@@ -94,7 +94,7 @@ std::optional<Refusal> NextRefusal(const PropertyTree& element, const Refusal& r
     }
     for (const std::string& step : StepsOf(value))
     {
-        const PropertyTree alone = WithOnly(value, step, *FindChild(value, step));
+        const PropertyTree alone = WithOnly(value, step, At(value, PathView(&step, 1)));
         if (const auto reason = ReasonAgainst(ElementOf(element, refusal.place, alone)))
         {
             return Refusal{Below(refusal.place, step), *reason};

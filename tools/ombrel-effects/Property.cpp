@@ -90,14 +90,19 @@ void Property::CheckPlace() const
     }
 }
 
-const PropertyTree* Property::Value() const
+const PropertyTree& Property::Value() const
+{
+    return At(m_tree, PathView(m_path).subspan(1));
+}
+
+const PropertyTree* Property::FindValue() const
 {
     return Find(m_tree, PathView(m_path).subspan(1));
 }
 
 void Property::Set(const PropertyTree& value)
 {
-    *Find(m_tree, PathView(m_path).subspan(1)) = value;
+    At(m_tree, PathView(m_path).subspan(1)) = value;
     try
     {
         m_access->SetProperty(key(), m_tree);

@@ -20,8 +20,12 @@ public:
     /// @throws ToolError `BadInput` if the effect cannot be read, `NotAsAsked` if there is no such property or value
     Property(const Document& document, const Document::Target& target);
 
-    /// The value at the end of the path, in its stored form. Null if a change has removed it.
-    const PropertyTree* Value() const;
+    /// The value at the end of the path, in its stored form.
+    /// @throws std::logic_error if a change has removed it
+    const PropertyTree& Value() const;
+
+    /// The same. Null if a change has removed it.
+    const PropertyTree* FindValue() const;
 
     /// Changes that value.
     /// @throws ToolError `BadInput` if the library refuses it

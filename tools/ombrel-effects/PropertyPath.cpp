@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cstdio>
+#include <stdexcept>
 
 namespace Ombrel::EffectsTool
 {
@@ -110,6 +111,20 @@ const PropertyTree* Find(const PropertyTree& tree, PathView path)
 PropertyTree* Find(PropertyTree& tree, PathView path)
 {
     return const_cast<PropertyTree*>(Find(static_cast<const PropertyTree&>(tree), path));
+}
+
+const PropertyTree& At(const PropertyTree& tree, PathView path)
+{
+    if (const PropertyTree* found = Find(tree, path))
+    {
+        return *found;
+    }
+    throw std::logic_error("a path leads nowhere: " + PathText(path));
+}
+
+PropertyTree& At(PropertyTree& tree, PathView path)
+{
+    return const_cast<PropertyTree&>(At(static_cast<const PropertyTree&>(tree), path));
 }
 
 std::vector<std::string> StepsOf(const PropertyTree& tree)

@@ -33,6 +33,11 @@ const PropertyTree* FindChild(const PropertyTree& tree, const std::string& step)
 const PropertyTree* Find(const PropertyTree& tree, PathView path);
 PropertyTree* Find(PropertyTree& tree, PathView path);
 
+/// What `path` leads to, for a path that was taken from this tree.
+/// @throws std::logic_error if it leads nowhere
+const PropertyTree& At(const PropertyTree& tree, PathView path);
+PropertyTree& At(PropertyTree& tree, PathView path);
+
 /// The steps to all children, in order; none for null and scalars.
 std::vector<std::string> StepsOf(const PropertyTree& tree);
 

@@ -13,7 +13,7 @@ namespace
 // A string needs no quotes, so that names are easy to type. Any other value is JSON.
 PropertyTree ParseValue(const std::string& text, const Property& property, bool nonFinite)
 {
-    const PropertyTree& current = *property.Value();
+    const PropertyTree& current = property.Value();
     if (IsString(current))
     {
         PropertyTree string(text);
@@ -33,7 +33,7 @@ PropertyTree ParseValue(const std::string& text, const Property& property, bool 
 
 void ComplainIfOther(Outcome& outcome, const Property& property, const PropertyTree& given)
 {
-    const PropertyTree* stored = property.Value();
+    const PropertyTree* stored = property.FindValue();
     if (!stored || !IsStoredAs(given, *stored))
     {
         outcome.complaints.push_back(property.Where() + "given " + ShownInBrief(given) + ", stored " +

@@ -69,7 +69,7 @@ void UnknownKeys::Visit(const PropertyTree& given, const PropertyTree* written, 
             m_found.push_back(below);
             continue;
         }
-        Visit(*FindChild(given, step), writtenChild, below, belowPattern);
+        Visit(At(given, PathView(&step, 1)), writtenChild, below, belowPattern);
     }
 }
 
@@ -85,7 +85,7 @@ bool UnknownKeys::IsKnown(const Path& place, const std::string& pattern)
 
 bool UnknownKeys::DoesAnyValueMatter(const Path& place)
 {
-    PropertyTree& value = *Find(m_element, place);
+    PropertyTree& value = At(m_element, place);
     PropertyTree kept = std::exchange(value, {});
     const std::vector<PropertyTree> trials = TrialValues();
     const bool matters = std::ranges::any_of(trials,
