@@ -100,8 +100,7 @@ private:
 
 /// The tree that `text` describes. No reference to `text` is kept.
 /// @throws JsonError on bad syntax, invalid UTF-8, a key that occurs twice in a map, a number that does not fit, more depth,
-/// values
-///         or bytes than `options` allow, an empty or truncated text, or anything but white space behind the value
+///         values or bytes than `options` allow, an empty or truncated text, or anything but white space behind the value
 OMBREL_API PropertyTree ReadJson(std::string_view text, const JsonReadOptions& options = {});
 
 /// The text of `tree`.

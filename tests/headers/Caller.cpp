@@ -5,6 +5,11 @@
 #include <type_traits>
 #include <utility>
 
+// Only callers that throw or catch failures need Boost.
+#ifdef BOOST_CONFIG_HPP
+#error "a header of a class includes Boost"
+#endif
+
 namespace
 {
 
