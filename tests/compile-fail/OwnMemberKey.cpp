@@ -7,18 +7,21 @@
 class OwnSettings : public Ombrel::PhotoCore::EffectSettingsOneInputReflection<Record, OwnSettings>
 {
 public:
+    static const Ombrel::Proc::RecordSchema& Schema() noexcept;
+
     std::int32_t m_columns = 0;
     std::string m_layout;
     std::string m_implName; // hides the effect's own
 };
 
-template <> struct Ombrel::Proc::Fields<OwnSettings>
+const Ombrel::Proc::RecordSchema& OwnSettings::Schema() noexcept
 {
+    using namespace Ombrel::Proc;
 #ifdef MUST_FAIL
-    using List = FieldList<FieldDescriptor<&OwnSettings::m_columns>, FieldDescriptor<&OwnSettings::m_implName>>;
+    return Describe<OwnSettings,
+                    FieldList<FieldDescriptor<&OwnSettings::m_columns>, FieldDescriptor<&OwnSettings::m_implName>>>();
 #else
-    using List = FieldList<FieldDescriptor<&OwnSettings::m_columns>, FieldDescriptor<&OwnSettings::m_layout>>;
+    return Describe<OwnSettings,
+                    FieldList<FieldDescriptor<&OwnSettings::m_columns>, FieldDescriptor<&OwnSettings::m_layout>>>();
 #endif
-};
-
-template struct Ombrel::Proc::Reflected<OwnSettings>;
+}

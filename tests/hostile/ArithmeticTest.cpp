@@ -171,7 +171,7 @@ TEST(Arithmetic, OfAlphaIsHeldWithinItsScale)
 }
 
 // Where no factor reaches the deviation, it is itself the factor.
-TEST(Arithmetic, OfTheFishEyeIsAnyFloat)
+TEST(Arithmetic, OfTheFishEyeIsFiniteForAFiniteDeviation)
 {
     for (const float intensity : FLOATS)
     {
@@ -181,9 +181,13 @@ TEST(Arithmetic, OfTheFishEyeIsAnyFloat)
             record.SetIntensity(intensity);
             record.SetDeviation(deviation);
             const double scale = intensity;
-            const bool isReachable = std::isfinite(scale) && scale != 0.0;
-            const double expected = scale * (isReachable ? deviation / scale : deviation);
+            const double quotient = deviation / scale;
+            const bool isReachable =
+                std::isfinite(scale) && scale != 0.0 && (std::isfinite(quotient) || !std::isfinite(deviation));
+            const double expected = scale * (isReachable ? quotient : deviation);
             const double found = record.GetDeviation();
+            EXPECT_TRUE(std::isfinite(found) || !std::isfinite(deviation) || !std::isfinite(scale))
+                << deviation << " at " << intensity;
             EXPECT_TRUE(std::isnan(expected) ? std::isnan(found) : found == expected)
                 << deviation << " at " << intensity << ": expected " << expected << ", found " << found;
         }
