@@ -1,6 +1,8 @@
 #ifndef OMBREL_PROC_LASTING_H
 #define OMBREL_PROC_LASTING_H
 
+#include "OmbrelExport.h"
+
 #include <atomic>
 #include <cstdlib>
 

@@ -11,7 +11,7 @@ work=$WORK_DIR/readme
 rm -rf "$work"
 mkdir -p "$work/blocks" "$work/home" "$work/project"
 cd "$work/project"
-cp -r "$SOURCE_DIR"/{CMakeLists.txt,CMakePresets.json,README.md,cmake,examples,scripts,src,tools} .
+cp -r "$SOURCE_DIR"/{CMakeLists.txt,CMakePresets.json,README.md,cmake,debugger,examples,scripts,src,tools} .
 export HOME=$work/home
 
 # Each block is a file: its first line what stands behind the fence, the others its text.

@@ -6,7 +6,7 @@ work=$WORK_DIR/elsewhere
 rm -rf "$work"
 mkdir -p "$work/sources of a name with spaces"
 cd "$work/sources of a name with spaces"
-cp -r "$SOURCE_DIR"/{CMakeLists.txt,cmake,examples,src,tools} .
+cp -r "$SOURCE_DIR"/{CMakeLists.txt,cmake,debugger,examples,src,tools} .
 build_layout . out shared-lib
 DESTDIR=$work/installed "$CMAKE" --install out >/dev/null
 

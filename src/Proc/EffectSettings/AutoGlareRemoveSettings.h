@@ -13,6 +13,13 @@ class OMBREL_API AutoGlareRemoveSettings
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    AutoGlareRemoveSettings();
+    AutoGlareRemoveSettings(const AutoGlareRemoveSettings&);
+    AutoGlareRemoveSettings(AutoGlareRemoveSettings&&) noexcept;
+    AutoGlareRemoveSettings& operator=(const AutoGlareRemoveSettings&);
+    AutoGlareRemoveSettings& operator=(AutoGlareRemoveSettings&&) noexcept;
+    ~AutoGlareRemoveSettings() override;
+
     const std::string& GetClassId() const override;
 };
 

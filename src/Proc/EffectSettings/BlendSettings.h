@@ -13,6 +13,13 @@ class OMBREL_API BlendSettings : public EffectSettingsTwoInputReflection<Proc::S
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    BlendSettings();
+    BlendSettings(const BlendSettings&);
+    BlendSettings(BlendSettings&&) noexcept;
+    BlendSettings& operator=(const BlendSettings&);
+    BlendSettings& operator=(BlendSettings&&) noexcept;
+    ~BlendSettings() override;
+
     const std::string& GetClassId() const override;
 };
 

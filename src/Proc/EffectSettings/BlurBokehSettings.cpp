@@ -7,6 +7,13 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectBlurBokeh, BlurBokehSettings>;
 
+BlurBokehSettings::BlurBokehSettings() = default;
+BlurBokehSettings::BlurBokehSettings(const BlurBokehSettings&) = default;
+BlurBokehSettings::BlurBokehSettings(BlurBokehSettings&&) noexcept = default;
+BlurBokehSettings& BlurBokehSettings::operator=(const BlurBokehSettings&) = default;
+BlurBokehSettings& BlurBokehSettings::operator=(BlurBokehSettings&&) noexcept = default;
+BlurBokehSettings::~BlurBokehSettings() = default;
+
 const std::string& BlurBokehSettings::GetClassId() const
 {
     return EffectSettingsImpl::GetClassId();

@@ -12,6 +12,13 @@ class OMBREL_API BlurBokehSettings : public EffectSettingsOneInputReflection<Pro
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    BlurBokehSettings();
+    BlurBokehSettings(const BlurBokehSettings&);
+    BlurBokehSettings(BlurBokehSettings&&) noexcept;
+    BlurBokehSettings& operator=(const BlurBokehSettings&);
+    BlurBokehSettings& operator=(BlurBokehSettings&&) noexcept;
+    ~BlurBokehSettings() override;
+
     const std::string& GetClassId() const override;
 };
 

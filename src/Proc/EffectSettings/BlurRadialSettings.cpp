@@ -7,6 +7,13 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectBlurRadial, BlurRadialSettings>;
 
+BlurRadialSettings::BlurRadialSettings() = default;
+BlurRadialSettings::BlurRadialSettings(const BlurRadialSettings&) = default;
+BlurRadialSettings::BlurRadialSettings(BlurRadialSettings&&) noexcept = default;
+BlurRadialSettings& BlurRadialSettings::operator=(const BlurRadialSettings&) = default;
+BlurRadialSettings& BlurRadialSettings::operator=(BlurRadialSettings&&) noexcept = default;
+BlurRadialSettings::~BlurRadialSettings() = default;
+
 const std::string& BlurRadialSettings::GetClassId() const
 {
     return EffectSettingsImpl::GetClassId();

@@ -13,6 +13,13 @@ class OMBREL_API BlurRadialSettings
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    BlurRadialSettings();
+    BlurRadialSettings(const BlurRadialSettings&);
+    BlurRadialSettings(BlurRadialSettings&&) noexcept;
+    BlurRadialSettings& operator=(const BlurRadialSettings&);
+    BlurRadialSettings& operator=(BlurRadialSettings&&) noexcept;
+    ~BlurRadialSettings() override;
+
     const std::string& GetClassId() const override;
 };
 

@@ -7,6 +7,13 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectDreamscope, DreamscopeSettings>;
 
+DreamscopeSettings::DreamscopeSettings() = default;
+DreamscopeSettings::DreamscopeSettings(const DreamscopeSettings&) = default;
+DreamscopeSettings::DreamscopeSettings(DreamscopeSettings&&) noexcept = default;
+DreamscopeSettings& DreamscopeSettings::operator=(const DreamscopeSettings&) = default;
+DreamscopeSettings& DreamscopeSettings::operator=(DreamscopeSettings&&) noexcept = default;
+DreamscopeSettings::~DreamscopeSettings() = default;
+
 const std::string& DreamscopeSettings::GetClassId() const
 {
     return EffectSettingsImpl::GetClassId();

@@ -13,6 +13,13 @@ class OMBREL_API DreamscopeSettings
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    DreamscopeSettings();
+    DreamscopeSettings(const DreamscopeSettings&);
+    DreamscopeSettings(DreamscopeSettings&&) noexcept;
+    DreamscopeSettings& operator=(const DreamscopeSettings&);
+    DreamscopeSettings& operator=(DreamscopeSettings&&) noexcept;
+    ~DreamscopeSettings() override;
+
     const std::string& GetClassId() const override;
 };
 

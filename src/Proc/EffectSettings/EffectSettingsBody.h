@@ -120,8 +120,9 @@ template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>:
 
 template <class Record, class Derived> bool EffectSettingsImpl<Record, Derived>::operator==(const IEffectSettings& other) const
 {
-    return other.GetEffectSettings().GetClassId() == settings.Record::GetClassId() && operator==(
-                                                                                          dynamic_cast<const Derived&>(other));
+    const std::string& id = settings.Record::GetClassId();
+    const std::string& otherId = other.GetEffectSettings().GetClassId();
+    return (&otherId == &id || otherId == id) && operator==(dynamic_cast<const Derived&>(other));
 }
 
 template <class Record, class Derived> bool EffectSettingsImpl<Record, Derived>::operator==(const Derived& other) const

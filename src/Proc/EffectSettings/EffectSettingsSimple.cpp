@@ -35,10 +35,18 @@ NoRecord MakeNoRecord()
 
 OMBREL_EARLY_INIT const std::string EffectSettingsSimple::CLASS_ID{CLASS_NAME};
 
+EffectSettingsSimple::EffectSettingsSimple() : EffectSettingsSimple(InputType::One) {}
+
 EffectSettingsSimple::EffectSettingsSimple(InputType type, std::shared_ptr<Proc::Settings> record)
     : inputType(type), settings(std::move(record))
 {
 }
+
+EffectSettingsSimple::EffectSettingsSimple(const EffectSettingsSimple&) = default;
+EffectSettingsSimple::EffectSettingsSimple(EffectSettingsSimple&&) noexcept = default;
+EffectSettingsSimple& EffectSettingsSimple::operator=(const EffectSettingsSimple&) = default;
+EffectSettingsSimple& EffectSettingsSimple::operator=(EffectSettingsSimple&&) noexcept = default;
+EffectSettingsSimple::~EffectSettingsSimple() = default;
 
 std::shared_ptr<EffectSettingsSimple> EffectSettingsSimple::Create(const std::shared_ptr<Proc::Settings>& record)
 {

@@ -23,8 +23,14 @@ public:
     static const std::string CLASS_ID;
 
     /// One input and no record.
-    EffectSettingsSimple() : EffectSettingsSimple(InputType::One) {}
+    EffectSettingsSimple();
     explicit EffectSettingsSimple(InputType type, std::shared_ptr<Proc::Settings> record = nullptr);
+
+    EffectSettingsSimple(const EffectSettingsSimple&);
+    EffectSettingsSimple(EffectSettingsSimple&&) noexcept;
+    EffectSettingsSimple& operator=(const EffectSettingsSimple&);
+    EffectSettingsSimple& operator=(EffectSettingsSimple&&) noexcept;
+    ~EffectSettingsSimple() override;
 
     static std::shared_ptr<EffectSettingsSimple> Create(const std::shared_ptr<Proc::Settings>& record);
     static std::shared_ptr<EffectSettingsSimple> Create(InputType type, std::shared_ptr<Proc::Settings> record);

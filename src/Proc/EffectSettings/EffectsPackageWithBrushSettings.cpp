@@ -7,6 +7,14 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<SettingsEffectMaskBlender, EffectsPackageWithBrushSettings>;
 
+EffectsPackageWithBrushSettings::EffectsPackageWithBrushSettings() = default;
+EffectsPackageWithBrushSettings::EffectsPackageWithBrushSettings(const EffectsPackageWithBrushSettings&) = default;
+EffectsPackageWithBrushSettings::EffectsPackageWithBrushSettings(EffectsPackageWithBrushSettings&&) noexcept = default;
+EffectsPackageWithBrushSettings& EffectsPackageWithBrushSettings::operator=(const EffectsPackageWithBrushSettings&) = default;
+EffectsPackageWithBrushSettings&
+EffectsPackageWithBrushSettings::operator=(EffectsPackageWithBrushSettings&&) noexcept = default;
+EffectsPackageWithBrushSettings::~EffectsPackageWithBrushSettings() = default;
+
 const std::string& EffectsPackageWithBrushSettings::GetClassId() const
 {
     return EffectSettingsImpl::GetClassId();

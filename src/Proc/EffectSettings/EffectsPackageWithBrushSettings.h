@@ -13,6 +13,13 @@ class OMBREL_API EffectsPackageWithBrushSettings
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    EffectsPackageWithBrushSettings();
+    EffectsPackageWithBrushSettings(const EffectsPackageWithBrushSettings&); // shares the effects, and so does a clone
+    EffectsPackageWithBrushSettings(EffectsPackageWithBrushSettings&&) noexcept;
+    EffectsPackageWithBrushSettings& operator=(const EffectsPackageWithBrushSettings&);
+    EffectsPackageWithBrushSettings& operator=(EffectsPackageWithBrushSettings&&) noexcept;
+    ~EffectsPackageWithBrushSettings() override;
+
     const std::string& GetClassId() const override;
 
     /// The record's answer.

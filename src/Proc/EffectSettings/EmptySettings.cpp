@@ -7,6 +7,13 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectEmpty, EmptySettings>;
 
+EmptySettings::EmptySettings() = default;
+EmptySettings::EmptySettings(const EmptySettings&) = default;
+EmptySettings::EmptySettings(EmptySettings&&) noexcept = default;
+EmptySettings& EmptySettings::operator=(const EmptySettings&) = default;
+EmptySettings& EmptySettings::operator=(EmptySettings&&) noexcept = default;
+EmptySettings::~EmptySettings() = default;
+
 const std::string& EmptySettings::GetClassId() const
 {
     return EffectSettingsImpl::GetClassId();

@@ -12,6 +12,13 @@ class OMBREL_API EmptySettings : public EffectSettingsOneInputReflection<Proc::S
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    EmptySettings();
+    EmptySettings(const EmptySettings&);
+    EmptySettings(EmptySettings&&) noexcept;
+    EmptySettings& operator=(const EmptySettings&);
+    EmptySettings& operator=(EmptySettings&&) noexcept;
+    ~EmptySettings() override;
+
     const std::string& GetClassId() const override;
 
     using EffectSettingsImpl::operator==;

@@ -13,6 +13,13 @@ class OMBREL_API EyeExtendingSettings
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    EyeExtendingSettings();
+    EyeExtendingSettings(const EyeExtendingSettings&);
+    EyeExtendingSettings(EyeExtendingSettings&&) noexcept;
+    EyeExtendingSettings& operator=(const EyeExtendingSettings&);
+    EyeExtendingSettings& operator=(EyeExtendingSettings&&) noexcept;
+    ~EyeExtendingSettings() override;
+
     const std::string& GetClassId() const override;
 };
 

@@ -7,6 +7,13 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<SettingsEffectFacePackage, FacePackageSettings>;
 
+FacePackageSettings::FacePackageSettings() = default;
+FacePackageSettings::FacePackageSettings(const FacePackageSettings&) = default;
+FacePackageSettings::FacePackageSettings(FacePackageSettings&&) noexcept = default;
+FacePackageSettings& FacePackageSettings::operator=(const FacePackageSettings&) = default;
+FacePackageSettings& FacePackageSettings::operator=(FacePackageSettings&&) noexcept = default;
+FacePackageSettings::~FacePackageSettings() = default;
+
 const std::string& FacePackageSettings::GetClassId() const
 {
     return EffectSettingsImpl::GetClassId();

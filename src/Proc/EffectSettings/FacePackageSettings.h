@@ -13,6 +13,13 @@ class OMBREL_API FacePackageSettings : public EffectSettingsOneInputReflection<S
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    FacePackageSettings();
+    FacePackageSettings(const FacePackageSettings&);
+    FacePackageSettings(FacePackageSettings&&) noexcept; // keeps the effect objects, where a copy clones them
+    FacePackageSettings& operator=(const FacePackageSettings&);
+    FacePackageSettings& operator=(FacePackageSettings&&) noexcept;
+    ~FacePackageSettings() override;
+
     const std::string& GetClassId() const override;
 };
 

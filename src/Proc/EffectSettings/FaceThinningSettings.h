@@ -13,6 +13,13 @@ class OMBREL_API FaceThinningSettings
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    FaceThinningSettings();
+    FaceThinningSettings(const FaceThinningSettings&);
+    FaceThinningSettings(FaceThinningSettings&&) noexcept;
+    FaceThinningSettings& operator=(const FaceThinningSettings&);
+    FaceThinningSettings& operator=(FaceThinningSettings&&) noexcept;
+    ~FaceThinningSettings() override;
+
     const std::string& GetClassId() const override;
 };
 

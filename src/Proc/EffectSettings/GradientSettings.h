@@ -12,6 +12,13 @@ class OMBREL_API GradientSettings : public EffectSettingsOneInputReflection<Proc
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    GradientSettings();
+    GradientSettings(const GradientSettings&);
+    GradientSettings(GradientSettings&&) noexcept;
+    GradientSettings& operator=(const GradientSettings&);
+    GradientSettings& operator=(GradientSettings&&) noexcept;
+    ~GradientSettings() override;
+
     const std::string& GetClassId() const override;
 };
 

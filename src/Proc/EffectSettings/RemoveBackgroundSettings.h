@@ -13,6 +13,13 @@ class OMBREL_API RemoveBackgroundSettings
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    RemoveBackgroundSettings();
+    RemoveBackgroundSettings(const RemoveBackgroundSettings&);
+    RemoveBackgroundSettings(RemoveBackgroundSettings&&) noexcept;
+    RemoveBackgroundSettings& operator=(const RemoveBackgroundSettings&);
+    RemoveBackgroundSettings& operator=(RemoveBackgroundSettings&&) noexcept;
+    ~RemoveBackgroundSettings() override;
+
     const std::string& GetClassId() const override;
 };
 

@@ -67,6 +67,13 @@ const Proc::RecordSchema& ResizeSettings::Schema() noexcept
                                  FieldDescriptor<&R::m_frameInfo>, FieldDescriptor<&R::m_scaleFactor>>>();
 }
 
+ResizeSettings::ResizeSettings() = default;
+ResizeSettings::ResizeSettings(const ResizeSettings&) = default;
+ResizeSettings::ResizeSettings(ResizeSettings&&) noexcept = default;
+ResizeSettings& ResizeSettings::operator=(const ResizeSettings&) = default;
+ResizeSettings& ResizeSettings::operator=(ResizeSettings&&) noexcept = default;
+ResizeSettings::~ResizeSettings() = default;
+
 const std::string& ResizeSettings::GetClassId() const
 {
     return EffectSettingsImpl::GetClassId();

@@ -44,6 +44,13 @@ public:
     using EffectSettingsImpl::operator==;
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    ResizeSettings();
+    ResizeSettings(const ResizeSettings&);
+    ResizeSettings(ResizeSettings&&) noexcept;
+    ResizeSettings& operator=(const ResizeSettings&);
+    ResizeSettings& operator=(ResizeSettings&&) noexcept;
+    ~ResizeSettings() override;
+
     const std::string& GetClassId() const override;
 
     /// What was entered with a physical unit; -1 for none.

@@ -12,6 +12,13 @@ class OMBREL_API SketchSettings : public EffectSettingsOneInputReflection<Proc::
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    SketchSettings();
+    SketchSettings(const SketchSettings&);
+    SketchSettings(SketchSettings&&) noexcept;
+    SketchSettings& operator=(const SketchSettings&);
+    SketchSettings& operator=(SketchSettings&&) noexcept;
+    ~SketchSettings() override;
+
     const std::string& GetClassId() const override;
 };
 

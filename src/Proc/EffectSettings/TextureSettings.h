@@ -12,6 +12,13 @@ class OMBREL_API TextureSettings : public EffectSettingsOneInputReflection<Proc:
 public:
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    TextureSettings();
+    TextureSettings(const TextureSettings&);
+    TextureSettings(TextureSettings&&) noexcept;
+    TextureSettings& operator=(const TextureSettings&);
+    TextureSettings& operator=(TextureSettings&&) noexcept;
+    ~TextureSettings() override;
+
     const std::string& GetClassId() const override;
 };
 

@@ -9,6 +9,13 @@ namespace Ombrel::PhotoCore
 
 template class EffectSettingsImpl<Proc::SettingsEffectTranspose, TransposeSettings>;
 
+TransposeSettings::TransposeSettings() = default;
+TransposeSettings::TransposeSettings(const TransposeSettings&) = default;
+TransposeSettings::TransposeSettings(TransposeSettings&&) noexcept = default;
+TransposeSettings& TransposeSettings::operator=(const TransposeSettings&) = default;
+TransposeSettings& TransposeSettings::operator=(TransposeSettings&&) noexcept = default;
+TransposeSettings::~TransposeSettings() = default;
+
 const std::string& TransposeSettings::GetClassId() const
 {
     return EffectSettingsImpl::GetClassId();

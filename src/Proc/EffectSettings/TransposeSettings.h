@@ -13,6 +13,13 @@ public:
     using EffectSettingsImpl::Add;
     using EffectSettingsReflection::EffectSettingsReflection;
 
+    TransposeSettings();
+    TransposeSettings(const TransposeSettings&);
+    TransposeSettings(TransposeSettings&&) noexcept;
+    TransposeSettings& operator=(const TransposeSettings&);
+    TransposeSettings& operator=(TransposeSettings&&) noexcept;
+    ~TransposeSettings() override;
+
     const std::string& GetClassId() const override;
 
     bool IsAdditive() const override;

@@ -1,6 +1,8 @@
 #ifndef OMBREL_PROC_REFLECTION_DEFAULT_RECORD_H
 #define OMBREL_PROC_REFLECTION_DEFAULT_RECORD_H
 
+#include "OmbrelExport.h"
+
 #include <concepts>
 
 namespace Ombrel::Proc

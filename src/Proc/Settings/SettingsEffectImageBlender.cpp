@@ -24,6 +24,13 @@ void SetFromBlendingMode(SettingsEffectImageBlender& record, Blender::BlendingMo
 
 OMBREL_EARLY_INIT const std::string SettingsEffectImageBlender::CLASS_ID{CLASS_NAME};
 
+SettingsEffectImageBlender::SettingsEffectImageBlender() = default;
+SettingsEffectImageBlender::SettingsEffectImageBlender(const SettingsEffectImageBlender&) = default;
+SettingsEffectImageBlender::SettingsEffectImageBlender(SettingsEffectImageBlender&&) noexcept = default;
+SettingsEffectImageBlender& SettingsEffectImageBlender::operator=(const SettingsEffectImageBlender&) = default;
+SettingsEffectImageBlender& SettingsEffectImageBlender::operator=(SettingsEffectImageBlender&&) noexcept = default;
+SettingsEffectImageBlender::~SettingsEffectImageBlender() = default;
+
 const std::string& SettingsEffectImageBlender::GetClassId() const
 {
     return ClassIdOf<SettingsEffectImageBlender>();

