@@ -3,6 +3,7 @@
 #include "catalogue/CatalogueFixture.h"
 
 #include <array>
+#include <atomic>
 #include <barrier>
 #include <cstddef>
 #include <functional>
@@ -241,6 +242,36 @@ TEST(Threads, FailEachByItself)
                 {
                     EXPECT_EQ(*boost::get_error_info<Ombrel::ErrorDescription>(failure),
                               "Unknown Effect Setting type (" + id + ")!");
+                }
+            }
+        });
+}
+
+TEST(Threads, FindWhatAnotherRegisters)
+{
+    constexpr int count = 100;
+    std::atomic<int> registered = 0;
+    OnAllThreads(
+        [&registered](std::size_t number)
+        {
+            const auto idOf = [](int index) { return "EFFECT_OF_A_THREAD_" + std::to_string(index); };
+            if (number == 0)
+            {
+                for (int index = 0; index < count; ++index)
+                {
+                    IEffectSettings::RegisterFactory(idOf(index), EffectClasses()[0].create);
+                    registered = index + 1;
+                }
+                return;
+            }
+            for (int known = 0; known < count;)
+            {
+                known = registered;
+                EXPECT_EQ(IEffectSettings::CreateEffectSettings("EFFECT_VIBRANCE")->GetClassId(), "EFFECT_VIBRANCE");
+                if (known != 0)
+                {
+                    EXPECT_TRUE(IEffectSettings::CreateEffectSettings(idOf(known - 1)));
+                    EXPECT_TRUE(IEffectSettings::CreateEffectSettings(idOf(0)));
                 }
             }
         });

@@ -92,6 +92,29 @@ TEST(Registry, CallsWhatWasRegistered)
     EXPECT_THROW(IEffectSettings::RegisterFactory("EFFECT_REGISTERED", &AcidSettings::CreateBase), Exception);
 }
 
+TEST(Registry, FindsEachOfManyWhateverTheirOrder)
+{
+    for (const char* id : {"EFFECT_M", "EFFECT_Z", "EFFECT_A", "EFFECT_MM", "A", "effect_m"})
+    {
+        IEffectSettings::RegisterFactory(id,
+                                         [id] { return id == std::string("EFFECT_Z") ? AcidSettings::CreateBase() : nullptr; });
+    }
+    EXPECT_EQ(IEffectSettings::CreateEffectSettings("EFFECT_Z")->GetClassId(), "EFFECT_ACID");
+    for (const char* id : {"EFFECT_A", "EFFECT_M", "EFFECT_MM", "A", "effect_m"})
+    {
+        EXPECT_FALSE(IEffectSettings::CreateEffectSettings(id)) << id;
+        EXPECT_THROW(IEffectSettings::RegisterFactory(id, nullptr), Exception) << id;
+    }
+    EXPECT_THROW(IEffectSettings::CreateEffectSettings("EFFECT_MMM"), Exception);
+    EXPECT_THROW(IEffectSettings::CreateEffectSettings("EFFECT_"), Exception);
+}
+
+TEST(Registry, AClassWithoutAFactoryMayBeGivenOne)
+{
+    IEffectSettings::RegisterFactory("EFFECT_MATTING", &AcidSettings::CreateBase);
+    EXPECT_EQ(IEffectSettings::CreateEffectSettings("EFFECT_MATTING")->GetClassId(), "EFFECT_ACID");
+}
+
 TEST(Registry, AnEmptyFunctionFailsWhenCalled)
 {
     IEffectSettings::RegisterFactory("EFFECT_EMPTY_FUNCTION", nullptr);

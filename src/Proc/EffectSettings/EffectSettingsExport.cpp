@@ -75,6 +75,7 @@
 #include "Proc/EffectSettings/PopArtSettings.h"
 #include "Proc/EffectSettings/PosterizeSettings.h"
 #include "Proc/EffectSettings/ReduceLocalLumaSettings.h"
+#include "Proc/EffectSettings/RegisteredFactories.h"
 #include "Proc/EffectSettings/RemoveBackgroundSettings.h"
 #include "Proc/EffectSettings/ReplaceChromaSettings.h"
 #include "Proc/EffectSettings/ResizeSettings.h"
@@ -97,21 +98,17 @@
 #include "Proc/EffectSettings/VignetteFilterSettings.h"
 #include "Proc/EffectSettings/VignetteSettings.h"
 #include "Proc/EffectSettings/WhiteBalanceSettings.h"
-#include "Proc/Lasting.h"
 #include "Proc/Reflection/SpelledName.h"
 #include "PropertyTree/KeyHead.h"
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <memory>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace Ombrel::PhotoCore
 {
@@ -334,62 +331,6 @@ private:
 
 constexpr OwnClasses OWN_CLASSES;
 
-// A factory of a caller's. It stays until the library is unloaded.
-struct RegisteredFactory
-{
-    std::string id;
-    IEffectSettings::Factory create;
-};
-
-// The callers' factories by their ids. A table never changes: a further factory makes a new table, which takes the place of the
-// old one as a whole. Old tables stay, since another thread may still look into them.
-struct FactoryTable
-{
-    const RegisteredFactory* Find(std::string_view id) const noexcept
-    {
-        const auto place = PlaceOf(id);
-        return place != factories.end() && (*place)->id == id ? *place : nullptr;
-    }
-
-    std::vector<const RegisteredFactory*>::const_iterator PlaceOf(std::string_view id) const noexcept
-    {
-        return std::ranges::lower_bound(factories, id, {},
-                                        [](const RegisteredFactory* factory) -> std::string_view { return factory->id; });
-    }
-
-    std::vector<const RegisteredFactory*> factories;
-    std::unique_ptr<const RegisteredFactory> added; // the one that the table before has not
-    std::unique_ptr<const FactoryTable> before;
-};
-
-struct CallersFactories
-{
-    CallersFactories() = default;
-    CallersFactories(const CallersFactories&) = delete;
-    CallersFactories& operator=(const CallersFactories&) = delete;
-
-    ~CallersFactories()
-    {
-        std::unique_ptr<const FactoryTable> last(table.load());
-        while (last) // one by one: the chain is as long as the list of registered factories
-        {
-            last = std::move(const_cast<FactoryTable&>(*last).before);
-        }
-    }
-
-    mutable std::atomic<const FactoryTable*> table = nullptr;
-};
-
-CallersFactories MakeCallersFactories()
-{
-    return {};
-}
-
-std::atomic<const FactoryTable*>& CurrentTable()
-{
-    return Proc::Lasting<&MakeCallersFactories>().table;
-}
-
 } // namespace
 
 std::span<const EffectClass> EffectClasses() noexcept
@@ -399,20 +340,10 @@ std::span<const EffectClass> EffectClasses() noexcept
 
 void IEffectSettings::RegisterFactory(const std::string& id, Factory factory)
 {
-    std::atomic<const FactoryTable*>& currentTable = CurrentTable();
-    auto table = std::make_unique<FactoryTable>();
-    table->added = std::make_unique<const RegisteredFactory>(RegisteredFactory{id, std::move(factory)});
-    const FactoryTable* before = currentTable.load(std::memory_order_acquire);
-    do
+    if (OWN_CLASSES.Find(id) || !RegisteredFactories::Get().Add(id, std::move(factory)))
     {
-        if (OWN_CLASSES.Find(id) || (before && before->Find(id)))
-        {
-            ThrowException("Duplicate class id (" + id + ")!", REGISTER_FACTORY_LOCATION);
-        }
-        table->factories = before ? before->factories : std::vector<const RegisteredFactory*>();
-        table->factories.insert(table->PlaceOf(id), table->added.get());
-    } while (!currentTable.compare_exchange_weak(before, table.get(), std::memory_order_acq_rel, std::memory_order_acquire));
-    table.release()->before.reset(before);
+        ThrowException("Duplicate class id (" + id + ")!", REGISTER_FACTORY_LOCATION);
+    }
 }
 
 std::shared_ptr<IEffectSettings> IEffectSettings::CreateEffectSettings(const std::string& id)
@@ -421,13 +352,12 @@ std::shared_ptr<IEffectSettings> IEffectSettings::CreateEffectSettings(const std
     {
         return own->create();
     }
-    const FactoryTable* table = CurrentTable().load(std::memory_order_acquire);
-    const RegisteredFactory* factory = table ? table->Find(id) : nullptr;
-    if (!factory)
+    const Factory* create = RegisteredFactories::Get().Find(id);
+    if (!create)
     {
         ThrowException("Unknown Effect Setting type (" + id + ")!", CREATE_EFFECT_SETTINGS_LOCATION);
     }
-    return factory->create();
+    return (*create)();
 }
 
 } // namespace Ombrel::PhotoCore

@@ -1,0 +1,87 @@
+#include "Proc/EffectSettings/RegisteredFactories.h"
+
+#include "Proc/Lasting.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace Ombrel::PhotoCore
+{
+namespace
+{
+
+struct RegisteredFactory
+{
+    std::string id;
+    IEffectSettings::Factory factory;
+};
+
+RegisteredFactories MakeEmpty()
+{
+    return {};
+}
+
+} // namespace
+
+struct RegisteredFactories::Table
+{
+    using List = std::vector<const RegisteredFactory*>;
+
+    List::const_iterator PlaceOf(std::string_view id) const noexcept
+    {
+        return std::ranges::lower_bound(sorted, id, {},
+                                        [](const RegisteredFactory* entry) -> std::string_view { return entry->id; });
+    }
+
+    const RegisteredFactory* Find(std::string_view id) const noexcept
+    {
+        const auto place = PlaceOf(id);
+        return place != sorted.end() && (*place)->id == id ? *place : nullptr;
+    }
+
+    List sorted; // by class id
+    std::unique_ptr<const RegisteredFactory> added;
+    const Table* before = nullptr; // without the added one
+};
+
+const RegisteredFactories& RegisteredFactories::Get()
+{
+    return Proc::Lasting<&MakeEmpty>();
+}
+
+RegisteredFactories::~RegisteredFactories()
+{
+    for (const Table* table = m_table.load(); table;)
+    {
+        const std::unique_ptr<const Table> last(std::exchange(table, table->before));
+    }
+}
+
+const IEffectSettings::Factory* RegisteredFactories::Find(std::string_view id) const noexcept
+{
+    const Table* table = m_table.load(std::memory_order_acquire);
+    const RegisteredFactory* found = table ? table->Find(id) : nullptr;
+    return found ? &found->factory : nullptr;
+}
+
+bool RegisteredFactories::Add(const std::string& id, IEffectSettings::Factory&& factory) const
+{
+    auto table = std::make_unique<Table>();
+    table->added = std::make_unique<const RegisteredFactory>(RegisteredFactory{id, std::move(factory)});
+    table->before = m_table.load(std::memory_order_acquire);
+    do
+    {
+        if (table->before && table->before->Find(id))
+        {
+            return false;
+        }
+        table->sorted = table->before ? table->before->sorted : Table::List();
+        table->sorted.insert(table->PlaceOf(id), table->added.get());
+    } while (!m_table.compare_exchange_weak(table->before, table.get(), std::memory_order_acq_rel, std::memory_order_acquire));
+    table.release();
+    return true;
+}
+
+} // namespace Ombrel::PhotoCore
