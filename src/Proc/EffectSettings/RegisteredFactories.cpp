@@ -12,12 +12,6 @@ namespace Ombrel::PhotoCore
 namespace
 {
 
-struct RegisteredFactory
-{
-    std::string id;
-    IEffectSettings::Factory factory;
-};
-
 RegisteredFactories MakeEmpty()
 {
     return {};
@@ -27,22 +21,27 @@ RegisteredFactories MakeEmpty()
 
 struct RegisteredFactories::Table
 {
-    using List = std::vector<const RegisteredFactory*>;
+    struct Entry
+    {
+        std::string id;
+        Factory factory;
+    };
+
+    using List = std::vector<const Entry*>;
 
     List::const_iterator PlaceOf(std::string_view id) const noexcept
     {
-        return std::ranges::lower_bound(sorted, id, {},
-                                        [](const RegisteredFactory* entry) -> std::string_view { return entry->id; });
+        return std::ranges::lower_bound(sorted, id, {}, [](const Entry* entry) -> std::string_view { return entry->id; });
     }
 
-    const RegisteredFactory* Find(std::string_view id) const noexcept
+    const Entry* Find(std::string_view id) const noexcept
     {
         const auto place = PlaceOf(id);
         return place != sorted.end() && (*place)->id == id ? *place : nullptr;
     }
 
     List sorted; // by class id
-    std::unique_ptr<const RegisteredFactory> added;
+    std::unique_ptr<const Entry> added;
     const Table* before = nullptr; // without the added one
 };
 
@@ -59,17 +58,17 @@ RegisteredFactories::~RegisteredFactories()
     }
 }
 
-const IEffectSettings::Factory* RegisteredFactories::Find(std::string_view id) const noexcept
+const RegisteredFactories::Factory* RegisteredFactories::Find(std::string_view id) const noexcept
 {
     const Table* table = m_table.load(std::memory_order_acquire);
-    const RegisteredFactory* found = table ? table->Find(id) : nullptr;
+    const Table::Entry* found = table ? table->Find(id) : nullptr;
     return found ? &found->factory : nullptr;
 }
 
-bool RegisteredFactories::Add(const std::string& id, IEffectSettings::Factory&& factory) const
+bool RegisteredFactories::Add(const std::string& id, Factory&& factory) const
 {
     auto table = std::make_unique<Table>();
-    table->added = std::make_unique<const RegisteredFactory>(RegisteredFactory{id, std::move(factory)});
+    table->added = std::make_unique<const Table::Entry>(Table::Entry{id, std::move(factory)});
     table->before = m_table.load(std::memory_order_acquire);
     do
     {

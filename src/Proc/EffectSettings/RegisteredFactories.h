@@ -15,6 +15,8 @@ namespace Ombrel::PhotoCore
 class RegisteredFactories
 {
 public:
+    using Factory = IEffectSettings::Factory;
+
     /// There before any initialiser of the program and after its destructors.
     static const RegisteredFactories& Get();
 
@@ -24,10 +26,10 @@ public:
     ~RegisteredFactories();
 
     /// The factory of the class id, or null.
-    const IEffectSettings::Factory* Find(std::string_view id) const noexcept;
+    const Factory* Find(std::string_view id) const noexcept;
 
     /// False if the class id has a factory already, which stays.
-    bool Add(const std::string& id, IEffectSettings::Factory&& factory) const;
+    bool Add(const std::string& id, Factory&& factory) const;
 
 private:
     struct Table;
