@@ -21,7 +21,10 @@ struct ChannelMixerFields
     template <Channel Row, Channel Column> static double Get(const Mixer& record) { return record.GetFactor(Row, Column); }
 
     template <KeyText Key, Channel Row, Channel Column>
-    using Factor = AccessorDescriptor<Key, &Set<Row, Column>, &Get<Row, Column>>;
+    struct Factor : AccessorDescriptor<Key, &Set<Row, Column>, &Get<Row, Column>>
+    {
+        static constexpr std::string_view ACCESS = "SetFactor, GetFactor";
+    };
 
     // clang-format off
     using List = FieldList<Factor<"RR", R, R>, Factor<"RG", R, G>, Factor<"RB", R, B>, Factor<"RA", R, A>,

@@ -14,11 +14,17 @@ struct HueSaturationFields
     template <auto Setter> static void SetMaster(R& record, float value) { (record.*Setter)(R::HueRange::Master, value); }
     template <auto Getter> static float GetMaster(const R& record) { return (record.*Getter)(R::HueRange::Master); }
 
-    using List = FieldList<AccessorDescriptor<"hueMaster", &SetMaster<&R::SetHue>, &GetMaster<&R::GetHue>>,
-                           AccessorDescriptor<"lightnessMaster", &SetMaster<&R::SetLightness>, &GetMaster<&R::GetLightness>>,
-                           AccessorDescriptor<"saturationMaster", &SetMaster<&R::SetSaturation>, &GetMaster<&R::GetSaturation>>,
-                           AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>,
-                           AccessorDescriptor<"overlap", &R::SetOverlap, &R::GetOverlap>>;
+    template <KeyText Key, auto Setter, auto Getter>
+    struct Master : AccessorDescriptor<Key, &SetMaster<Setter>, &GetMaster<Getter>>
+    {
+        static constexpr std::string_view ACCESS = ACCESSOR_NAMES<Setter, Getter>;
+    };
+
+    using List =
+        FieldList<Master<"hueMaster", &R::SetHue, &R::GetHue>, Master<"lightnessMaster", &R::SetLightness, &R::GetLightness>,
+                  Master<"saturationMaster", &R::SetSaturation, &R::GetSaturation>,
+                  AccessorDescriptor<"intensity", &R::SetIntensity, &R::GetIntensity>,
+                  AccessorDescriptor<"overlap", &R::SetOverlap, &R::GetOverlap>>;
 };
 
 } // namespace
