@@ -63,13 +63,15 @@ void Use(const EffectClass& effectClass, const char* when)
     }
     if (const Proc::RecordSchema* schema = effectClass.getSchema())
     {
+        // The background's map is always stored: that field never equals its default.
         Expect(schema->equal(schema->defaults(), schema->defaults()) || id == "EFFECT_REMOVE_BACKGROUND", when, id,
                "has a default that differs from itself");
-        for (const auto access = effect->GetPropertyAccess(); access && !access->ListProperties().empty();)
+    }
+    if (const auto access = effect->GetPropertyAccess())
+    {
+        for (const std::string& key : access->ListProperties())
         {
-            const std::string key = access->ListProperties().front();
             access->SetProperty(key, access->GetProperty(key));
-            break;
         }
     }
 }

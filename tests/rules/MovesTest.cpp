@@ -71,14 +71,6 @@ TEST(Construction, TakesAllValuesOrNone)
     static_assert(!std::is_constructible_v<SettingsEffectReduceLocalLuma, double>);
     static_assert(!std::is_constructible_v<SettingsEffectReduceLocalLuma, int, int, int, int>);
 
-    const SettingsEffectGuidedFilter filter(3, 4, 0.5);
-    EXPECT_EQ(filter.m_radius, 3);
-    EXPECT_EQ(filter.m_depth, 4);
-    EXPECT_EQ(filter.m_eps, 0.5);
-    const SettingsEffectGuidedFilter defaultFilter;
-    EXPECT_EQ(defaultFilter.m_radius, 10);
-    EXPECT_EQ(defaultFilter.m_depth, -1);
-    EXPECT_EQ(defaultFilter.m_eps, 1e-05);
     const SettingsEffectReduceLocalLuma luma(1, 2, 3, 4, 0.25);
     EXPECT_EQ(luma.m_x + 10 * luma.m_y + 100 * luma.m_width + 1000 * luma.m_height, 4321);
     EXPECT_EQ(luma.m_strength, 0.25);
