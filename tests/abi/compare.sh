@@ -12,6 +12,6 @@ if $update; then
     printf '%s\n%s\n' "$head" "$found" >"$list"
 elif ! diff --unified=0 --label "$list" --label "$library" <(sed '/^#/d' "$list") - <<<"$found"; then
     echo "FAILED: callers of the library depend on its names. What is gone or has changed breaks them; where that is meant, or" >&2
-    echo "something was added, build the target update-abi and look at what it does to the list." >&2
+    echo "something was added, run scripts/update and look at what it does to the list." >&2
     exit 1
 fi

@@ -6,6 +6,6 @@ set -euo pipefail
 rm -rf "$4"
 "$1" reference --notes "$2/notes" --examples "$3" --output "$4"
 if ! diff -r --unified=0 --exclude=notes "$2" "$4"; then
-    echo "docs/reference/ is out of date; run scripts/reference" >&2
+    echo "docs/reference/ is out of date; run scripts/update" >&2
     exit 1
 fi

@@ -314,7 +314,7 @@ private:
 };
 
 constexpr const char* WRITTEN_BY =
-    "<!-- Written by scripts/reference from the library, from notes/ and from examples/effects/. -->\n";
+    "<!-- Written by scripts/update from the library, from notes/ and from examples/effects/. -->\n";
 
 constexpr const char* HOW_TO_READ = R"(
 ## How to read a page
