@@ -158,11 +158,10 @@ const std::vector<Effect>& All()
     static const std::vector<Effect> rows = []
     {
         std::vector<Effect> all;
-        for (auto part : {&AdjusterRows, &BlurRows, &ChannelRows, &DeformationRows, &DenoiseRows, &DetailRows, &FaceRows,
-                          &FilmRows, &FrameworkRows, &GeometryRows, &GimpRows, &InpaintRows, &LevelsRows, &MaskRows,
-                          &NeuralRows, &StyliserRows, &ToningRows})
+        for (auto group : {&ArtisticRows, &BlurAndDetailRows, &ColourCorrectionRows, &ColourMappingRows, &FaceRows,
+                           &FrameworkRows, &GeometryRows, &MaskRows, &NeuralRows})
         {
-            std::ranges::move(part(), std::back_inserter(all));
+            std::ranges::move(group(), std::back_inserter(all));
         }
         return all;
     }();

@@ -154,24 +154,16 @@ void PrintTo(const Effect& effect, std::ostream* out);
 /// All rows, in no particular order.
 const std::vector<Effect>& All();
 
-/// The rows of the parts of the catalogue.
-std::vector<Effect> AdjusterRows();
-std::vector<Effect> BlurRows();
-std::vector<Effect> ChannelRows();
-std::vector<Effect> DeformationRows();
-std::vector<Effect> DenoiseRows();
-std::vector<Effect> DetailRows();
+/// The rows, grouped as the pages of the reference; the rows of its page on colour are in two files.
+std::vector<Effect> ArtisticRows();
+std::vector<Effect> BlurAndDetailRows();
+std::vector<Effect> ColourCorrectionRows();
+std::vector<Effect> ColourMappingRows();
 std::vector<Effect> FaceRows();
-std::vector<Effect> FilmRows();
 std::vector<Effect> FrameworkRows();
 std::vector<Effect> GeometryRows();
-std::vector<Effect> GimpRows();
-std::vector<Effect> InpaintRows();
-std::vector<Effect> LevelsRows();
 std::vector<Effect> MaskRows();
 std::vector<Effect> NeuralRows();
-std::vector<Effect> StyliserRows();
-std::vector<Effect> ToningRows();
 
 /// A map of all keys with their defaults, as property access shows them.
 Ombrel::PropertyTree DefaultForm(const std::vector<Field>& fields);

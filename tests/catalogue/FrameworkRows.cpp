@@ -39,13 +39,6 @@ std::vector<Effect> FrameworkRows()
             .isRecordEmpty = true,
         },
         {
-            .className = "EmptySettings",
-            .classId = "EFFECT_EMPTY",
-            .inputType = InputType::One,
-            .place = Place{43},
-            .fields = {NotCompared(String("value", ""))},
-        },
-        {
             .className = "EffectSettingsSimple",
             .classId = "effectSettingsSimple",
             .inputType = InputType::One,
@@ -54,6 +47,13 @@ std::vector<Effect> FrameworkRows()
             .isRecordEmpty = true,
             .hasPropertyAccess = false,
             .equalsItsCopy = false,
+        },
+        {
+            .className = "EmptySettings",
+            .classId = "EFFECT_EMPTY",
+            .inputType = InputType::One,
+            .place = Place{43},
+            .fields = {NotCompared(String("value", ""))},
         },
         {
             .className = "TileSettings",

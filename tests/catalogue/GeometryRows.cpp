@@ -1,3 +1,5 @@
+#include "Proc/EffectSettings/ImplodeSettings.h"
+#include "Proc/EffectSettings/PixelateSettings.h"
 #include "Proc/EffectSettings/ResizeSettings.h"
 #include "Proc/EffectSettings/RotateSettings.h"
 #include "Proc/EffectSettings/TransposeSettings.h"
@@ -5,6 +7,8 @@
 
 using InputType = Ombrel::PhotoCore::IEffectSettings::InputType;
 using Ombrel::PhotoCore::IEffectSettings;
+using Ombrel::PhotoCore::ImplodeSettings;
+using Ombrel::PhotoCore::PixelateSettings;
 using Ombrel::PhotoCore::ResizeSettings;
 using Ombrel::PhotoCore::RotateSettings;
 using Ombrel::PhotoCore::TransposeSettings;
@@ -13,6 +17,27 @@ namespace Catalogue
 {
 namespace
 {
+
+std::int32_t ImplodeMode(const IEffectSettings& effect)
+{
+    return static_cast<std::int32_t>(dynamic_cast<const ImplodeSettings&>(effect).GetTypedSettings().m_mode);
+}
+
+std::int32_t MethodDownscale(const IEffectSettings& effect)
+{
+    return static_cast<std::int32_t>(dynamic_cast<const PixelateSettings&>(effect).GetTypedSettings().m_methodDownscale);
+}
+
+std::int32_t MethodUpscale(const IEffectSettings& effect)
+{
+    return static_cast<std::int32_t>(dynamic_cast<const PixelateSettings&>(effect).GetTypedSettings().m_methodUpscale);
+}
+
+std::vector<EnumName> ScaleMethods()
+{
+    return {{"enFastBilinear", 0}, {"enBilinear", 1}, {"enBicubic", 2}, {"enX", 3},       {"enPoint", 4},  {"enArea", 5},
+            {"enBicublin", 6},     {"enGauss", 7},    {"enSinc", 8},    {"enLanczos", 9}, {"enSpline", 10}};
+}
 
 std::int32_t OutputSizeMode(const IEffectSettings& effect)
 {
@@ -51,6 +76,23 @@ std::vector<Effect> GeometryRows()
             .isAdditive = true,
         },
         {
+            .className = "DirectionalAreaDeformationSettings",
+            .classId = "EFFECT_DIRECTIONAL_AREA_DEFORMATION",
+            .inputType = InputType::One,
+            .place = Place{39},
+            .fields = {Float64("strength", 0.0), Int32("fromX", 0), Int32("fromY", 0), Int32("toX", 0), Int32("toY", 0),
+                       Int32("size", 0)},
+            .isRecordEmpty = true,
+        },
+        {
+            .className = "FishEyeSettings",
+            .classId = "EFFECT_FISH_EYE",
+            .inputType = InputType::One,
+            .place = Place{48},
+            .fields = {Scaled(Float64("deviation", 0.0)), Float32("intensity", 1.0f)},
+            .isRecordEmpty = true,
+        },
+        {
             .className = "FlipSettings",
             .classId = "EFFECT_FLIP",
             .inputType = InputType::One,
@@ -58,6 +100,23 @@ std::vector<Effect> GeometryRows()
             .fields = {Bool("horizontal", false), Bool("vertical", false)},
             .isRecordEmpty = true,
             .isAdditive = true,
+        },
+        {
+            .className = "ImplodeSettings",
+            .classId = "EFFECT_IMPLODE",
+            .inputType = InputType::One,
+            .place = Place{60},
+            .fields = {Float64("strength", 0.0), Enum("mode", "Shrink", {{"Shrink", 0}, {"Expand", 1}}, 0, &ImplodeMode)},
+            .isRecordEmpty = true,
+        },
+        {
+            .className = "PixelateSettings",
+            .classId = "EFFECT_PIXELATE",
+            .inputType = InputType::One,
+            .place = Place{67},
+            .fields = {Float64("strength", 0.0), Enum("methodDownscale", "enBilinear", ScaleMethods(), 0, &MethodDownscale),
+                       Enum("methodUpscale", "enPoint", ScaleMethods(), 0, &MethodUpscale)},
+            .isRecordEmpty = true,
         },
         {
             .className = "ResizeSettings",

@@ -1,9 +1,66 @@
+#include "Proc/EffectSettings/SegmentationSettings.h"
 #include "catalogue/Catalogue.h"
 
 using InputType = Ombrel::PhotoCore::IEffectSettings::InputType;
+using Ombrel::PhotoCore::IEffectSettings;
+using Ombrel::PhotoCore::SegmentationSettings;
 
 namespace Catalogue
 {
+namespace
+{
+
+std::int32_t AlgorithmOf(const IEffectSettings& effect)
+{
+    return static_cast<std::int32_t>(dynamic_cast<const SegmentationSettings&>(effect).GetTypedSettings().m_algorithm);
+}
+
+Effect SegmentationRow()
+{
+    return {
+        .className = "SegmentationSettings",
+        .classId = "EFFECT_SEGMENTATION",
+        .inputType = InputType::Two,
+        .place = Place{92},
+        .fields =
+            {
+                Enum("algorithm", "GridGraph", {{"Auto", 0}, {"GrabCut", 1}, {"GridGraph", 2}, {"Watershed", 3}}, 0,
+                     &AlgorithmOf),
+                Int32("foreground", 255),
+                Int32("background", 0),
+                Int32("alpha", 255),
+                Int32("smooth", 0),
+                Bool("keepSelection", false),
+                Bool("showProgress", true),
+                NotCompared(Bool("demoMode", false)),
+                NotCompared(Color("demoColor", "00ff00ff")),
+            },
+    };
+}
+
+Effect RemoveBackgroundRow()
+{
+    return {
+        .className = "RemoveBackgroundSettings",
+        .classId = "EFFECT_REMOVE_BACKGROUND",
+        .inputType = InputType::Var,
+        .place = Place{71},
+        .fields =
+            {
+                Int32("smooth", 0),
+                Int32("morph", 0),
+                Int32("adapt", 0),
+                Float64("x", 0.5),
+                Float64("y", 0.5),
+                Float64("scaleX", 1.0),
+                Float64("scaleY", 1.0),
+                AlwaysWritten(
+                    NotCompared(Record("backgroundSettings", {String("bgFileName", ""), Color("bgColor", "000000ff")}))),
+            },
+    };
+}
+
+} // namespace
 
 std::vector<Effect> NeuralRows()
 {
@@ -102,6 +159,36 @@ std::vector<Effect> NeuralRows()
                 },
             .isRecordEmpty = true,
         },
+        {
+            .className = "ImageInpainterSettings",
+            .classId = "EFFECT_IMAGE_INPAINTER",
+            .inputType = InputType::Two,
+            .place = Place{61},
+            .fields = {},
+        },
+        {
+            .className = "InpaintSettings",
+            .classId = "EFFECT_INPAINT",
+            .inputType = InputType::Two,
+            .place = Place{62},
+            .fields = {Float64("lookupSize", 0.0), Int32("patchSize", 11)},
+        },
+        {
+            .className = "MattingSettings",
+            .classId = "EFFECT_MATTING",
+            .inputType = InputType::One,
+            .place = Place::None,
+            .fields = {},
+        },
+        {
+            .className = "ReduceLocalLumaSettings",
+            .classId = "EFFECT_REDUCE_LOCAL_LUMA",
+            .inputType = InputType::Two,
+            .place = Place{70},
+            .fields = {Int32("x", 0), Int32("y", 0), Int32("width", 0), Int32("height", 0), Float64("strength", 1.0)},
+        },
+        RemoveBackgroundRow(),
+        SegmentationRow(),
     };
 }
 

@@ -1,13 +1,17 @@
 #include "Proc/EffectSettings/LightLeaksSettings.h"
+#include "Proc/EffectSettings/PopArtSettings.h"
 #include "Proc/EffectSettings/TextureSettings.h"
 #include "Proc/EffectSettings/VignetteFilterSettings.h"
 #include "catalogue/Catalogue.h"
+#include "support/CompositeOperators.h"
 
 using InputType = Ombrel::PhotoCore::IEffectSettings::InputType;
 using Ombrel::PhotoCore::LightLeaksSettings;
+using Ombrel::PhotoCore::PopArtSettings;
 using Ombrel::PhotoCore::TextureSettings;
 using Ombrel::PhotoCore::VignetteFilterSettings;
 using Ombrel::Proc::SettingsEffectLightLeaks;
+using Ombrel::Proc::SettingsEffectPopArt;
 using Ombrel::Proc::SettingsEffectTexture;
 using Ombrel::Proc::SettingsEffectVignetteFilter;
 
@@ -24,11 +28,51 @@ std::vector<EnumName> LeakPresets()
             {"enPreset13", 12}, {"enPreset14", 13}, {"enPreset15", 14}, {"enPreset16", 15}};
 }
 
+std::vector<Field> CharcoalFields()
+{
+    return {Int32("radius", 0), Float64("sigma", 0.5)};
+}
+
+std::vector<EnumName> CompositeOperators()
+{
+    std::vector<EnumName> names;
+    for (const Support::OperatorName& row : Support::COMPOSITE_OPERATORS)
+    {
+        names.push_back({row.name, row.number});
+    }
+    return names;
+}
+
+// The mode differs from the default of a radial blur, so that another value has to tell it from that of a sketch.
+Field Motion()
+{
+    Field motion = Record("motion", RadialBlurFields(), {{"mode", "Linear"}, {"strength", 0.1}, {"angle", 135.0}});
+    motion.sample["x"] = 0.3;
+    return motion;
+}
+
 } // namespace
 
-std::vector<Effect> FilmRows()
+std::vector<Effect> ArtisticRows()
 {
     return {
+        {
+            .className = "CharcoalSettings",
+            .classId = "EFFECT_CHARCOAL",
+            .inputType = InputType::One,
+            .place = Place{14},
+            .fields = CharcoalFields(),
+            .isRecordEmpty = true,
+        },
+        {
+            .className = "HalfToneSettings",
+            .classId = "EFFECT_HALF_TONE",
+            .inputType = InputType::One,
+            .place = Place{58},
+            .fields = {Color("backgroundColor", "ffffffff"), Color("dotColor", "000000ff"), Float64("colourSize", 0.0),
+                       Float64("dotSize", 0.0), Float64("threshold", 0.0), Int32("angle", 0)},
+            .isRecordEmpty = true,
+        },
         {
             .className = "LightLeaksSettings",
             .classId = "EFFECT_LIGHT_LEAKS",
@@ -38,6 +82,35 @@ std::vector<Effect> FilmRows()
                             &NumberIn<LightLeaksSettings, &SettingsEffectLightLeaks::GetPreset>)},
         },
         {
+            .className = "OilPaintSettings",
+            .classId = "EFFECT_OIL_PAINT",
+            .inputType = InputType::One,
+            .place = Place{66},
+            .fields = {Scaled(Int32("radius", 0)), Float32("intensity", 1.0f)},
+            .isRecordEmpty = true,
+        },
+        {
+            .className = "PopArtSettings",
+            .classId = "EFFECT_POP_ART",
+            .inputType = InputType::One,
+            .place = Place{68},
+            .fields =
+                {
+                    Float64("saturation", 0.0),
+                    Float64("hue", 0.0),
+                    Float64("offset", 0.0),
+                    Float64("scale", 1.0),
+                    Int32("levels", 0),
+                    Int32("amountVertical", 1),
+                    Int32("amountHorizontal", 1),
+                    Bool("invertScale", false),
+                    Float32("intensity", 0.0f),
+                    Enum("disproportionPolicy", "Shrink", {{"Shrink", 0}, {"Expand", 1}}, 0,
+                         &NumberIn<PopArtSettings, &SettingsEffectPopArt::GetDisproportionPolicy>),
+                },
+            .isRecordEmpty = true,
+        },
+        {
             .className = "RetroArtefactsSettings",
             .classId = "EFFECT_RETRO_ARTEFACTS",
             .inputType = InputType::One,
@@ -45,6 +118,21 @@ std::vector<Effect> FilmRows()
             .fields = {Bool("shake", false), Bool("vignetting", false), Scaled(UInt32("grain", 0)),
                        Scaled(UInt32("scratches", 0)), Scaled(UInt32("rollerTrack", 0)), Float32("intensity", 1.0f)},
             .isRecordEmpty = true,
+        },
+        {
+            .className = "SketchSettings",
+            .classId = "EFFECT_SKETCH",
+            .inputType = InputType::One,
+            .place = Place{80},
+            .fields =
+                {
+                    Color("color", "000000ff"),
+                    Record("noise", NoiseFields(), {{"strength", 100}}),
+                    Motion(),
+                    Record("charcoal", CharcoalFields(), {{"radius", 3}, {"sigma", 3.0}}),
+                    Record("compose", {Enum("operator", "UndefinedCompositeOp", CompositeOperators(), 0, nullptr)},
+                           {{"operator", "ColorDodgeCompositeOp"}}),
+                },
         },
         {
             .className = "TextureSettings",
