@@ -63,6 +63,7 @@ std::vector<Effect> ArtisticRows()
             .place = Place{14},
             .fields = CharcoalFields(),
             .isRecordEmpty = true,
+            .filledBy = Keys{"radius"},
         },
         {
             .className = "HalfToneSettings",
@@ -152,6 +153,7 @@ std::vector<Effect> ArtisticRows()
                     String("texture", ""),
                 },
             .isRecordEmpty = true,
+            .filledBy = Keys{},
         },
         {
             .className = "VignetteFilterSettings",

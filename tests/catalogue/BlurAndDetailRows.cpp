@@ -76,6 +76,7 @@ std::vector<Effect> BlurAndDetailRows()
                     Float64("imageThreshold", 0.75),
                 },
             .isRecordEmpty = true,
+            .filledBy = Keys{},
         },
         {
             .className = "BlurMotionSettings",
@@ -84,6 +85,7 @@ std::vector<Effect> BlurAndDetailRows()
             .place = Place{11},
             .fields = {Int32("radius", 0), Float64("sigma", 0.0), Float64("angle", 0.0)},
             .isRecordEmpty = true,
+            .filledBy = Keys{"radius"},
         },
         {
             .className = "BlurRadialSettings",

@@ -111,6 +111,12 @@ Field NotCompared(Field field)
     return field;
 }
 
+Field Tolerant(Field field, double tolerance)
+{
+    field.tolerance = tolerance;
+    return field;
+}
+
 Field Appended(Field field)
 {
     field.isAppended = true;

@@ -8,6 +8,7 @@
 #include <functional>
 #include <initializer_list>
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -60,6 +61,7 @@ struct Field
     bool takesNumbers = false; // of an enumeration: whether an integer is read as its number
 
     bool isCompared = true; // whether the effect's comparison looks at it
+    double tolerance = 0.0; // of a float: values that differ by less are equal; at 0, only equal values are
     bool isScaled = false;  // whether it is shown times the effect's intensity, and comes back as set only where that is 1
     bool isAlwaysWritten = false; // whether a nested record stands in the tree even by default, as an empty map
     bool isAppended = false; // whether a read adds to what is there, so that the empty default of a missing key adds nothing
@@ -109,6 +111,9 @@ Field OfNames(Field field, std::vector<EnumName> names, std::int32_t fallback);
 /// The same field, left out of the effect's comparison.
 Field NotCompared(Field field);
 
+/// The same float, two values of which are equal if they differ by less than `tolerance`.
+Field Tolerant(Field field, double tolerance);
+
 /// The same field, a list that a read extends.
 Field Appended(Field field);
 
@@ -130,6 +135,8 @@ enum class Place : std::int32_t
     None = -1,   // not registered
 };
 
+using Keys = std::vector<std::string>;
+
 struct Effect
 {
     std::string className;
@@ -141,6 +148,10 @@ struct Effect
     // Of a default object.
     bool isEmpty = false;
     bool isRecordEmpty = false;
+
+    // Of a record that is empty by default: the keys whose samples each make it something else. Every key does that if none are
+    // given.
+    std::optional<Keys> filledBy = std::nullopt;
 
     bool isAdditive = false;
     bool hasPropertyAccess = true;

@@ -172,6 +172,7 @@ std::vector<Effect> ColourMappingRows()
                     Int32("alpha", 0),
                 },
             .isRecordEmpty = true,
+            .filledBy = Keys{"alpha"},
         },
         {
             .className = "ColorspaceConverterSettings",

@@ -104,6 +104,7 @@ std::vector<Effect> FaceRows()
             .place = Place{44},
             .fields = {Record("eyes", {EyeField("left", 11), EyeField("right", 13)}), Float64("strength", 0.0)},
             .isRecordEmpty = true,
+            .filledBy = Keys{},
         },
         {
             .className = "FaceDetectionSettings",
@@ -120,6 +121,7 @@ std::vector<Effect> FaceRows()
             .fields = {Other("currentFaceIndex", Kind::UInt64, 0, std::int64_t{5000000000}),
                        Other("facesEffects", Kind::List, List({}), SampleItems())},
             .isRecordEmpty = true,
+            .filledBy = Keys{"facesEffects"},
         },
         {
             .className = "FaceThinningSettings",
@@ -128,6 +130,7 @@ std::vector<Effect> FaceRows()
             .place = Place{47},
             .fields = {ContourField("faceOutline"), Float64("strength", 0.0)},
             .isRecordEmpty = true,
+            .filledBy = Keys{"strength"},
         },
     };
 }

@@ -24,8 +24,6 @@ std::pair<PropertyTree, PropertyTree> ChangedByItsKind(Kind kind)
         return {5000000000.75, 5000000000};
     case Kind::Float64:
         return {3, 3.0};
-    case Kind::Float32:
-        return {0.1, 0.10000000149011612};
     default:
         return {};
     }
@@ -111,6 +109,25 @@ TEST_P(CatalogueTest, ComparesWhatItSays)
         EXPECT_EQ(*effect == *Make(), !field.isCompared) << field.key;
         EXPECT_EQ(*effect != *Make(), field.isCompared) << field.key;
         EXPECT_EQ(effect->GetEffectSettings().GetClassId(), GetParam().classId);
+    }
+}
+
+TEST_P(CatalogueTest, IsEmptyUntilAKeyFillsIt)
+{
+    for (const Field& field : GetParam().fields)
+    {
+        const bool fills = !GetParam().filledBy || std::ranges::count(*GetParam().filledBy, field.key) != 0;
+        const auto effect = Make();
+        Set(*effect, field.key, field.sample);
+        EXPECT_EQ(effect->GetEffectSettings().IsEmpty(), GetParam().isRecordEmpty && !fills) << field.key;
+        EXPECT_EQ(effect->IsEmpty(), GetParam().isEmpty && !fills) << field.key;
+
+        effect->Deserialize(Map({}));
+        if (!field.isAppended)
+        {
+            EXPECT_EQ(effect->GetEffectSettings().IsEmpty(), GetParam().isRecordEmpty) << field.key;
+            EXPECT_EQ(effect->IsEmpty(), GetParam().isEmpty) << field.key;
+        }
     }
 }
 

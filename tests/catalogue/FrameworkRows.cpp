@@ -37,6 +37,7 @@ std::vector<Effect> FrameworkRows()
             .place = Place{1},
             .fields = {Int32("radius", 0), Float64("sigma", 0.5)},
             .isRecordEmpty = true,
+            .filledBy = Keys{"radius"},
         },
         {
             .className = "EffectSettingsSimple",

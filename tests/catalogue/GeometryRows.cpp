@@ -83,6 +83,7 @@ std::vector<Effect> GeometryRows()
             .fields = {Float64("strength", 0.0), Int32("fromX", 0), Int32("fromY", 0), Int32("toX", 0), Int32("toY", 0),
                        Int32("size", 0)},
             .isRecordEmpty = true,
+            .filledBy = Keys{"strength"},
         },
         {
             .className = "FishEyeSettings",
@@ -108,15 +109,18 @@ std::vector<Effect> GeometryRows()
             .place = Place{60},
             .fields = {Float64("strength", 0.0), Enum("mode", "Shrink", {{"Shrink", 0}, {"Expand", 1}}, 0, &ImplodeMode)},
             .isRecordEmpty = true,
+            .filledBy = Keys{"strength"},
         },
         {
             .className = "PixelateSettings",
             .classId = "EFFECT_PIXELATE",
             .inputType = InputType::One,
             .place = Place{67},
-            .fields = {Float64("strength", 0.0), Enum("methodDownscale", "enBilinear", ScaleMethods(), 0, &MethodDownscale),
+            .fields = {Tolerant(Float64("strength", 0.0), 1e-5),
+                       Enum("methodDownscale", "enBilinear", ScaleMethods(), 0, &MethodDownscale),
                        Enum("methodUpscale", "enPoint", ScaleMethods(), 0, &MethodUpscale)},
             .isRecordEmpty = true,
+            .filledBy = Keys{"strength"},
         },
         {
             .className = "ResizeSettings",
@@ -125,7 +129,7 @@ std::vector<Effect> GeometryRows()
             .place = Place{73},
             .fields =
                 {
-                    Float64("resolution", -1.0),
+                    Tolerant(Float64("resolution", -1.0), 1e-5),
                     NotCompared(Enum("uom", "pixels",
                                      {{"pixels", 0}, {"percents", 1}, {"cm", 2}, {"inches", 3}, {"mm", 4}, {"points", 5}}, 0,
                                      &Unit)),
@@ -134,6 +138,7 @@ std::vector<Effect> GeometryRows()
                     NotCompared(Float64("scaleFactor", 1.0)),
                 },
             .isRecordEmpty = true,
+            .filledBy = Keys{},
             .hasPropertyAccess = false,
         },
         {

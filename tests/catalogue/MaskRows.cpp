@@ -95,6 +95,7 @@ std::vector<Effect> MaskRows()
                 },
             .isEmpty = true,
             .isRecordEmpty = true,
+            .filledBy = Keys{"foregroundEffects", "backgroundEffects"},
         },
         {
             .className = "ShapeMaskSettings",

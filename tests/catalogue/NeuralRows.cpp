@@ -158,6 +158,7 @@ std::vector<Effect> NeuralRows()
                     NotCompared(Int32("denoiseBlurSigma", 10)),
                 },
             .isRecordEmpty = true,
+            .filledBy = Keys{"modelName"},
         },
         {
             .className = "ImageInpainterSettings",
@@ -171,7 +172,7 @@ std::vector<Effect> NeuralRows()
             .classId = "EFFECT_INPAINT",
             .inputType = InputType::Two,
             .place = Place{62},
-            .fields = {Float64("lookupSize", 0.0), Int32("patchSize", 11)},
+            .fields = {Tolerant(Float64("lookupSize", 0.0), 1e-5), Int32("patchSize", 11)},
         },
         {
             .className = "MattingSettings",

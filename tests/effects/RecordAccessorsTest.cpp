@@ -1,5 +1,6 @@
 #include "Proc/EffectSettings/BlendSettings.h"
 #include "Proc/EffectSettings/BlurSettings.h"
+#include "Proc/EffectSettings/ColorFilterSettings.h"
 #include "Proc/EffectSettings/CropSettings.h"
 #include "Proc/EffectSettings/DenoiseChromaLumaSettings.h"
 #include "Proc/EffectSettings/DenoiseDCTSettings.h"
@@ -7,11 +8,16 @@
 #include "Proc/EffectSettings/EdgeDetectSettings.h"
 #include "Proc/EffectSettings/EmbossSettings.h"
 #include "Proc/EffectSettings/FlipSettings.h"
+#include "Proc/EffectSettings/GIMPColorCorrectionSettings.h"
+#include "Proc/EffectSettings/GIMPColorTemperatureSettings.h"
+#include "Proc/EffectSettings/GIMPColorizeSettings.h"
+#include "Proc/EffectSettings/GIMPShadowsHightlightsSettings.h"
 #include "Proc/EffectSettings/HalfToneSettings.h"
 #include "Proc/EffectSettings/NoiseVideoSettings.h"
 #include "Proc/EffectSettings/PopArtSettings.h"
 #include "Proc/EffectSettings/PosterizeSettings.h"
 #include "Proc/EffectSettings/RetroArtefactsSettings.h"
+#include "Proc/EffectSettings/RetroColorsSettings.h"
 #include "Proc/EffectSettings/RotateSettings.h"
 #include "Proc/EffectSettings/VignetteFilterSettings.h"
 #include "support/StoredForm.h"
@@ -192,6 +198,69 @@ TEST(RecordAccessors, OfPosterize)
     ExpectNumber<PosterizeSettings>("seed", &R::SetSeed, &R::GetSeed, WHOLE);
     ExpectNumber<PosterizeSettings>("colors", &R::SetColorsNumber, &R::GetColorsNumber, WHOLE);
     ExpectNumber<PosterizeSettings>("intensity", &R::SetIntensity, &R::GetIntensity, 0.375f);
+}
+
+TEST(RecordAccessors, OfColorFilter)
+{
+    using R = SettingsEffectColorFilter;
+    using Effect = ColorFilterSettings;
+    ExpectAccess<Effect>("preset", &R::SetPreset, &R::GetPreset, R::Preset::enPraset07, "enPraset07");
+    ExpectNumber<Effect>("filterId", &R::SetFilterId, &R::GetFilterId, WHOLE);
+    ExpectNumber<Effect>("RFactor", &R::SetRFactor, &R::GetRFactor, 0.375f);
+    ExpectNumber<Effect>("GFactor", &R::SetGFactor, &R::GetGFactor, 0.375f);
+    ExpectNumber<Effect>("BFactor", &R::SetBFactor, &R::GetBFactor, 0.375f);
+    ExpectNumber<Effect>("colorFactor", &R::SetColorFactor, &R::GetColorFactor, 0.375f);
+    ExpectNumber<Effect>("intensity", &R::SetIntensity, &R::GetIntensity, 0.375f);
+}
+
+TEST(RecordAccessors, OfGIMPColorCorrection)
+{
+    using R = SettingsEffectGIMPColorCorrection;
+    using Effect = GIMPColorCorrectionSettings;
+    ExpectNumber<Effect>("brightness", &R::SetBrightness, &R::GetBrightness, 0.375f);
+    ExpectNumber<Effect>("contrast", &R::SetContrast, &R::GetContrast, 0.375f);
+}
+
+TEST(RecordAccessors, OfGIMPColorTemperature)
+{
+    using R = SettingsEffectGIMPColorTemperature;
+    using Effect = GIMPColorTemperatureSettings;
+    ExpectNumber<Effect>("originalTemperature", &R::SetOriginalTemperature, &R::GetOriginalTemperature, 0.375f);
+    ExpectNumber<Effect>("intendedTemperature", &R::SetIntendedTemperature, &R::GetIntendedTemperature, 0.375f);
+    ExpectNumber<Effect>("intensity", &R::SetIntensity, &R::GetIntensity, 0.375f);
+}
+
+TEST(RecordAccessors, OfGIMPColorize)
+{
+    using R = SettingsEffectGIMPColorize;
+    using Effect = GIMPColorizeSettings;
+    ExpectNumber<Effect>("hue", &R::SetHue, &R::GetHue, 0.375f);
+    ExpectNumber<Effect>("saturation", &R::SetSaturation, &R::GetSaturation, 0.375f);
+    ExpectNumber<Effect>("lightness", &R::SetLightness, &R::GetLightness, 0.375f);
+    ExpectNumber<Effect>("red", &R::SetRed, &R::GetRed, 0.375f);
+    ExpectNumber<Effect>("green", &R::SetGreen, &R::GetGreen, 0.375f);
+    ExpectNumber<Effect>("blue", &R::SetBlue, &R::GetBlue, 0.375f);
+    ExpectNumber<Effect>("intensity", &R::SetIntensity, &R::GetIntensity, 0.375f);
+}
+
+TEST(RecordAccessors, OfGIMPShadowsHightlights)
+{
+    using R = SettingsEffectGIMPShadowsHightlights;
+    using Effect = GIMPShadowsHightlightsSettings;
+    ExpectNumber<Effect>("shadows", &R::SetShadows, &R::GetShadows, 0.375f);
+    ExpectNumber<Effect>("shadowsColorCorrect", &R::SetShadowsColorCorrect, &R::GetShadowsColorCorrect, 0.375f);
+    ExpectNumber<Effect>("highlights", &R::SetHighlights, &R::GetHighlights, 0.375f);
+    ExpectNumber<Effect>("highlightsColorCorrect", &R::SetHighlightsColorCorrect, &R::GetHighlightsColorCorrect, 0.375f);
+    ExpectNumber<Effect>("whitepoint", &R::SetWhitepoint, &R::GetWhitepoint, 0.375f);
+    ExpectNumber<Effect>("compress", &R::SetCompress, &R::GetCompress, 0.375f);
+    ExpectNumber<Effect>("intensity", &R::SetIntensity, &R::GetIntensity, 0.375f);
+}
+
+TEST(RecordAccessors, OfRetroColors)
+{
+    using R = SettingsEffectRetroColors;
+    ExpectAccess<RetroColorsSettings>("type", &R::SetType, &R::GetType, R::RetroType::enSepia, "enSepia");
+    ExpectNumber<RetroColorsSettings>("intensity", &R::SetIntensity, &R::GetIntensity, 0.375f);
 }
 
 TEST(RecordAccessors, OfRetroArtefacts)
