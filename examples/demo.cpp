@@ -1,5 +1,6 @@
 // What an editor does with its stored effects, on the lists beside this file: reads them, makes the effects by their class
-// ids, changes one value by its key, compares with the original and writes everything back.
+// ids, changes one value by its key, compares with the original and writes everything back. In packages.json effects stand in
+// packages that stand in one another.
 
 #include "Proc/EffectSettings/EffectSettings.h"
 #include "PropertyTree/PropertyTree.h"
@@ -161,24 +162,30 @@ void ShowWork(const std::filesystem::path& input, const std::filesystem::path& o
               << " us to write\n";
 }
 
-// One effect of every class that the registry knows, and some in packages in one another.
-void ShowEveryEffect(const std::filesystem::path& input)
+// The folder holds one effect of every class that the registry knows, a file each.
+void ShowEveryEffect(const std::filesystem::path& folder)
 {
-    const std::string text = ReadFile(input);
-    const IEffectSettings::List effects = EffectsFromText(text);
-    IEffectSettings::List clones;
+    std::size_t count = 0;
     std::size_t equalCount = 0;
-    for (const auto& effect : effects)
+    std::size_t byteCount = 0;
+    for (const std::filesystem::path& file : std::filesystem::directory_iterator(folder))
     {
-        clones.push_back(effect->Clone());
-        equalCount += *clones.back() == *effect ? 1U : 0U;
+        const std::string text = ReadFile(file);
+        std::shared_ptr<IEffectSettings> effect;
+        EffectSettings::DeserializePtr(Ombrel::ReadJson(text), effect);
+        const auto clone = effect->Clone();
+        PropertyTree tree;
+        EffectSettings::SerializePtr(tree, clone);
+        Require(Ombrel::WriteJson(tree, {.indent = 4}) + "\n" == text, "an effect came back as another text");
+        ++count;
+        equalCount += *clone == *effect ? 1U : 0U;
+        byteCount += text.size();
     }
-    Require(equalCount == effects.size() - 1, "more than one effect differs from its clone");
-    Require(TextFromEffects(clones) == text, "the list came back as another text");
-    std::cout << input.string() << ": " << effects.size() << " effects, one of each registered class\n"
+    Require(equalCount == count - 1, "more than one effect differs from its clone");
+    std::cout << folder.string() << ": " << count << " effects, one of each registered class\n"
               << "  made by class id and cloned: " << equalCount
               << " equal their clones; effectSettingsSimple equals nothing, itself included\n"
-              << "  written back from the clones as it was: the same " << text.size() << " bytes\n";
+              << "  written back from the clones as they were: the same " << byteCount << " bytes\n";
 }
 
 // Effects whose getters compute, so that their values change on the way. Stored trees rely on it: it stays as it is.
@@ -222,11 +229,11 @@ try
     const std::filesystem::path examples(argv[1]);
     std::filesystem::create_directories(argv[2]);
     std::cout << std::fixed << std::setprecision(1);
-    for (const char* list : {"portrait.json", "landscape.json", "batch.json"})
+    for (const char* list : {"portrait.json", "landscape.json", "batch.json", "packages.json"})
     {
         ShowWork(examples / list, argv[2]);
     }
-    ShowEveryEffect(examples / "every-effect.json");
+    ShowEveryEffect(examples / "effects");
     ShowChangingEffects(examples / "changing.json");
     return EXIT_SUCCESS;
 }

@@ -5,13 +5,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <memory>
 #include <string>
-#include <vector>
 
 // The stored effects beside the code come back as they stand, and where they do not, as is told of them.
 namespace
@@ -59,17 +57,6 @@ TEST(Examples, EveryRegisteredClassHasOneThatComesBack)
     EXPECT_EQ(static_cast<std::size_t>(files), count) << "there are files of no registered class";
 }
 
-std::vector<std::string> SortedClassIds(const PropertyTree& list)
-{
-    std::vector<std::string> ids;
-    for (const PropertyTree& element : list.getList())
-    {
-        ids.push_back(element["name"].getScalar().toString());
-    }
-    std::ranges::sort(ids);
-    return ids;
-}
-
 // What comes of a stored list that is read and written again.
 PropertyTree WrittenBack(const PropertyTree& list)
 {
@@ -85,35 +72,21 @@ PropertyTree WrittenBack(const PropertyTree& list)
     return written;
 }
 
-TEST(Examples, TheListOfEveryEffectHoldsEachRegisteredClassOnceAndComesBack)
+TEST(Examples, TheListsOfTheDemoComeBack)
 {
-    std::vector<std::string> registered;
-    for (const EffectClass& effectClass : EffectClasses())
+    for (const char* list : {"portrait.json", "landscape.json", "batch.json", "packages.json"})
     {
-        if (effectClass.registration != Registration::None)
-        {
-            registered.emplace_back(effectClass.classId);
-        }
+        const std::string text = TextOf(EXAMPLES / list);
+        EXPECT_EQ(Ombrel::WriteJson(WrittenBack(Ombrel::ReadJson(text)), {.indent = 2}) + "\n", text) << list;
     }
-    std::ranges::sort(registered);
-
-    const std::string text = TextOf(EXAMPLES / "every-effect.json");
-    const PropertyTree list = Ombrel::ReadJson(text);
-    EXPECT_EQ(SortedClassIds(list), registered);
-    for (const PropertyTree& element : list.getList())
-    {
-        EXPECT_GT(element.getMap().size(), 1u) << element["name"].getScalar().toString() << " is as by default";
-    }
-    EXPECT_EQ(Ombrel::WriteJson(WrittenBack(list), {.indent = 2}) + "\n", text);
 }
 
-TEST(Examples, TheListOfEveryEffectHasPackagesInPackages)
+TEST(Examples, APackageStandsInAPackage)
 {
-    const PropertyTree list = Ombrel::ReadJson(TextOf(EXAMPLES / "every-effect.json"));
-    const auto tile = std::ranges::find(list.getList(), PropertyTree("effectSettingsTileStub"),
-                                        [](const PropertyTree& element) { return element["name"]; });
-    ASSERT_NE(tile, list.getList().end());
-    const PropertyTree& brush = (*tile)["effectRows"].getList()[1]["cols"].getList()[0].getList()[0];
+    const PropertyTree list = Ombrel::ReadJson(TextOf(EXAMPLES / "packages.json"));
+    const PropertyTree& tile = list.getList()[0];
+    EXPECT_EQ(tile["name"], PropertyTree("effectSettingsTileStub"));
+    const PropertyTree& brush = tile["effectRows"].getList()[1]["cols"].getList()[0].getList()[0];
     EXPECT_EQ(brush["name"], PropertyTree("EffectsPackageOneInputWithBrush"));
     const PropertyTree& faces = brush["foregroundEffects"].getList()[0];
     EXPECT_EQ(faces["name"], PropertyTree("SettingsEffectFacePackage"));
