@@ -118,12 +118,15 @@ TEST_P(CatalogueTest, RefusesOtherTypes)
     }
     const StrangeRecord strange;
     const auto effect = Make();
+    effect->Deserialize(SampleForm());
+    const PropertyTree before = StoredForm(*effect);
     EXPECT_THROW(effect->SetEffectSettings(strange), std::bad_cast);
     EXPECT_THROW(effect->GetEffectSettings().IsEqualTo(strange), std::bad_cast);
 
     const char* otherId = GetParam().classId == "EFFECT_ACID" ? "EFFECT_VIBRANCE" : "EFFECT_ACID";
     const auto other = IEffectSettings::CreateEffectSettings(otherId);
     EXPECT_THROW(effect->Add(*other), std::bad_cast);
+    EXPECT_EQ(StoredForm(*effect), before);
     EXPECT_FALSE(*effect == *other);
     EXPECT_TRUE(*effect != *other);
 }
@@ -152,6 +155,22 @@ TEST_P(CatalogueTest, RecordsAreCopiedAndCompared)
     {
         EXPECT_EQ(Get(*receiver, field.key), Sample(field)) << field.key;
     }
+}
+
+TEST_P(CatalogueTest, AddingIsForTheRecordAlone)
+{
+    const auto effect = Make();
+    effect->Deserialize(Map({{"implName", "mine"}, {"helperSettings", Map({{"maxWidth", 640}})}}));
+    const PropertyTree before = StoredForm(*effect);
+    const auto other = Make();
+    PropertyTree tree = SampleForm();
+    tree["implName"] = "theirs";
+    tree["helperSettings"] = Map({{"undoSet", true}});
+    other->Deserialize(tree);
+    effect->Add(*other);
+    EXPECT_EQ(StoredForm(*effect)["implName"], before["implName"]);
+    EXPECT_EQ(StoredForm(*effect)["helperSettings"], before["helperSettings"]);
+    EXPECT_EQ(*effect == *Make(), !GetParam().isAdditive && GetParam().equalsItsCopy);
 }
 
 TEST_P(CatalogueTest, AddingWithoutBeingAdditiveDoesNothing)

@@ -135,7 +135,9 @@ TEST_P(FloatTest, ANaNEqualsNothingAndIsAlwaysWritten)
     {
         ExpectCompared(key, nan, nan, false);
         ExpectCompared(key, nan, 0.375, false);
-        const PropertyTree written = ValueIn(StoredForm(*With(key, nan)), key);
+        const auto effect = With(key, nan);
+        EXPECT_EQ(AreEqual(*effect, *effect), !key.isCompared) << NameOf(key);
+        const PropertyTree written = ValueIn(StoredForm(*effect), key);
         EXPECT_TRUE(!written.isNull() && std::isnan(written.getScalar().toDouble())) << NameOf(key);
     }
 }

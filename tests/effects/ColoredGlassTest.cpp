@@ -11,14 +11,6 @@ using Ombrel::PhotoCore::ColoredGlassSettings;
 using Support::Map;
 using Support::StoredForm;
 
-TEST(ColoredGlass, IsEmptyForTheRecordOnly)
-{
-    ColoredGlassSettings effect;
-    EXPECT_EQ(StoredForm(effect), Map({}));
-    EXPECT_TRUE(effect.GetTypedSettings().IsEmpty());
-    EXPECT_FALSE(effect.IsEmpty());
-}
-
 TEST(ColoredGlass, RecordIsEmptyWithoutAlphaWhateverTheColour)
 {
     ColoredGlassSettings effect;

@@ -1,13 +1,12 @@
 #include "Proc/EffectSettings/CropSettings.h"
 
-#include "Proc/EffectSettings/FlipSettings.h"
+#include "effects/Adding.h"
 #include "support/StoredForm.h"
 #include "support/TreeText.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <typeinfo>
 
 namespace
 {
@@ -18,17 +17,7 @@ using Ombrel::Proc::SettingsEffectCrop;
 using Support::Map;
 using Support::StoredForm;
 
-template <class Effect>
-concept HasPublicIsAdditive = requires(const Effect& effect)
-{
-    effect.IsAdditive();
-};
-
-template <class Effect>
-concept HasPublicAdd = requires(Effect& effect)
-{
-    effect.Add(effect);
-};
+static_assert(AddsThroughTheInterfaceAlone<CropSettings>);
 
 CropSettings Crop(std::int32_t x, std::int32_t y, std::int32_t width, std::int32_t height)
 {
@@ -38,11 +27,6 @@ CropSettings Crop(std::int32_t x, std::int32_t y, std::int32_t width, std::int32
     record.SetWidth(width);
     record.SetHeight(height);
     return CropSettings(record);
-}
-
-void Add(IEffectSettings& effect, const IEffectSettings& other)
-{
-    effect.Add(other);
 }
 
 TEST(Crop, OffsetsAddUpAndTheSizeIsReplaced)
@@ -76,44 +60,12 @@ TEST(Crop, SumsWrapIn32Bits)
     EXPECT_EQ(effect.GetTypedSettings().GetY(), most);
 }
 
-TEST(Crop, OnlyTheRecordTakesPart)
-{
-    CropSettings effect;
-    effect.Deserialize(Map({{"implName", "mine"}, {"helperSettings", Map({{"maxWidth", 640}})}}));
-    CropSettings other;
-    other.Deserialize(Map({{"implName", "theirs"}, {"helperSettings", Map({{"undoSet", true}})}, {"x", 3}}));
-    Add(effect, other);
-    EXPECT_EQ(StoredForm(effect), Map({{"implName", "mine"}, {"helperSettings", Map({{"maxWidth", 640}})}, {"x", 3}}));
-}
-
-TEST(Crop, RefusesAnotherClassAndStaysAsItIs)
-{
-    CropSettings effect = Crop(10, 20, 100, 50);
-    EXPECT_THROW(Add(effect, FlipSettings()), std::bad_cast);
-    EXPECT_EQ(StoredForm(effect), Map({{"x", 10}, {"y", 20}, {"width", 100}, {"height", 50}}));
-}
-
-TEST(Crop, AddsThroughTheInterfaceAlone)
-{
-    EXPECT_FALSE(HasPublicIsAdditive<CropSettings>);
-    EXPECT_FALSE(HasPublicAdd<CropSettings>);
-    EXPECT_TRUE(HasPublicIsAdditive<IEffectSettings>);
-    EXPECT_TRUE(HasPublicAdd<IEffectSettings>);
-}
-
 TEST(Crop, NumbersAreCutTo32Bits)
 {
     CropSettings effect;
     effect.Deserialize(Map({{"x", 4294967301}, {"width", -4294967301}}));
     EXPECT_EQ(effect.GetTypedSettings().GetX(), 5);
     EXPECT_EQ(effect.GetTypedSettings().GetWidth(), -5);
-}
-
-TEST(Crop, OnlyTheRecordSaysThatItIsEmpty)
-{
-    EXPECT_TRUE(CropSettings().GetTypedSettings().IsEmpty());
-    EXPECT_FALSE(Crop(0, 0, 0, 1).GetTypedSettings().IsEmpty());
-    EXPECT_FALSE(CropSettings().IsEmpty());
 }
 
 } // namespace

@@ -91,13 +91,6 @@ TEST(Implode, OnlyNoStrengthAtAllIsEmpty)
     EXPECT_TRUE(effect.GetTypedSettings().IsEmpty());
 }
 
-TEST(Implode, ComparesExactly)
-{
-    EXPECT_TRUE(WithStrength<ImplodeSettings>(2.0) == WithStrength<ImplodeSettings>(2.0));
-    EXPECT_FALSE(WithStrength<ImplodeSettings>(2.0) == WithStrength<ImplodeSettings>(2.0000000001));
-    EXPECT_FALSE(WithStrength<ImplodeSettings>(std::nan("")) == WithStrength<ImplodeSettings>(std::nan("")));
-}
-
 TEST(Implode, ReadsAndWritesItsModeByName)
 {
     ImplodeSettings effect;
@@ -121,13 +114,6 @@ TEST(DirectionalAreaDeformation, IsEmptyWithoutStrengthAndWritesItsPoints)
 
     record.m_strength = -0.5;
     EXPECT_FALSE(record.IsEmpty());
-}
-
-TEST(DirectionalAreaDeformation, ComparesExactly)
-{
-    using Settings = DirectionalAreaDeformationSettings;
-    EXPECT_FALSE(WithStrength<Settings>(2.0) == WithStrength<Settings>(2.0000000001));
-    EXPECT_FALSE(WithStrength<Settings>(std::nan("")) == WithStrength<Settings>(std::nan("")));
 }
 
 } // namespace

@@ -153,11 +153,4 @@ TEST(FishEye, TheIntensityIsNarrowed)
     EXPECT_EQ(StoredForm(effect), Map({{"intensity", 0.10000000149011612}}));
 }
 
-TEST(FishEye, OnlyTheRecordSaysThatItIsEmpty)
-{
-    EXPECT_TRUE(FishEyeSettings().GetTypedSettings().IsEmpty());
-    EXPECT_FALSE(Record(3.0, 1.0f).IsEmpty());
-    EXPECT_FALSE(FishEyeSettings().IsEmpty());
-}
-
 } // namespace

@@ -1,5 +1,7 @@
 #include "Proc/EffectSettings/FlipSettings.h"
 
+#include "effects/Adding.h"
+
 #include <gtest/gtest.h>
 
 namespace
@@ -8,17 +10,7 @@ namespace
 using namespace Ombrel::PhotoCore;
 using Ombrel::Proc::SettingsEffectFlip;
 
-template <class Effect>
-concept HasPublicIsAdditive = requires(const Effect& effect)
-{
-    effect.IsAdditive();
-};
-
-template <class Effect>
-concept HasPublicAdd = requires(Effect& effect)
-{
-    effect.Add(effect);
-};
+static_assert(AddsThroughTheInterfaceAlone<FlipSettings>);
 
 FlipSettings Flip(bool horizontal, bool vertical)
 {
@@ -26,11 +18,6 @@ FlipSettings Flip(bool horizontal, bool vertical)
     record.SetHorizontal(horizontal);
     record.SetVertical(vertical);
     return FlipSettings(record);
-}
-
-void Add(IEffectSettings& effect, const IEffectSettings& other)
-{
-    effect.Add(other);
 }
 
 TEST(Flip, EachAxisIsTheExclusiveOr)
@@ -71,19 +58,6 @@ TEST(Flip, TwoEqualFlipsCancel)
     Add(effect, effect);
     EXPECT_FALSE(effect.GetTypedSettings().GetHorizontal());
     EXPECT_FALSE(effect.GetTypedSettings().GetVertical());
-}
-
-TEST(Flip, AddsThroughTheInterfaceAlone)
-{
-    EXPECT_FALSE(HasPublicIsAdditive<FlipSettings>);
-    EXPECT_FALSE(HasPublicAdd<FlipSettings>);
-}
-
-TEST(Flip, OnlyTheRecordSaysThatItIsEmpty)
-{
-    EXPECT_TRUE(FlipSettings().GetTypedSettings().IsEmpty());
-    EXPECT_FALSE(Flip(false, true).GetTypedSettings().IsEmpty());
-    EXPECT_FALSE(FlipSettings().IsEmpty());
 }
 
 } // namespace

@@ -15,15 +15,6 @@ using Support::StoredForm;
 
 using Method = SettingsEffectGrayscale::GrayscaleMethod;
 
-TEST(Grayscale, IsEmptyForTheRecordOnly)
-{
-    const GrayscaleSettings effect;
-    EXPECT_EQ(effect.GetTypedSettings().m_method, Method::Empty);
-    EXPECT_EQ(StoredForm(effect), Map({}));
-    EXPECT_TRUE(effect.GetTypedSettings().IsEmpty());
-    EXPECT_FALSE(effect.IsEmpty());
-}
-
 TEST(Grayscale, TakesItsMethodOnConstruction)
 {
     const GrayscaleSettings effect{SettingsEffectGrayscale(Method::Rec709Luma)};

@@ -39,10 +39,4 @@ TEST(LightLeaks, ANumberWithoutANameReadsBackAsTheFirst)
     EXPECT_EQ(effect.GetTypedSettings().GetPreset(), LeakPreset::enPreset1);
 }
 
-TEST(LightLeaks, IsNeverEmpty)
-{
-    EXPECT_FALSE(LightLeaksSettings().GetTypedSettings().IsEmpty());
-    EXPECT_FALSE(LightLeaksSettings().IsEmpty());
-}
-
 } // namespace

@@ -52,13 +52,4 @@ TEST(RemoveBackground, AnotherBackgroundLeavesTwoEffectsEqual)
     EXPECT_TRUE(effect.GetEffectSettings().IsEqualTo(RemoveBackgroundSettings().GetEffectSettings()));
 }
 
-TEST(RemoveBackground, ComparesFloatsExactly)
-{
-    RemoveBackgroundSettings effect;
-    effect.GetTypedSettings().m_scaleX = 1.000001;
-    EXPECT_FALSE(effect == RemoveBackgroundSettings());
-    effect.GetTypedSettings().m_scaleX = std::nan("");
-    EXPECT_FALSE(effect == effect);
-}
-
 } // namespace

@@ -12,15 +12,6 @@ using Support::Map;
 
 using RetroType = SettingsEffectRetroColors::RetroType;
 
-TEST(RetroColors, IsEmptyForTheRecordOnly)
-{
-    RetroColorsSettings effect;
-    EXPECT_TRUE(effect.GetTypedSettings().IsEmpty());
-    EXPECT_FALSE(effect.IsEmpty());
-    effect.GetTypedSettings().SetIntensity(0.5f);
-    EXPECT_FALSE(effect.GetTypedSettings().IsEmpty());
-}
-
 TEST(RetroColors, KnowsItsTypesByTheStoredSpellingOnly)
 {
     for (const char* unknown : {"70s", "en70S", "Sepia", "ensepia"})

@@ -50,18 +50,4 @@ TEST(Rotate, TheColourIsReadRedFirst)
     EXPECT_THROW(effect.Deserialize(Map({{"color", "1ff0000ff"}})), std::out_of_range);
 }
 
-TEST(Rotate, AnAngleThatIsNoNumberEqualsNothing)
-{
-    EXPECT_FALSE(Rotate(std::nan("")) == Rotate(std::nan("")));
-    EXPECT_TRUE(Rotate(12.5) == Rotate(12.5));
-    EXPECT_FALSE(Rotate(12.5) == Rotate(12.500000001));
-}
-
-TEST(Rotate, OnlyTheRecordSaysThatItIsEmpty)
-{
-    EXPECT_TRUE(RotateSettings().GetTypedSettings().IsEmpty());
-    EXPECT_FALSE(Rotate(12.5).GetTypedSettings().IsEmpty());
-    EXPECT_FALSE(RotateSettings().IsEmpty());
-}
-
 } // namespace

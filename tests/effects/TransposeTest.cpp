@@ -1,5 +1,6 @@
 #include "Proc/EffectSettings/TransposeSettings.h"
 
+#include "effects/Adding.h"
 #include "support/StoredForm.h"
 #include "support/TreeText.h"
 
@@ -20,6 +21,8 @@ using Support::Map;
 using Support::StoredForm;
 using Angle = SettingsEffectTranspose::TransposeAngle;
 
+static_assert(HasPublicIsAdditive<TransposeSettings> && HasPublicAdd<TransposeSettings>);
+static_assert(HasPublicIsAdditive<IEffectSettings> && HasPublicAdd<IEffectSettings>);
 static_assert(std::is_nothrow_move_constructible_v<TransposeSettings> && std::is_nothrow_move_assignable_v<TransposeSettings>);
 
 SettingsEffectTranspose Record(std::int32_t angle)
@@ -162,13 +165,6 @@ TEST(Transpose, IsAssigned)
     assigned = effect;
     EXPECT_EQ(StoredForm(assigned), form);
     EXPECT_EQ(StoredForm(effect), form);
-}
-
-TEST(Transpose, OnlyTheRecordSaysThatItIsEmpty)
-{
-    EXPECT_TRUE(TransposeSettings().GetTypedSettings().IsEmpty());
-    EXPECT_FALSE(Record(1).IsEmpty());
-    EXPECT_FALSE(TransposeSettings().IsEmpty());
 }
 
 } // namespace

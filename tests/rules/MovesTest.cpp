@@ -1,3 +1,4 @@
+#include "Proc/EffectSettings/EffectSettingsExport.h"
 #include "Proc/EffectSettings/HelperSettings.h"
 #include "support/AllClasses.h"
 #include "support/StoredForm.h"
@@ -6,8 +7,9 @@
 #include <gtest/gtest.h>
 
 #include <concepts>
-#include <cstddef>
 #include <memory>
+#include <set>
+#include <string>
 #include <type_traits>
 #include <utility>
 
@@ -24,13 +26,20 @@ using Support::Records;
 using Support::SettingsClasses;
 using Support::StoredForm;
 
-template <class... Classes> constexpr std::size_t CountOf(Support::TypeList<Classes...>)
+// The lists are read out of the headers: neither is one class short.
+TEST(Lists, HoldEveryClassAndItsRecord)
 {
-    return sizeof...(Classes);
+    std::set<std::string> ids;
+    ForEach<SettingsClasses>([&ids]<class Class>() { ids.insert(Class().GetClassId()); });
+    std::set<std::string> recordIds{EffectSettingsSimple().GetClassId()}; // it has no record of its own
+    ForEach<Records>([&recordIds]<class Record>() { recordIds.insert(Record::CLASS_NAME); });
+    for (const EffectClass& effectClass : EffectClasses())
+    {
+        EXPECT_TRUE(ids.contains(effectClass.classId)) << effectClass.className;
+        EXPECT_TRUE(recordIds.contains(effectClass.create()->GetEffectSettings().GetClassId())) << effectClass.className;
+    }
+    EXPECT_EQ(ids.size(), EffectClasses().size());
 }
-
-static_assert(CountOf(SettingsClasses()) == 97);
-static_assert(CountOf(Records()) == 100); // one for each class but the simple one, a nested one and three bases
 
 // `Class object{};` and `return {};` compile.
 template <class Class> Class MakeByBraces()

@@ -16,6 +16,17 @@
 #include <typeinfo>
 #include <vector>
 
+namespace Ombrel::PhotoCore
+{
+
+// Names the class in a failed test.
+static void PrintTo(const EffectClass& effectClass, std::ostream* out)
+{
+    *out << effectClass.className;
+}
+
+} // namespace Ombrel::PhotoCore
+
 // A property access touches one field alone. What it answers is told here by the whole record: written out and looked up, or
 // read from a map with the one key. Both must agree for every property of every class, whatever is asked or set.
 namespace
