@@ -3,6 +3,8 @@
 
 #include "ToolRunner.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <string>
 
@@ -22,6 +24,13 @@ protected:
     ToolResult WritePages() const
     {
         return Run({"reference", "--notes", "notes", "--examples", "examples", "--output", "pages/new"});
+    }
+
+    /// How many classes the library has, as the program lists them.
+    std::size_t ClassCount() const
+    {
+        const std::string list = Run({"list"}).out;
+        return static_cast<std::size_t>(std::count(list.begin(), list.end(), '\n'));
     }
 
     void Replace(const std::string& file, const std::string& from, const std::string& to) const
