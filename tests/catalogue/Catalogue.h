@@ -142,15 +142,14 @@ struct Effect
     std::string className;
     std::string classId;
     Ombrel::PhotoCore::IEffectSettings::InputType inputType;
-    Place place; // in the complete start-up list, from 1; the classes there are stand in this order
+    Place place; // in the start-up list, from 1; a new class is its last
     std::vector<Field> fields;
 
     // Of a default object.
     bool isEmpty = false;
     bool isRecordEmpty = false;
 
-    // Of a record that is empty by default: the keys whose samples each make it something else. Every key does that if none are
-    // given.
+    // Of a record that is empty by default: the keys whose samples, each alone, end that. Without a list every key does.
     std::optional<Keys> filledBy = std::nullopt;
 
     bool isAdditive = false;
