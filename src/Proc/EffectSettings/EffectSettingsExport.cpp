@@ -263,16 +263,8 @@ static_assert(
     }(),
     "two settings classes have the same class id");
 
-consteval std::ptrdiff_t CountOf(Registration registration)
-{
-    return std::ranges::count(CLASSES, registration, &EffectClass::registration);
-}
-
 // The start-up list first and whole: a class that is added here without a thought for it would change what is registered.
 static_assert(std::ranges::is_sorted(CLASSES, {}, &EffectClass::registration));
-static_assert(CountOf(Registration::StartUpList) == 93);
-static_assert(CountOf(Registration::Factory) == 1);
-static_assert(CountOf(Registration::None) == 3);
 
 // The ids that the library registers, in a constant hash table: each is at the place that its hash names, or at the next free
 // one.
