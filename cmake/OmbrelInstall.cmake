@@ -71,7 +71,8 @@ install(FILES ${PROJECT_SOURCE_DIR}/src/OmbrelExport.h ${PROJECT_SOURCE_DIR}/src
 ombrel_install_library(EffectSettings
   DESCRIPTION "${PROJECT_DESCRIPTION}"
   FOLDERS Conf Exception PhotoUtil Proc PropertyTree
-  PRIVATE_HEADERS PropertyTreeMapFiller.h PropertyTreeMapIndex.h RegisteredFactories.h ScaledInteger.h WrappingArithmetic.h)
+  PRIVATE_HEADERS PropertyTreeMapFiller.h PropertyTreeMapIndex.h PropertyTreeMapInternals.h RegisteredFactories.h
+                  ScaledInteger.h WrappingArithmetic.h)
 install(FILES ${PROJECT_SOURCE_DIR}/debugger/ombrel_gdb.py ${PROJECT_SOURCE_DIR}/debugger/ombrel.natvis
         DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrel-effect-settings)
 if(TARGET ombrel_PropertyTreeJson)

@@ -13,4 +13,7 @@
 /// Marks what the library exports. Everything is built with hidden visibility, so a name without this mark stays inside.
 #define OMBREL_API __attribute__((visibility("default")))
 
+/// Marks what belongs to an exported class and stays inside all the same.
+#define OMBREL_LOCAL __attribute__((visibility("hidden")))
+
 #endif

@@ -215,8 +215,8 @@ private:
         ::new (static_cast<void*>(&m_null)) Null{STATE_NULL};
     }
 
-    void SetMap(Map&& map) noexcept;
-    void SetList(List&& list) noexcept;
+    OMBREL_LOCAL void SetMap(Map&& map) noexcept;
+    OMBREL_LOCAL void SetList(List&& list) noexcept;
     void Take(PropertyTree& other) noexcept;
     void Release(int depth) noexcept;
 

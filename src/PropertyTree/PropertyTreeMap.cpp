@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstdint>
 #include <limits>
 #include <memory>
 #include <new>
@@ -25,7 +26,7 @@ constexpr std::uint32_t BitOf(std::size_t slot)
 
 } // namespace
 
-PropertyTreeMap::Root* PropertyTreeMap::Root::Make(size_type capacity, const PropertyTreeMap* owner)
+PropertyTreeMap::Root* PropertyTreeMap::Internals::MakeRoot(size_type capacity, const PropertyTreeMap* owner)
 {
     constexpr size_type bytesPerEntry =
         sizeof(value_type) + sizeof(std::uint64_t) + sizeof(value_type*) + sizeof(Leaf); // or less
@@ -42,23 +43,17 @@ PropertyTreeMap::Root* PropertyTreeMap::Root::Make(size_type capacity, const Pro
     return root;
 }
 
-inline PropertyTreeMap::size_type PropertyTreeMap::Root::SlotsInUse() const noexcept
+inline void PropertyTreeMap::Internals::DropLast(Root& root) noexcept
 {
-    return gaps == 0 ? size : size + static_cast<size_type>(std::popcount(gaps));
-}
-
-// Destroys the entry in the last slot in use, and with it the gaps before it.
-inline void PropertyTreeMap::Root::DropLast() noexcept
-{
-    value_type* last = end - 1;
-    if (gaps != 0)
+    value_type* last = root.end - 1;
+    if (root.gaps != 0)
     {
-        last = NotBehind(*this, last - 1) + 1;
-        gaps &= BitOf(static_cast<size_type>(last - Slots())) - 1;
+        last = NotBehind(root, last - 1) + 1;
+        root.gaps &= BitOf(static_cast<size_type>(last - root.Slots())) - 1;
     }
-    std::destroy(last, end);
-    end = last;
-    --size;
+    std::destroy(last, root.end);
+    root.end = last;
+    --root.size;
 }
 
 PropertyTreeMap::PropertyTreeMap(const PropertyTreeMap& other) : PropertyTreeMap()
@@ -88,7 +83,7 @@ void PropertyTreeMap::reserve(size_type count)
     {
         if (count != 0 && (!m_root || m_root->index || m_root->capacity < count))
         {
-            Root* root = Root::Make(count, this);
+            Root* root = Internals::MakeRoot(count, this);
             clear();
             m_root = root;
         }
@@ -104,7 +99,7 @@ void PropertyTreeMap::reserve(size_type count)
 
 bool PropertyTreeMap::contains(std::string_view key) const noexcept
 {
-    return Search(key).isThere;
+    return Internals::Search(*this, key).isThere;
 }
 
 PropertyTree& PropertyTreeMap::at(std::string_view key)
@@ -114,47 +109,47 @@ PropertyTree& PropertyTreeMap::at(std::string_view key)
 
 const PropertyTree& PropertyTreeMap::at(std::string_view key) const
 {
-    const Where where = Search(key);
+    const Where where = Internals::Search(*this, key);
     if (!where.isThere)
     {
         throw std::out_of_range("invalid map<K, T> key");
     }
-    return EntryAt(where).second;
+    return Internals::EntryAt(*this, where).second;
 }
 
 PropertyTree& PropertyTreeMap::operator[](std::string_view key)
 {
-    if (const std::uint64_t head = HeadOf(key); HasRoomAtEnd(key, head))
+    if (const std::uint64_t head = HeadOf(key); Internals::CanAppend(*this, key, head))
     {
-        return m_root->Append(head, m_root->SlotsInUse(), key).second;
+        return Internals::Append(*m_root, head, Internals::SlotsInUse(*m_root), key).second;
     }
-    return EntryAt(Insert(key)).second;
+    return Internals::EntryAt(*this, Internals::FindOrInsert(*this, key)).second;
 }
 
 std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::try_emplace(std::string_view key, PropertyTree&& value)
 {
-    const Where where = Insert(key);
+    const Where where = Internals::FindOrInsert(*this, key);
     if (!where.isThere)
     {
-        EntryAt(where).second = std::move(value);
+        Internals::EntryAt(*this, where).second = std::move(value);
     }
-    return {iterator(At(where)), !where.isThere};
+    return {iterator(Internals::At(*this, where)), !where.isThere};
 }
 
 std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::try_emplace(std::string_view key, const PropertyTree& value)
 {
-    if (const Where where = Search(key); where.isThere)
+    if (const Where where = Internals::Search(*this, key); where.isThere)
     {
-        return {iterator(At(where)), false};
+        return {iterator(Internals::At(*this, where)), false};
     }
     return try_emplace(key, PropertyTree(value));
 }
 
 std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::insert_or_assign(std::string_view key, PropertyTree&& value)
 {
-    const Where where = Insert(key);
-    EntryAt(where).second = std::move(value);
-    return {iterator(At(where)), !where.isThere};
+    const Where where = Internals::FindOrInsert(*this, key);
+    Internals::EntryAt(*this, where).second = std::move(value);
+    return {iterator(Internals::At(*this, where)), !where.isThere};
 }
 
 std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::insert_or_assign(std::string_view key, const PropertyTree& value)
@@ -169,17 +164,17 @@ std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::insert(value_type en
 
 PropertyTreeMap::iterator PropertyTreeMap::erase(const_iterator position) noexcept
 {
-    return iterator(EraseAt(Locate(position.m_position)));
+    return iterator(Internals::EraseAt(*this, Internals::Locate(*this, position.m_position)));
 }
 
 PropertyTreeMap::size_type PropertyTreeMap::erase(std::string_view key) noexcept
 {
-    const Where where = Search(key);
+    const Where where = Internals::Search(*this, key);
     if (!where.isThere)
     {
         return 0;
     }
-    EraseAt(where);
+    Internals::EraseAt(*this, where);
     return 1;
 }
 
@@ -192,18 +187,18 @@ bool operator==(const PropertyTreeMap& a, const PropertyTreeMap& b)
 
 PropertyTreeMap::Position PropertyTreeMap::Find(std::string_view key) const noexcept
 {
-    const Where where = Search(key);
-    return where.isThere ? At(where) : Position(this);
+    const Where where = Internals::Search(*this, key);
+    return where.isThere ? Internals::At(*this, where) : Position(this);
 }
 
-// The entry at this place or, if the place is behind the last entry of a leaf or is a gap, the next one.
-PropertyTreeMap::Position PropertyTreeMap::At(const Where& where) const noexcept
+PropertyTreeMap::Position PropertyTreeMap::Internals::At(const PropertyTreeMap& map, const Where& where) noexcept
 {
-    const Index* index = m_root->index;
+    Root* const root = map.m_root;
+    const Index* index = root->index;
     if (!index)
     {
-        value_type* slot = NotBefore(*m_root, m_root->Slots() + where.place);
-        return slot == m_root->end ? Position(this) : Position(slot, m_root);
+        value_type* slot = NotBefore(*root, root->Slots() + where.place);
+        return slot == root->end ? Position(&map) : Position(slot, root);
     }
     const Leaf* leaf = &index->LeafAt(where.leaf);
     size_type place = where.place;
@@ -214,58 +209,59 @@ PropertyTreeMap::Position PropertyTreeMap::At(const Where& where) const noexcept
     }
     if (leaf->count == 0) // behind the last leaf that is in use
     {
-        return Position(this);
+        return Position(&map);
     }
-    Position position(leaf->places[place], m_root);
+    Position position(leaf->places[place], root);
     position.leaf = static_cast<std::uint32_t>(leaf - index->FirstLeaf());
     position.place = static_cast<std::uint32_t>(place);
     return position;
 }
 
-PropertyTreeMap::value_type& PropertyTreeMap::EntryAt(const Where& where) const noexcept
+PropertyTreeMap::value_type& PropertyTreeMap::Internals::EntryAt(const PropertyTreeMap& map, const Where& where) noexcept
 {
-    return m_root->index ? *m_root->index->LeafAt(where.leaf).places[where.place] : m_root->Slots()[where.place];
+    Root& root = *map.m_root;
+    return root.index ? *root.index->LeafAt(where.leaf).places[where.place] : root.Slots()[where.place];
 }
 
-PropertyTreeMap::value_type* PropertyTreeMap::NotBefore(Root& root, const value_type* slot) noexcept
+PropertyTreeMap::value_type* PropertyTreeMap::Internals::NotBefore(Root& root, const value_type* slot) noexcept
 {
     const auto place = static_cast<size_type>(slot - root.Slots());
     const bool hasBit = root.gaps != 0 && place != Index::GAPS_MAX;
     return root.Slots() + place + (hasBit ? std::countr_one(root.gaps >> place) : 0);
 }
 
-PropertyTreeMap::value_type* PropertyTreeMap::NotBehind(Root& root, const value_type* slot) noexcept
+PropertyTreeMap::value_type* PropertyTreeMap::Internals::NotBehind(Root& root, const value_type* slot) noexcept
 {
     const auto place = static_cast<size_type>(slot - root.Slots());
     return root.Slots() + place - (root.gaps != 0 ? std::countl_one(root.gaps << (Index::GAPS_MAX - 1 - place)) : 0);
 }
 
-PropertyTreeMap::Where PropertyTreeMap::Search(std::string_view key) const noexcept
+PropertyTreeMap::Where PropertyTreeMap::Internals::Search(const PropertyTreeMap& map, std::string_view key) noexcept
 {
-    if (!m_root)
+    Root* const root = map.m_root;
+    if (!root)
     {
         return {};
     }
-    if (m_root->index)
+    if (root->index)
     {
-        return m_root->index->Find(key);
+        return root->index->Find(key);
     }
-    const value_type* slots = m_root->Slots();
-    const auto [place, isThere] =
-        PlaceAmong(m_root->Heads(), m_root->SlotsInUse(), key, [slots](size_type i) { return slots + i; });
-    const bool isGap = isThere && m_root->IsGap(place);
+    const value_type* slots = root->Slots();
+    const auto [place, isThere] = PlaceAmong(root->Heads(), SlotsInUse(*root), key, [slots](size_type i) { return slots + i; });
+    const bool isGap = isThere && IsGap(*root, place);
     return {0, place, isThere && !isGap, isGap};
 }
 
-// Whether an entry with this key can be added in the slot behind those in use.
-inline bool PropertyTreeMap::HasRoomAtEnd(std::string_view key, std::uint64_t head) const noexcept
+inline bool PropertyTreeMap::Internals::CanAppend(const PropertyTreeMap& map, std::string_view key, std::uint64_t head) noexcept
 {
-    if (!m_root || m_root->index)
+    Root* const root = map.m_root;
+    if (!root || root->index)
     {
         return false;
     }
-    const size_type used = m_root->SlotsInUse();
-    if (used == m_root->capacity)
+    const size_type used = SlotsInUse(*root);
+    if (used == root->capacity)
     {
         return false;
     }
@@ -273,82 +269,82 @@ inline bool PropertyTreeMap::HasRoomAtEnd(std::string_view key, std::uint64_t he
     {
         return true;
     }
-    const std::uint64_t last = m_root->Heads()[used - 1];
-    return last < head || (last == head && m_root->end[-1].first < key);
+    const std::uint64_t last = root->Heads()[used - 1];
+    return last < head || (last == head && root->end[-1].first < key);
 }
 
-// Finds the entry, or makes it with a null tree.
-PropertyTreeMap::Where PropertyTreeMap::Insert(std::string_view key)
+PropertyTreeMap::Where PropertyTreeMap::Internals::FindOrInsert(PropertyTreeMap& map, std::string_view key)
 {
     const std::uint64_t head = HeadOf(key);
-    if (!m_root)
+    Root* const root = map.m_root;
+    if (!root)
     {
         PropertyTreeMap first;
-        first.m_root = Root::Make(FIRST_CAPACITY, &first);
-        first.m_root->Append(head, 0, key);
-        swap(first);
+        first.m_root = MakeRoot(FIRST_CAPACITY, &first);
+        Append(*first.m_root, head, 0, key);
+        map.swap(first);
         return {};
     }
-    if (HasRoomAtEnd(key, head))
+    if (CanAppend(map, key, head))
     {
-        const size_type slot = m_root->SlotsInUse();
-        m_root->Append(head, slot, key);
+        const size_type slot = SlotsInUse(*root);
+        Append(*root, head, slot, key);
         return {0, slot};
     }
-    Where where = Search(key);
+    Where where = Search(map, key);
     if (where.isGap)
     {
-        m_root->gaps &= ~BitOf(where.place);
-        ++m_root->size;
+        root->gaps &= ~BitOf(where.place);
+        ++root->size;
     }
     else if (!where.isThere)
     {
         std::string text(key); // first, so that nothing can fail after room was made
-        Index* index = m_root->index;
+        Index* index = root->index;
         if (!index)
         {
-            index = Index::Make(*m_root, m_root->size + 1);
+            index = Index::Make(*root, root->size + 1);
             where = index->Find(key);
         }
-        index->MakeRoom(where, m_root->blocks);
-        m_root->index = index;
+        index->MakeRoom(where, root->blocks);
+        root->index = index;
         index->Insert(where, std::move(text));
-        ++m_root->size;
+        ++root->size;
     }
     return where;
 }
 
-// Erases the entry and finds the next.
-PropertyTreeMap::Position PropertyTreeMap::EraseAt(Where where) noexcept
+PropertyTreeMap::Position PropertyTreeMap::Internals::EraseAt(PropertyTreeMap& map, Where where) noexcept
 {
-    if (!m_root->index)
+    Root& root = *map.m_root;
+    if (!root.index)
     {
-        if (where.place + 1 == m_root->SlotsInUse())
+        if (where.place + 1 == SlotsInUse(root))
         {
-            m_root->DropLast();
-            return Position(this);
+            DropLast(root);
+            return Position(&map);
         }
-        if (m_root->capacity <= Index::GAPS_MAX)
+        if (root.capacity <= Index::GAPS_MAX)
         {
-            value_type* slot = m_root->Slots() + where.place;
+            value_type* slot = root.Slots() + where.place;
             slot->second = PropertyTree();
-            m_root->gaps |= BitOf(where.place);
-            --m_root->size;
-            return Position(NotBefore(*m_root, slot), m_root);
+            root.gaps |= BitOf(where.place);
+            --root.size;
+            return Position(NotBefore(root, slot), &root);
         }
-        m_root->index = Index::MakeInRoom(*m_root);
-        where = m_root->index->Find(where.place);
+        root.index = Index::MakeInRoom(root);
+        where = root.index->Find(where.place);
     }
-    m_root->index->Erase(where);
-    --m_root->size;
-    return At(where);
+    root.index->Erase(where);
+    --root.size;
+    return At(map, where);
 }
 
-PropertyTree& PropertyTreeMapFiller::Insert(PropertyTreeMap& map, std::string_view key)
+PropertyTree& PropertyTreeMapFiller::FindOrInsertMoving(PropertyTreeMap& map, std::string_view key)
 {
     using Entry = PropertyTreeMap::value_type;
     map.reserve(1);
-    const PropertyTreeMap::Where where = map.Search(key);
+    const PropertyTreeMap::Where where = PropertyTreeMap::Internals::Search(map, key);
     PropertyTreeMap::Root& root = *map.m_root;
     if (where.isThere || root.index || root.gaps != 0 || root.size == root.capacity)
     {

@@ -43,6 +43,10 @@ concept PropertyTreeNoKey = std::integral<T> || std::same_as<T, std::nullptr_t>;
 /// step.
 ///
 /// Threads: as a standard container, many readers or one writer.
+///
+/// Only the public members are promised; what is private may change with any version. `Position`, `Root` and the few private
+/// functions that are exported belong to the binary interface all the same, because inline functions use them: changing these
+/// needs a new `SOVERSION`.
 class OMBREL_API PropertyTreeMap
 {
 public:
@@ -307,8 +311,10 @@ private:
     friend class PropertyTreeMapFiller;
     friend class PropertyTreeMapWalk;
 
+    // What is done with the entries, and where they are. Not exported; defined in headers that are not installed.
     struct Block;
     class Index;
+    struct Internals;
     struct Where;
 
     // Some of the entries in key order: the first `count` places point to them, the others to free slots.
@@ -330,14 +336,8 @@ private:
     // The header of the first block. The heads of the keys follow it, and the slots follow these.
     struct Root
     {
-        static Root* Make(size_type capacity, const PropertyTreeMap* owner);
-
         std::uint64_t* Heads() noexcept { return reinterpret_cast<std::uint64_t*>(this + 1); }
         value_type* Slots() noexcept { return reinterpret_cast<value_type*>(Heads() + capacity); }
-        bool IsGap(size_type slot) const noexcept { return gaps != 0 && (gaps >> slot & 1) != 0; }
-        size_type SlotsInUse() const noexcept;
-        template <class... KeyArguments> value_type& Append(std::uint64_t head, size_type slot, const KeyArguments&... key);
-        void DropLast() noexcept;
 
         size_type size;               // entries
         std::uint32_t capacity;       // slots in this block
@@ -357,10 +357,6 @@ private:
         }
     }
 
-    // The nearest slot from this one on that is not a gap, in either direction.
-    static value_type* NotBefore(Root& root, const value_type* slot) noexcept;
-    static value_type* NotBehind(Root& root, const value_type* slot) noexcept;
-
     Position First() const noexcept
     {
         if (m_root && !m_root->index && m_root->gaps == 0 && m_root->size != 0)
@@ -370,17 +366,11 @@ private:
         return SearchFirst();
     }
 
+    // Exported for the functions above.
     Position SearchFirst() const noexcept;
     Position Find(std::string_view key) const noexcept;
     Position LowerBound(std::string_view key) const noexcept;
     Position UpperBound(std::string_view key) const noexcept;
-    Position At(const Where& where) const noexcept;
-    Where Locate(const Position& position) const noexcept;
-    Where Search(std::string_view key) const noexcept;
-    value_type& EntryAt(const Where& where) const noexcept;
-    bool HasRoomAtEnd(std::string_view key, std::uint64_t head) const noexcept;
-    Where Insert(std::string_view key);
-    Position EraseAt(Where where) noexcept;
     void Release(int depth) noexcept;
 
     // The map is `depth` containers below the one that is destroyed as a whole.

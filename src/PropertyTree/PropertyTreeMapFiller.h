@@ -2,29 +2,16 @@
 #define OMBREL_PROPERTY_TREE_PROPERTY_TREE_MAP_FILLER_H
 
 #include "PropertyTree/KeyHead.h"
-#include "PropertyTree/PropertyTreeMapIndex.h"
+#include "PropertyTree/PropertyTreeMapInternals.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <new>
+#include <string>
 #include <string_view>
-#include <tuple>
-#include <utility>
 
 namespace Ombrel
 {
-
-template <class... KeyArguments>
-PropertyTreeMap::value_type& PropertyTreeMap::Root::Append(std::uint64_t head, size_type slot, const KeyArguments&... key)
-{
-    auto* entry = ::new (static_cast<void*>(end))
-        value_type(std::piecewise_construct, std::forward_as_tuple(key...), std::forward_as_tuple());
-    Heads()[slot] = head;
-    ++end;
-    ++size;
-    return *entry;
-}
 
 /// Fills an empty map in key order. A caller that copies a map or has sorted the keys knows what `operator[]` has to find out
 /// for every key: that there is room and that the key comes after all others.
@@ -44,20 +31,24 @@ public:
     /// @param key comes after all keys of the map
     /// @param head of the key
     /// @throws std::bad_alloc, without the child, if the key is too long to be stored inside a `std::string`
-    PropertyTree& Append(std::string_view key, std::uint64_t head) { return m_root->Append(head, m_root->size, key).second; }
+    PropertyTree& Append(std::string_view key, std::uint64_t head)
+    {
+        return PropertyTreeMap::Internals::Append(*m_root, head, m_root->size, key).second;
+    }
 
     /// The same for a key of at most SHORT_KEY characters. `text` is padded to SHORT_KEY characters, since copying a constant
     /// number of characters is faster.
     PropertyTree& AppendShort(const char* text, std::size_t size, std::uint64_t head)
     {
-        auto& [key, child] = m_root->Append(head, m_root->size, text, SHORT_KEY);
+        auto& [key, child] = PropertyTreeMap::Internals::Append(*m_root, head, m_root->size, text, SHORT_KEY);
         const_cast<std::string&>(key).resize(std::min(size, SHORT_KEY)); // so that the compiler sees that it never grows
         return child;
     }
 
-    /// Does what `operator[]` of a map does, but moves the entries behind the new one where that saves memory.
+    /// The child under `key`, inserted as a null tree if missing, as `operator[]` of a map gives it. Where that saves memory,
+    /// the entries behind a new one move.
     /// @param map to whose entries nobody holds a reference or an iterator
-    static PropertyTree& Insert(PropertyTreeMap& map, std::string_view key);
+    static PropertyTree& FindOrInsertMoving(PropertyTreeMap& map, std::string_view key);
 
 private:
     PropertyTreeMap::Root* m_root;

@@ -85,7 +85,7 @@ PropertyTreeMap::Index* PropertyTreeMap::Index::MakeBeside(Root& root, size_type
     for (size_type i = 0; i < root.capacity; ++i)
     {
         value_type* slot = root.Slots() + i;
-        if (slot < root.end && !root.IsGap(i))
+        if (slot < root.end && !Internals::IsGap(root, i))
         {
             *heads++ = root.Heads()[i];
             *places++ = slot;

@@ -2,7 +2,7 @@
 #define OMBREL_PROPERTY_TREE_PROPERTY_TREE_MAP_INDEX_H
 
 #include "PropertyTree/KeyHead.h"
-#include "PropertyTree/PropertyTree.h"
+#include "PropertyTree/PropertyTreeMapInternals.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -31,24 +31,7 @@
 namespace Ombrel
 {
 
-/// Where an entry is or would be inserted: the place in a leaf or, as long as there is no index, the number of the slot.
-struct PropertyTreeMap::Where
-{
-    size_type leaf = 0;
-    size_type place = 0;
-    bool isThere = false;
-    bool isGap = false; // of this key
-};
-
-/// The header of every block but the first. It holds a leaf's slots and places, or a longer row of leaves.
-struct PropertyTreeMap::Block
-{
-    static Block* Make(size_type bytes, Block*& blocks);
-
-    Block* next;
-};
-
-class PropertyTreeMap::Index : private LeafRow
+class OMBREL_LOCAL PropertyTreeMap::Index : private LeafRow
 {
 public:
     // A leaf that is alone grows until it has LEAF_MIN places or more; beside others it has at most LEAF_MAX. So half of any

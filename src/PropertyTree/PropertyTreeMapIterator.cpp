@@ -13,9 +13,9 @@ void PropertyTreeMap::Position::SearchNext() noexcept
     {
         return;
     }
-    Where where = root->owner->Locate(*this);
+    Where where = Internals::Locate(*root->owner, *this);
     ++where.place;
-    *this = root->owner->At(where);
+    *this = Internals::At(*root->owner, where);
 }
 
 void PropertyTreeMap::Position::SearchPrevious() noexcept
@@ -25,27 +25,28 @@ void PropertyTreeMap::Position::SearchPrevious() noexcept
     const Index* index = itsRoot.index;
     if (!index)
     {
-        *this = Position(NotBehind(itsRoot, (entry ? entry : itsRoot.end) - 1), &itsRoot);
+        *this = Position(Internals::NotBehind(itsRoot, (entry ? entry : itsRoot.end) - 1), &itsRoot);
         return;
     }
-    Where where = entry ? owner.Locate(*this) : Where{static_cast<size_type>(index->EndLeaf() - index->FirstLeaf())};
+    Where where =
+        entry ? Internals::Locate(owner, *this) : Where{static_cast<size_type>(index->EndLeaf() - index->FirstLeaf())};
     if (where.place == 0)
     {
         --where.leaf;
         where.place = index->LeafAt(where.leaf).count;
     }
     --where.place;
-    *this = owner.At(where);
+    *this = Internals::At(owner, where);
 }
 
 PropertyTreeMap::Position PropertyTreeMap::SearchFirst() const noexcept
 {
-    return m_root ? At({}) : Position(this);
+    return m_root ? Internals::At(*this, {}) : Position(this);
 }
 
 PropertyTreeMap::Position PropertyTreeMap::LowerBound(std::string_view key) const noexcept
 {
-    return m_root ? At(Search(key)) : Position(this);
+    return m_root ? Internals::At(*this, Internals::Search(*this, key)) : Position(this);
 }
 
 PropertyTreeMap::Position PropertyTreeMap::UpperBound(std::string_view key) const noexcept
@@ -54,14 +55,15 @@ PropertyTreeMap::Position PropertyTreeMap::UpperBound(std::string_view key) cons
     {
         return Position(this);
     }
-    Where where = Search(key);
+    Where where = Internals::Search(*this, key);
     where.place += where.isThere ? 1 : 0;
-    return At(where);
+    return Internals::At(*this, where);
 }
 
-PropertyTreeMap::Where PropertyTreeMap::Locate(const Position& position) const noexcept
+PropertyTreeMap::Where PropertyTreeMap::Internals::Locate(const PropertyTreeMap& map, const Position& position) noexcept
 {
-    return m_root->index ? m_root->index->Locate(position) : Where{0, static_cast<size_type>(position.entry - m_root->Slots())};
+    Root& root = *map.m_root;
+    return root.index ? root.index->Locate(position) : Where{0, static_cast<size_type>(position.entry - root.Slots())};
 }
 
 PropertyTreeMap::iterator PropertyTreeMap::erase(const_iterator first, const_iterator last) noexcept

@@ -145,7 +145,7 @@ void EffectSettings::SerializePtr(PropertyTree& tree, const std::shared_ptr<cons
     const bool wasNull = tree.isNull();
     effect->Serialize(tree);
     // The entries of a tree that was null nobody has seen yet, so they may still move.
-    PropertyTree& id = wasNull && !tree.isNull() ? PropertyTreeMapFiller::Insert(tree.getMap(), StoredKeys::CLASS_ID)
+    PropertyTree& id = wasNull && !tree.isNull() ? PropertyTreeMapFiller::FindOrInsertMoving(tree.getMap(), StoredKeys::CLASS_ID)
                                                  : tree[StoredKeys::CLASS_ID];
     id = PropertyTreeScalar(effect->GetClassId());
 }

@@ -82,7 +82,7 @@ public:
     }
 
 private:
-    void RefreshMirrors() const;
+    OMBREL_LOCAL void RefreshMirrors() const;
 
     double m_resolution = -1.0;
     SizeUOM m_uom = SizeUOM::pixels;

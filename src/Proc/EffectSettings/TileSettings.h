@@ -95,7 +95,7 @@ public:
     }
 
 private:
-    void CopyFrom(const TileSettings& other);
+    OMBREL_LOCAL void CopyFrom(const TileSettings& other);
 
     List m_pre;
     List m_post;
