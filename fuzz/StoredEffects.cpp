@@ -80,13 +80,12 @@ std::vector<PropertyTree> ParseInput(const std::uint8_t* data, std::size_t size)
 
 const EffectClass* ClassOf(const PropertyTree& tree)
 {
-    if (!tree.contains(Proc::StoredKeys::CLASS_ID) || !IsText(tree[Proc::StoredKeys::CLASS_ID]))
+    if (!tree.contains(Proc::StoredKeys::NAME) || !IsText(tree[Proc::StoredKeys::NAME]))
     {
         return nullptr;
     }
     const auto classes = EffectClasses();
-    const auto found =
-        std::ranges::find(classes, tree[Proc::StoredKeys::CLASS_ID].getScalar().toString(), &EffectClass::classId);
+    const auto found = std::ranges::find(classes, tree[Proc::StoredKeys::NAME].getScalar().toString(), &EffectClass::classId);
     return found == classes.end() ? nullptr : &*found;
 }
 

@@ -40,7 +40,7 @@ std::string Listing(const EffectPtr& effect, const Path& path)
     const PropertyTree full = FullForm(effect);
     for (const auto& [key, value] : full.getMap())
     {
-        if (key != Proc::StoredKeys::CLASS_ID)
+        if (key != Proc::StoredKeys::NAME)
         {
             // A property with its default is not in the stored form.
             text += (stored.contains(key) ? "  * " : "    ") + key + " = " + Shown(value) + '\n';

@@ -78,7 +78,7 @@ PropertyTree FullForm(const std::shared_ptr<const PhotoCore::IEffectSettings>& e
 
 PropertyTree WithDefaults(const PropertyTree& map)
 {
-    if (map.contains(Proc::StoredKeys::CLASS_ID))
+    if (map.contains(Proc::StoredKeys::NAME))
     {
         if (const auto effect = TryReadEffect(map))
         {

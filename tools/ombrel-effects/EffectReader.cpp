@@ -11,7 +11,7 @@ namespace Ombrel::EffectsTool
 namespace
 {
 
-const std::string NAME{Proc::StoredKeys::CLASS_ID};
+const std::string NAME{Proc::StoredKeys::NAME};
 
 // Why the library refuses the element, if it does.
 std::optional<std::string> ReasonAgainst(const PropertyTree& element)

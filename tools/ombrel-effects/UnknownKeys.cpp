@@ -40,7 +40,7 @@ std::optional<std::string> FormOf(const PropertyTree& element)
 
 std::string ClassOf(const PropertyTree& map)
 {
-    const PropertyTree* name = FindChild(map, std::string(Proc::StoredKeys::CLASS_ID));
+    const PropertyTree* name = FindChild(map, std::string(Proc::StoredKeys::NAME));
     return name && IsString(*name) ? name->getScalar().toString() : std::string();
 }
 

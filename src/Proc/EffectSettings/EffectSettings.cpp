@@ -145,8 +145,8 @@ void EffectSettings::SerializePtr(PropertyTree& tree, const std::shared_ptr<cons
     const bool wasNull = tree.isNull();
     effect->Serialize(tree);
     // The entries of a tree that was null nobody has seen yet, so they may still move.
-    PropertyTree& id = wasNull && !tree.isNull() ? PropertyTreeMapFiller::FindOrInsertMoving(tree.getMap(), StoredKeys::CLASS_ID)
-                                                 : tree[StoredKeys::CLASS_ID];
+    PropertyTree& id = wasNull && !tree.isNull() ? PropertyTreeMapFiller::FindOrInsertMoving(tree.getMap(), StoredKeys::NAME)
+                                                 : tree[StoredKeys::NAME];
     id = PropertyTreeScalar(effect->GetClassId());
 }
 
@@ -159,7 +159,7 @@ void EffectSettings::DeserializePtr(const PropertyTree& tree, std::shared_ptr<IE
     }
     const NestingGuard guard(effectsInRead);
     // The old effect goes last: the tree may be one that it holds.
-    const auto old = std::exchange(effect, Make(tree.getMap().at(StoredKeys::CLASS_ID).getScalar().toString()));
+    const auto old = std::exchange(effect, Make(tree.getMap().at(StoredKeys::NAME).getScalar().toString()));
     effect->Deserialize(tree);
 }
 

@@ -2,7 +2,7 @@
 #define OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_BODY_H
 
 #include "Proc/EffectSettings/EffectSettingsImpl.h"
-#include "Proc/Reflection/PropertyAccessImpl.h"
+#include "Proc/Reflection/PropertyAccess.h"
 #include "Proc/Settings/Settings.h"
 
 #include <cstddef>

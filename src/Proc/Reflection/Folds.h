@@ -101,8 +101,9 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         {
             isWritten.fill(true);
         }
+        std::array<bool, List::SIZE> isNew;
         std::array<PropertyTree*, List::SIZE> children;
-        WriteTargets targets(SCHEMA, target, others, isWritten.data(), children.data());
+        WriteTargets targets(SCHEMA, target, others, isWritten.data(), isNew.data(), children.data());
         (WriteOrOmit<Descriptors>(children[Index], record, flags), ...);
         targets.Finish();
     }

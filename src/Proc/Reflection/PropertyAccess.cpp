@@ -1,4 +1,4 @@
-#include "Proc/Reflection/PropertyAccessImpl.h"
+#include "Proc/Reflection/PropertyAccess.h"
 
 namespace Ombrel::Proc
 {

@@ -77,17 +77,16 @@ void FindChildren(const RecordSchema& schema, const PropertyTree::Map& source, c
     }
 }
 
-WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, bool* isWritten,
-                           PropertyTree** children) noexcept
-    : m_schema(schema), m_map(map), m_isNew(isWritten), m_children(children)
+WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, PropertyTree** children) noexcept
+    : m_schema(schema), m_map(map), m_children(children)
 {
     std::fill_n(children, schema.fields.size(), nullptr);
 }
 
 // The delegating constructor has returned, so a failure in this body runs the destructor.
-WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, bool* isWritten,
-                           PropertyTree** children)
-    : WriteTargets(schema, map, isWritten, children)
+WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, const bool* isWritten,
+                           bool* isNew, PropertyTree** children)
+    : WriteTargets(schema, map, children)
 {
     const std::span fields = schema.fields;
     const auto count = static_cast<std::size_t>(std::count(isWritten, isWritten + fields.size(), true));
@@ -98,6 +97,7 @@ WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, s
     const std::span sortedKeys(schema.sortedKeys, fields.size());
     if (map.empty())
     {
+        m_isNew = isWritten; // all that have a child
         PropertyTreeMapFiller filler(map, count + others);
         for (const SortedKey& key : sortedKeys)
         {
@@ -109,13 +109,14 @@ WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, s
         }
         return;
     }
+    m_isNew = isNew;
     map.reserve(map.size() + count + others);
     for (const SortedKey& key : sortedKeys)
     {
         const std::size_t index = key.index;
         if (isWritten[index])
         {
-            isWritten[index] = !map.contains(fields[index].key);
+            isNew[index] = !map.contains(fields[index].key);
             children[index] = &map[fields[index].key];
         }
     }

@@ -108,12 +108,14 @@ OMBREL_API void FindChildren(const RecordSchema& schema, const PropertyTree::Map
 class OMBREL_API WriteTargets
 {
 public:
-    /// @param flags for each field: on entry, whether it is written; from then on, whether its child is new. It belongs to the
-    ///              caller and must outlive this object, as `children`.
-    /// @param children for each field, its child or null; the caller clears a place when the write comes to it
+    /// The last three are arrays of the caller with a place for each field, and must outlive this object.
     /// @param others the map gets room for this many further entries
+    /// @param isWritten whether the field is written
+    /// @param isNew for this object's own use
+    /// @param children set to the field's child, or to null; the caller clears a place when the write comes to it
     /// @throws std::bad_alloc; the entries of the map are then unchanged
-    WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, bool* flags, PropertyTree** children);
+    WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, const bool* isWritten, bool* isNew,
+                 PropertyTree** children);
 
     WriteTargets(const WriteTargets&) = delete;
     WriteTargets& operator=(const WriteTargets&) = delete;
@@ -130,13 +132,13 @@ public:
     void Finish() noexcept { m_isDone = true; }
 
 private:
-    WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, bool* flags, PropertyTree** children) noexcept;
+    OMBREL_LOCAL WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, PropertyTree** children) noexcept;
 
     void Withdraw() noexcept;
 
     const RecordSchema& m_schema;
     PropertyTree::Map& m_map;
-    bool* m_isNew;
+    const bool* m_isNew = nullptr; // of a field with a child, whether this object has inserted it
     PropertyTree** m_children;
     bool m_isDone = false;
 };

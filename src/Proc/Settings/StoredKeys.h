@@ -10,11 +10,11 @@ namespace Ombrel::Proc::StoredKeys
 {
 
 // The keys of the effect itself. They share one map with the keys of its record.
-inline constexpr std::string_view CLASS_ID = "name";
+inline constexpr std::string_view NAME = "name"; // holds the class id
 inline constexpr std::string_view IMPL_NAME = "implName";
 inline constexpr std::string_view HELPER_SETTINGS = "helperSettings";
 
-inline constexpr std::array RESERVED{CLASS_ID, IMPL_NAME, HELPER_SETTINGS};
+inline constexpr std::array RESERVED{NAME, IMPL_NAME, HELPER_SETTINGS};
 
 } // namespace Ombrel::Proc::StoredKeys
 
