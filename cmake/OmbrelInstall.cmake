@@ -71,15 +71,15 @@ install(FILES ${PROJECT_SOURCE_DIR}/src/OmbrelExport.h ${PROJECT_SOURCE_DIR}/src
 ombrel_install_library(EffectSettings
   DESCRIPTION "${PROJECT_DESCRIPTION}"
   FOLDERS Conf Exception PhotoUtil Proc PropertyTree
-  PRIVATE_HEADERS PropertyTreeMapFiller.h PropertyTreeMapIndex.h PropertyTreeMapInternals.h RegisteredFactories.h
-                  ScaledInteger.h WrappingArithmetic.h)
+  PRIVATE_HEADERS Characters.h KindNames.h PropertyTreeMapFiller.h PropertyTreeMapIndex.h PropertyTreeMapInternals.h
+                  RegisteredFactories.h ScaledInteger.h WrappingArithmetic.h)
 install(FILES ${PROJECT_SOURCE_DIR}/debugger/ombrel_gdb.py ${PROJECT_SOURCE_DIR}/debugger/ombrel.natvis
         DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrel-effect-settings)
 if(TARGET ombrel_PropertyTreeJson)
   ombrel_install_library(PropertyTreeJson
     DESCRIPTION "The stored form of effect settings as JSON text"
     FOLDERS PropertyTreeJson
-    PRIVATE_HEADERS JsonText.h
+    PRIVATE_HEADERS JsonText.h MessageText.h
     REQUIRES ombrel-effect-settings)
 endif()
 if(TARGET ombrel-effects) # its own rule installs it

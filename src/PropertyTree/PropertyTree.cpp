@@ -1,5 +1,6 @@
 #include "PropertyTree/PropertyTree.h"
 
+#include "PropertyTree/KindNames.h"
 #include "PropertyTree/PropertyTreeMapFiller.h"
 
 #include <algorithm>
@@ -22,19 +23,6 @@ namespace
 // So many levels are copied, compared and destroyed by recursion, which is fast. Deeper levels, which may go on as far as
 // memory allows, are noted and handled later in a loop.
 constexpr int RECURSION_LIMIT = 32;
-
-const char* NameOf(const PropertyTree& tree)
-{
-    if (tree.isNull())
-    {
-        return "null";
-    }
-    if (tree.isScalar())
-    {
-        return "a scalar";
-    }
-    return tree.isList() ? "a list" : "a map";
-}
 
 bool IsContainer(const PropertyTree& tree)
 {
@@ -300,7 +288,7 @@ bool operator==(const PropertyTree& a, const PropertyTree& b)
 
 void PropertyTree::Refuse(const char* expected) const
 {
-    throw std::invalid_argument(std::string("tree: expected ") + expected + ", found " + NameOf(*this));
+    throw std::invalid_argument(std::string("tree: expected ") + expected + ", found " + NameOfState(*this));
 }
 
 void PropertyTree::SetMap(Map&& map) noexcept

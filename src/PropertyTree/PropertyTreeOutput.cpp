@@ -1,5 +1,7 @@
 #include "PropertyTree/PropertyTreeOutput.h"
 
+#include "PropertyTree/Characters.h"
+
 #include <charconv>
 #include <cstddef>
 #include <iterator>
@@ -18,47 +20,18 @@ void Write(std::ostream& out, std::string_view text)
     out.write(text.data(), static_cast<std::streamsize>(text.size()));
 }
 
-// The bytes of the character that `text` begins with, or 0 if that is no valid UTF-8 or is a control character.
-std::size_t SizeOfCharacter(std::string_view text)
-{
-    const auto byteAt = [text](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0u; };
-    const unsigned first = byteAt(0);
-    if (first < 0x80)
-    {
-        return first >= 0x20 && first != 0x7f ? 1 : 0;
-    }
-    if (first < 0xc0 || first > 0xf4)
-    {
-        return 0;
-    }
-    const std::size_t size = first < 0xe0 ? 2 : first < 0xf0 ? 3 : 4;
-    unsigned code = first & (0x7fu >> size);
-    for (std::size_t i = 1; i != size; ++i)
-    {
-        if ((byteAt(i) & 0xc0) != 0x80)
-        {
-            return 0;
-        }
-        code = code << 6 | (byteAt(i) & 0x3f);
-    }
-    constexpr unsigned smallest[] = {0xa0, 0x800, 0x10000}; // of so many bytes; U+0080 to U+009F are control characters
-    const bool isSurrogate = code >= 0xd800 && code <= 0xdfff;
-    return code >= smallest[size - 2] && code <= 0x10ffff && !isSurrogate ? size : 0;
-}
-
 void WriteEscaped(std::ostream& out, char character)
 {
     constexpr std::string_view escaped = "\"\\\n\t\r";
     constexpr std::string_view letters = "\"\\ntr";
-    constexpr std::string_view digits = "0123456789abcdef";
     if (const std::size_t index = escaped.find(character); index != std::string_view::npos)
     {
         const char text[] = {'\\', letters[index]};
         Write(out, {text, std::size(text)});
         return;
     }
-    const auto byte = static_cast<unsigned char>(character);
-    const char text[] = {'\\', 'x', digits[byte >> 4], digits[byte & 15]};
+    const auto [high, low] = HexDigits(static_cast<unsigned char>(character));
+    const char text[] = {'\\', 'x', high, low};
     Write(out, {text, std::size(text)});
 }
 
@@ -68,8 +41,9 @@ void WriteQuoted(std::ostream& out, std::string_view text)
     std::size_t begin = 0;
     for (std::size_t i = 0; i != text.size();)
     {
-        const std::size_t size = SizeOfCharacter(text.substr(i));
-        if (size != 0 && text[i] != '"' && text[i] != '\\')
+        const std::string_view rest = text.substr(i);
+        const std::size_t size = Utf8Length(rest);
+        if (size != 0 && !IsControl(rest) && text[i] != '"' && text[i] != '\\')
         {
             i += size;
             continue;

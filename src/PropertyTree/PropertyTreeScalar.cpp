@@ -1,27 +1,13 @@
 #include "PropertyTree/PropertyTreeScalar.h"
 
+#include "PropertyTree/KindNames.h"
+
 #include <stdexcept>
 
 namespace Ombrel
 {
 namespace
 {
-
-const char* NameOf(PropertyTreeScalar::Kind kind)
-{
-    switch (kind)
-    {
-    case PropertyTreeScalar::Kind::Bool:
-        return "a bool";
-    case PropertyTreeScalar::Kind::Integer:
-        return "an integer";
-    case PropertyTreeScalar::Kind::Float:
-        return "a float";
-    case PropertyTreeScalar::Kind::String:
-        return "a string";
-    }
-    return "nothing";
-}
 
 [[noreturn]] void ThrowKind(const char* expected, PropertyTreeScalar::Kind found)
 {

@@ -1,4 +1,4 @@
-#include "PropertyTreeJson/JsonText.h"
+#include "PropertyTreeJson/MessageText.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
 namespace Ombrel
@@ -6,42 +6,7 @@ namespace Ombrel
 namespace
 {
 
-// U+0000 to U+001F and U+007F to U+009F. A terminal may take U+009B for the start of a command, like ESC and "[".
-bool IsControl(std::string_view character)
-{
-    const auto first = static_cast<unsigned char>(character.front());
-    return character.size() == 1 ? first < 0x20 || first == 0x7F
-                                 : first == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0;
-}
-
-// Keys come from the input, which may be hostile: no message may contain a command to a terminal or break the encoding of a
-// log.
-std::string Printable(std::string_view text)
-{
-    constexpr std::string_view hex = "0123456789abcdef";
-    std::string result;
-    while (!text.empty())
-    {
-        const std::size_t length = JsonText::Utf8Length(text);
-        const auto byte = static_cast<unsigned char>(text.front());
-        if (length == 0)
-        {
-            result += "\\x";
-            result += hex[byte >> 4];
-            result += hex[byte & 0xF];
-        }
-        else if (IsControl(text.substr(0, length)))
-        {
-            JsonText::AppendEscape(result, text[length - 1]); // the last byte is the code point, of either length
-        }
-        else
-        {
-            result += text.substr(0, length);
-        }
-        text.remove_prefix(length == 0 ? 1 : length);
-    }
-    return result;
-}
+using MessageText::Printable;
 
 std::string Message(const std::string& path, const std::string& reason)
 {

@@ -1,4 +1,5 @@
 #include "PropertyTreeJson/JsonText.h"
+#include "PropertyTreeJson/MessageText.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
 #include <algorithm>
@@ -343,7 +344,7 @@ private:
 
     std::string PathText() const
     {
-        JsonText::Path path;
+        MessageText::Path path;
         const bool isBetweenValues = m_separator == ',' && !IsSeparator(SkipWhiteSpace(m_tokenEnd));
         for (const Level& level : m_open)
         {

@@ -1,4 +1,5 @@
 #include "PropertyTreeJson/JsonText.h"
+#include "PropertyTreeJson/MessageText.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
 #include <algorithm>
@@ -198,7 +199,7 @@ private:
 
     [[noreturn]] void Fail(const std::string& reason) const
     {
-        JsonText::Path path;
+        MessageText::Path path;
         for (const Level& level : m_open)
         {
             if (level.tree->isList())

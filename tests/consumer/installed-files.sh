@@ -24,8 +24,9 @@ expect "libraries" "$expected" "$(find "$libdir" -mindepth 1 -maxdepth 1 -name '
 expected=$(cd "$SOURCE_DIR/src" &&
     find OmbrelExport.h OmbrelVersion.h Conf Exception PhotoUtil Proc PropertyTree PropertyTreeJson -name '*.h' |
     grep -vxF -e Proc/EffectSettings/WrappingArithmetic.h -e Proc/EffectSettings/RegisteredFactories.h -e Proc/Settings/ScaledInteger.h \
-        -e PropertyTree/PropertyTreeMapFiller.h -e PropertyTree/PropertyTreeMapIndex.h \
-        -e PropertyTree/PropertyTreeMapInternals.h -e PropertyTreeJson/JsonText.h |
+        -e PropertyTree/Characters.h -e PropertyTree/KindNames.h -e PropertyTree/PropertyTreeMapFiller.h \
+        -e PropertyTree/PropertyTreeMapIndex.h -e PropertyTree/PropertyTreeMapInternals.h \
+        -e PropertyTreeJson/JsonText.h -e PropertyTreeJson/MessageText.h |
     sort)
 expect "headers" "$expected" "$(cd "$include" && find . -name '*.h' -printf '%P\n' | sort)"
 sed 's/.*/#include "&"/' <<<"$expected" | "$CXX" -std=c++20 -fsyntax-only -I "$include" -x c++ - ||

@@ -81,6 +81,14 @@ TEST_F(ToolInput, JsonErrorHasLineAndColumn)
     EXPECT_EQ(Run({"show", "-"}, {.input = "[1"}), (ToolResult{3, "", "<stdin>:1:3: unexpected end of input; expected ']'\n"}));
 }
 
+TEST_F(ToolInput, IsEscapedInMessagesAsTheJsonLibraryDoes)
+{
+    EXPECT_EQ(Run({"new", "~/\n\x1b\xC2\x9B\xFF\xC3\xA4"}),
+              (ToolResult{1, "",
+                          "~0~1\\n\\u001b\\u009b\\xff\xC3\xA4: no such class id, expected one that \"ombrel-effects list\" "
+                          "shows\n"}));
+}
+
 struct BadEffect
 {
     const char* content;

@@ -1,11 +1,11 @@
 #include "AtomicFile.h"
 
+#include "TextFile.h"
 #include "ToolError.h"
 
 #include <cerrno>
 #include <cstdlib>
 #include <memory>
-#include <system_error>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -19,11 +19,6 @@ namespace
 [[noreturn]] void ThrowFailure(const std::string& file, const std::string& reason)
 {
     throw ToolError(ExitCode::UsageOrFile, file + ": cannot be replaced: " + reason);
-}
-
-std::string LastError()
-{
-    return std::generic_category().message(errno);
 }
 
 std::string TargetOf(const std::string& file)

@@ -23,6 +23,19 @@ std::string TextOf(const PropertyTree& tree, const std::string& subject, bool no
     }
 }
 
+PropertyTree ReadJsonFile(const std::string& file, bool nonFinite)
+{
+    const std::string text = ReadTextFile(file);
+    try
+    {
+        return ReadJson(text, {.nonFiniteAsText = nonFinite});
+    }
+    catch (const JsonError& error)
+    {
+        throw ToolError(ExitCode::BadInput, NameOfFile(file) + ":" + error.what());
+    }
+}
+
 Document::Document(std::string name, PropertyTree tree, bool nonFinite)
     : m_name(std::move(name)), m_tree(std::move(tree)), m_isList(m_tree.isList()), m_nonFinite(nonFinite)
 {
@@ -30,23 +43,14 @@ Document::Document(std::string name, PropertyTree tree, bool nonFinite)
 
 Document Document::Load(const std::string& file, bool nonFinite)
 {
-    const std::string name = NameOfFile(file);
-    const std::string text = ReadTextFile(file);
-    try
-    {
-        Document document(name, ReadJson(text, {.nonFiniteAsText = nonFinite}), nonFinite);
-        document.CheckElements();
-        return document;
-    }
-    catch (const JsonError& error)
-    {
-        throw ToolError(ExitCode::BadInput, name + ":" + error.what());
-    }
+    Document document(NameOfFile(file), ReadJsonFile(file, nonFinite), nonFinite);
+    document.CheckElements();
+    return document;
 }
 
 void Document::CheckElements() const
 {
-    if (!m_isList && !IsMap(m_tree))
+    if (!m_isList && !m_tree.isMap())
     {
         throw ToolError(ExitCode::BadInput,
                         m_name + ": found " + KindOf(m_tree) + ", expected an effect (a map) or a list of effects");
@@ -54,7 +58,7 @@ void Document::CheckElements() const
     for (std::size_t index = 0; index < size(); ++index)
     {
         const PropertyTree& element = (*this)[index];
-        if (!IsMap(element) && !element.isNull())
+        if (!element.isMap() && !element.isNull())
         {
             throw ToolError(ExitCode::BadInput,
                             Where(index) + "found " + KindOf(element) + ", expected an effect (a map) or null");
@@ -83,9 +87,8 @@ Document::Target Document::Locate(const Path& path) const
     const std::optional<std::size_t> index = IndexOf(path.front());
     if (!index || *index >= size())
     {
-        const std::string expected =
-            size() == 0 ? "the list is empty" : "expected an index from 0 to " + std::to_string(size() - 1);
-        throw ToolError(ExitCode::NotAsAsked, m_name + ": " + PathText(Path{path.front()}) + ": no such effect, " + expected);
+        throw ToolError(ExitCode::NotAsAsked,
+                        m_name + ": " + PathText(PathView(path).first(1)) + ": no such effect, " + ExpectedBelow(m_tree));
     }
     return {*index, Path(path.begin() + 1, path.end())};
 }

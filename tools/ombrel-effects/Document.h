@@ -15,6 +15,10 @@ namespace Ombrel::EffectsTool
 /// @throws ToolError `BadInput` if a value has no JSON form; the message begins with `subject`
 std::string TextOf(const PropertyTree& tree, const std::string& subject, bool nonFinite);
 
+/// Reads a file, or the standard input for "-".
+/// @throws ToolError `UsageOrFile`, or `BadInput` if it is not JSON
+PropertyTree ReadJsonFile(const std::string& file, bool nonFinite);
+
 /// One stored effect or a list of stored effects, as in the file. `Read` lets the library read one of them.
 class Document
 {
@@ -26,8 +30,8 @@ public:
         Path rest;
     };
 
-    /// Reads a file, or the standard input for "-". The elements must be maps or null; their content is not checked.
-    /// @throws ToolError `UsageOrFile`, or `BadInput` if it is not JSON, or neither an effect nor a list of effects
+    /// Reads a file as `ReadJsonFile`. The elements must be maps or null; their content is not checked.
+    /// @throws ToolError as `ReadJsonFile`, and `BadInput` if it is neither an effect nor a list of effects
     static Document Load(const std::string& file, bool nonFinite);
 
     std::size_t size() const { return m_isList ? m_tree.getList().size() : 1; }

@@ -3,6 +3,7 @@
 #include "Exception/Exception.h"
 #include "Proc/EffectSettings/EffectSettings.h"
 #include "Proc/Settings/StoredKeys.h"
+#include "Values.h"
 
 #include <utility>
 
@@ -13,13 +14,20 @@ namespace
 
 const std::string NAME{Proc::StoredKeys::NAME};
 
+// Throws what the library throws.
+EffectPtr EffectOf(const PropertyTree& element)
+{
+    EffectPtr effect;
+    PhotoCore::EffectSettings::DeserializePtr(element, effect);
+    return effect;
+}
+
 // Why the library refuses the element, if it does.
 std::optional<std::string> ReasonAgainst(const PropertyTree& element)
 {
     try
     {
-        EffectPtr effect;
-        PhotoCore::EffectSettings::DeserializePtr(element, effect);
+        EffectOf(element);
         return std::nullopt;
     }
     catch (const std::exception& error)
@@ -73,7 +81,7 @@ Refusal RefusedName(const PropertyTree& map, const Path& place, const std::strin
     {
         return {place, "no \"" + NAME + "\", expected the class id of an effect"};
     }
-    if (map[NAME].isScalar() && map[NAME].getScalar().kind() == PropertyTreeScalar::Kind::String)
+    if (IsString(map[NAME]))
     {
         return {Below(place, NAME), reason + " Expected a class id that \"ombrel-effects list\" shows as registered"};
     }
@@ -85,7 +93,7 @@ Refusal RefusedName(const PropertyTree& map, const Path& place, const std::strin
 std::optional<Refusal> NextRefusal(const PropertyTree& element, const Refusal& refusal)
 {
     const PropertyTree& value = At(element, refusal.place);
-    if (IsMap(value))
+    if (value.isMap())
     {
         if (const auto reason = ReasonAgainst(ElementOf(element, refusal.place, Bare(value))))
         {
@@ -109,9 +117,7 @@ std::optional<EffectPtr> TryReadEffect(const PropertyTree& element)
 {
     try
     {
-        EffectPtr effect;
-        PhotoCore::EffectSettings::DeserializePtr(element, effect);
-        return effect;
+        return EffectOf(element);
     }
     catch (const std::exception&)
     {
@@ -133,9 +139,7 @@ std::variant<EffectPtr, Refusal> ReadEffect(const PropertyTree& element)
 {
     try
     {
-        EffectPtr effect;
-        PhotoCore::EffectSettings::DeserializePtr(element, effect);
-        return effect;
+        return EffectOf(element);
     }
     catch (const std::exception& error)
     {

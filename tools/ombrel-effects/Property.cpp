@@ -9,34 +9,6 @@
 
 namespace Ombrel::EffectsTool
 {
-namespace
-{
-
-std::string Joined(const std::vector<std::string>& texts)
-{
-    std::string joined;
-    for (const std::string& text : texts)
-    {
-        joined += (joined.empty() ? "" : ", ") + PathText(Path{text});
-    }
-    return joined;
-}
-
-std::string ChildrenOf(const PropertyTree& tree)
-{
-    if (tree.isNull() || tree.isScalar())
-    {
-        return std::string("there is nothing below ") + KindOf(tree);
-    }
-    const std::vector<std::string> steps = StepsOf(tree);
-    if (steps.empty())
-    {
-        return std::string(tree.isList() ? "the list" : "the map") + " is empty";
-    }
-    return "expected " + (tree.isList() ? "an index from 0 to " + std::to_string(steps.size() - 1) : "one of " + Joined(steps));
-}
-
-} // namespace
 
 Property::Property(const Document& document, const Document::Target& target)
     : m_document(document), m_index(target.index), m_path(target.rest), m_effect(document.Read(target.index))
@@ -70,7 +42,7 @@ void Property::CheckKey() const
     {
         const bool isIndex = !m_document.isList() && IndexOf(key());
         fail(m_effect->GetClassId() + " has no such property, " +
-             (keys.empty() ? "it has none" : "expected one of " + Joined(keys)) +
+             (keys.empty() ? "it has none" : "expected one of " + PathTexts(keys)) +
              (isIndex ? "; the file is a single effect, so the index is left out" : ""));
     }
 }
@@ -84,7 +56,7 @@ void Property::CheckPlace() const
         if (!child)
         {
             throw ToolError(ExitCode::NotAsAsked, m_document.Where(m_index, PathView(m_path).first(depth + 1)) +
-                                                      "does not exist, " + ChildrenOf(*value));
+                                                      "does not exist, " + ExpectedBelow(*value));
         }
         value = child;
     }

@@ -1,7 +1,9 @@
 #include "PropertyPath.h"
 
+#include "PropertyTreeJson/MessageText.h"
+#include "Values.h"
+
 #include <charconv>
-#include <cstdio>
 #include <stdexcept>
 
 namespace Ombrel::EffectsTool
@@ -18,25 +20,6 @@ std::string Unescaped(std::string_view key)
         result += !isEscape ? key[i] : key[++i] == '0' ? '~' : '/';
     }
     return result;
-}
-
-void AppendEscaped(std::string& text, char character)
-{
-    const auto byte = static_cast<unsigned char>(character);
-    if (character == '~' || character == '/')
-    {
-        text += character == '~' ? "~0" : "~1";
-    }
-    else if (byte < 0x20 || byte == 0x7F)
-    {
-        char escape[8];
-        std::snprintf(escape, sizeof(escape), "\\u%04x", static_cast<unsigned>(byte));
-        text += escape;
-    }
-    else
-    {
-        text += character;
-    }
 }
 
 } // namespace
@@ -58,19 +41,22 @@ Path ParsePath(std::string_view text)
 
 std::string PathText(PathView path)
 {
-    std::string text;
-    for (std::size_t i = 0; i < path.size(); ++i)
+    MessageText::Path text;
+    for (const std::string& step : path)
     {
-        if (i != 0)
-        {
-            text += '/';
-        }
-        for (const char character : path[i])
-        {
-            AppendEscaped(text, character);
-        }
+        text.Add(step);
     }
-    return text;
+    return MessageText::Printable(text.Text());
+}
+
+std::string PathTexts(const std::vector<std::string>& steps)
+{
+    std::string texts;
+    for (const std::string& step : steps)
+    {
+        texts += (texts.empty() ? "" : ", ") + PathText(Path{step});
+    }
+    return texts;
 }
 
 std::optional<std::size_t> IndexOf(std::string_view step)
@@ -137,7 +123,7 @@ std::vector<std::string> StepsOf(const PropertyTree& tree)
             steps.push_back(std::to_string(i));
         }
     }
-    else if (IsMap(tree))
+    else if (tree.isMap())
     {
         for (const auto& [key, child] : tree.getMap())
         {
@@ -145,6 +131,21 @@ std::vector<std::string> StepsOf(const PropertyTree& tree)
         }
     }
     return steps;
+}
+
+std::string ExpectedBelow(const PropertyTree& tree)
+{
+    if (tree.isNull() || tree.isScalar())
+    {
+        return std::string("there is nothing below ") + KindOf(tree);
+    }
+    const std::vector<std::string> steps = StepsOf(tree);
+    if (steps.empty())
+    {
+        return std::string(tree.isList() ? "the list" : "the map") + " is empty";
+    }
+    return "expected " +
+           (tree.isList() ? "an index from 0 to " + std::to_string(steps.size() - 1) : "one of " + PathTexts(steps));
 }
 
 Path Below(PathView path, const std::string& step)

@@ -20,8 +20,11 @@ using PathView = std::span<const std::string>;
 /// Splits at "/"; within a key "~1" stands for "/" and "~0" for "~". The empty text is one empty key.
 Path ParsePath(std::string_view text);
 
-/// The reverse of `ParsePath`, with control characters made visible; empty for an empty path.
+/// The reverse of `ParsePath`, escaped for messages as the texts of `JsonError`; empty for an empty path.
 std::string PathText(PathView path);
+
+/// The paths of one step each, joined by ", ".
+std::string PathTexts(const std::vector<std::string>& steps);
 
 /// The index, if `step` is a decimal number without sign and leading zeros.
 std::optional<std::size_t> IndexOf(std::string_view step);
@@ -41,14 +44,11 @@ PropertyTree& At(PropertyTree& tree, PathView path);
 /// The steps to all children, in order; none for null and scalars.
 std::vector<std::string> StepsOf(const PropertyTree& tree);
 
+/// For a message about a child that is not there: "expected" and the steps to those that are, or that there are none.
+std::string ExpectedBelow(const PropertyTree& tree);
+
 /// `path` with one more step.
 Path Below(PathView path, const std::string& step);
-
-/// A tree that is neither null nor a scalar nor a list.
-inline bool IsMap(const PropertyTree& tree)
-{
-    return !tree.isNull() && !tree.isScalar() && !tree.isList();
-}
 
 } // namespace Ombrel::EffectsTool
 

@@ -26,7 +26,7 @@ std::string KeyOf(const PropertyTree& container, const std::string& step)
 // JSON on one line, with a space behind each comma and colon. The examples are small, so recursion is safe here and below.
 std::string OnOneLine(const PropertyTree& tree)
 {
-    if (!IsMap(tree) && !tree.isList())
+    if (!tree.isMap() && !tree.isList())
     {
         return Shown(tree);
     }
@@ -43,7 +43,7 @@ std::string Compact(const PropertyTree& tree, std::size_t indent)
 {
     constexpr std::size_t width = 100;
     std::string line = OnOneLine(tree);
-    if (indent + line.size() <= width || !(IsMap(tree) || tree.isList()))
+    if (indent + line.size() <= width || !(tree.isMap() || tree.isList()))
     {
         return line;
     }

@@ -1,8 +1,6 @@
 #include "ReferenceNotes.h"
 
-#include "PropertyPath.h"
-#include "PropertyTreeJson/PropertyTreeJson.h"
-#include "TextFile.h"
+#include "Document.h"
 #include "ToolError.h"
 #include "Values.h"
 
@@ -47,8 +45,8 @@ public:
     const KeylessMembers& ReadMembers()
     {
         const std::string file = FileOf(MEMBERS);
-        const PropertyTree notes = ReadFile(file);
-        if (!IsMap(notes))
+        const PropertyTree notes = ReadJsonFile(file, false);
+        if (!notes.isMap())
         {
             Complain(file + ": found " + KindOf(notes) + ", expected a map from names of classes to lists of members");
             return m_members;
@@ -75,8 +73,8 @@ public:
     {
         const std::string file = FileOf(page.name);
         ReferencePage result{page.name, page.title, {}};
-        const PropertyTree notes = ReadFile(file);
-        if (!IsMap(notes))
+        const PropertyTree notes = ReadJsonFile(file, false);
+        if (!notes.isMap())
         {
             Complain(file + ": found " + KindOf(notes) + ", expected a map from class names to notes");
             return result;
@@ -119,19 +117,6 @@ public:
 private:
     std::string FileOf(std::string_view page) const { return (std::filesystem::path(m_folder) / page).string() + ".json"; }
 
-    static PropertyTree ReadFile(const std::string& file)
-    {
-        const std::string text = ReadTextFile(file);
-        try
-        {
-            return ReadJson(text);
-        }
-        catch (const JsonError& error)
-        {
-            throw ToolError(ExitCode::BadInput, file + ":" + error.what());
-        }
-    }
-
     const EffectClass* Take(const std::string& className, const std::string& where, const std::string& file)
     {
         const auto classes = PhotoCore::EffectClasses();
@@ -152,7 +137,7 @@ private:
 
     std::string LineOf(const PropertyTree& note, const std::string& key, const std::string& where)
     {
-        const bool isThere = IsMap(note) && note.contains(key) && IsString(note[key]);
+        const bool isThere = note.isMap() && note.contains(key) && IsString(note[key]);
         if (!isThere || note[key].getScalar().toString().empty())
         {
             Complain(where + "has no text \"" + key + "\"");
@@ -164,12 +149,12 @@ private:
     std::map<std::string, std::string> UnknownNamesOf(const PropertyTree& note, const std::string& where)
     {
         std::map<std::string, std::string> texts;
-        if (!IsMap(note) || !note.contains("unknownNames"))
+        if (!note.isMap() || !note.contains("unknownNames"))
         {
             return texts;
         }
         const PropertyTree& unknownNames = note["unknownNames"];
-        if (!IsMap(unknownNames))
+        if (!unknownNames.isMap())
         {
             Complain(where + "\"unknownNames\": found " + KindOf(unknownNames) + ", expected a map from keys to texts");
             return texts;
@@ -184,7 +169,7 @@ private:
     std::vector<KeylessMember> MembersOf(const PropertyTree& note, const std::string& where)
     {
         std::vector<KeylessMember> rows;
-        if (!IsMap(note) || !note.contains(MEMBERS))
+        if (!note.isMap() || !note.contains(MEMBERS))
         {
             return rows;
         }

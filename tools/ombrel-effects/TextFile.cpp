@@ -33,6 +33,11 @@ std::string ReadAll(std::FILE* stream)
 
 } // namespace
 
+std::string LastError()
+{
+    return std::generic_category().message(errno);
+}
+
 std::string NameOfFile(const std::string& file)
 {
     return file == "-" ? "<stdin>" : file;
@@ -45,8 +50,7 @@ std::string ReadTextFile(const std::string& file)
     std::string text = stream ? ReadAll(stream) : std::string();
     if (!stream || std::ferror(stream))
     {
-        throw ToolError(ExitCode::UsageOrFile,
-                        NameOfFile(file) + ": cannot be read: " + std::generic_category().message(errno));
+        throw ToolError(ExitCode::UsageOrFile, NameOfFile(file) + ": cannot be read: " + LastError());
     }
     return text;
 }
@@ -56,7 +60,7 @@ void WriteTextFile(const std::string& file, std::string_view text)
     const Stream stream = Open(file, "wb");
     if (!stream || std::fwrite(text.data(), 1, text.size(), stream.get()) != text.size() || std::fflush(stream.get()) != 0)
     {
-        throw ToolError(ExitCode::UsageOrFile, file + ": cannot be written: " + std::generic_category().message(errno));
+        throw ToolError(ExitCode::UsageOrFile, file + ": cannot be written: " + LastError());
     }
 }
 

@@ -7,6 +7,9 @@
 namespace Ombrel::EffectsTool
 {
 
+/// What the system says of `errno`.
+std::string LastError();
+
 /// The name of a file in messages: "<stdin>" for "-".
 std::string NameOfFile(const std::string& file);
 

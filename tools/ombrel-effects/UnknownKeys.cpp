@@ -57,7 +57,7 @@ std::vector<Path> UnknownKeys::In(const PropertyTree& element, const EffectPtr& 
 
 void UnknownKeys::Visit(const PropertyTree& given, const PropertyTree* written, const Path& place, const std::string& pattern)
 {
-    const bool isMap = IsMap(given);
+    const bool isMap = given.isMap();
     const std::string around = isMap ? pattern + "{" + ClassOf(given) + "}" : pattern;
     for (const std::string& step : StepsOf(given))
     {

@@ -1,7 +1,7 @@
 #include "Values.h"
 
 #include "EffectForms.h"
-#include "PropertyPath.h"
+#include "PropertyTree/KindNames.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
 #include <algorithm>
@@ -78,26 +78,7 @@ std::string ShownInBrief(const PropertyTree& value)
 
 const char* KindOf(const PropertyTree& value)
 {
-    if (value.isNull())
-    {
-        return "null";
-    }
-    if (!value.isScalar())
-    {
-        return value.isList() ? "a list" : "a map";
-    }
-    switch (value.getScalar().kind())
-    {
-    case Kind::Bool:
-        return "a bool";
-    case Kind::Integer:
-        return "an integer";
-    case Kind::Float:
-        return "a float";
-    case Kind::String:
-        return "a string";
-    }
-    return "nothing";
+    return value.isScalar() ? NameOf(value.getScalar().kind()) : NameOfState(value);
 }
 
 bool IsString(const PropertyTree& value)

@@ -1,17 +1,16 @@
 #include "AtomicFile.h"
 #include "Commands.h"
 #include "Document.h"
+#include "TextFile.h"
 #include "ToolError.h"
 
 #include <CLI/CLI.hpp>
 
-#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <functional>
 #include <iostream>
 #include <string>
-#include <system_error>
 
 namespace Ombrel::EffectsTool
 {
@@ -137,7 +136,7 @@ void Print(const std::string& text)
 {
     if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() || std::fflush(stdout) != 0)
     {
-        throw ToolError(ExitCode::UsageOrFile, "<stdout>: cannot be written: " + std::generic_category().message(errno));
+        throw ToolError(ExitCode::UsageOrFile, "<stdout>: cannot be written: " + LastError());
     }
 }
 

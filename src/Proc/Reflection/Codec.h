@@ -132,65 +132,57 @@ struct Codec<Value>
     }
 };
 
-/// Reads the elements in order into the emptied field. A child that is no list leaves the field as it is.
-template <class Element> struct Codec<std::vector<Element>>
+/// What lists and sets have in common. Reads the elements in order into the emptied field. A child that is no list leaves the
+/// field as it is.
+template <class Values, ValueKind KIND> struct SequenceCodec
 {
-    static constexpr ValueSchema SCHEMA{.kind = ValueKind::List, .element = &SCHEMA_OF<Element>};
+    using Element = typename Values::value_type;
 
-    static void Write(PropertyTree& child, const std::vector<Element>& value, const WriteFlags* flags)
+    static constexpr ValueSchema SCHEMA{.kind = KIND, .element = &SCHEMA_OF<Element>};
+
+    static void Write(PropertyTree& child, const Values& values, const WriteFlags* flags)
     {
-        auto target = WriteList(child, value.size()).begin();
-        for (const Element& element : value)
+        auto target = WriteList(child, values.size()).begin();
+        for (const Element& element : values)
         {
             Codec<Element>::Write(*target++, element, flags);
         }
     }
 
-    static void Read(const PropertyTree& child, std::vector<Element>& value, const ReadFlags* flags)
+    static void Read(const PropertyTree& child, Values& values, const ReadFlags* flags)
     {
         if (!child.isList())
         {
             return;
         }
-        value.clear();
-        value.reserve(child.getList().size());
+        values.clear();
+        if constexpr (KIND == ValueKind::List)
+        {
+            values.reserve(child.getList().size());
+        }
         for (const PropertyTree& source : child.getList())
         {
             Element element{};
             Codec<Element>::Read(source, element, flags);
-            value.push_back(std::move(element));
+            if constexpr (KIND == ValueKind::List)
+            {
+                values.push_back(std::move(element));
+            }
+            else
+            {
+                values.insert(values.end(), std::move(element)); // where it belongs if the list is in order, as it is written
+            }
         }
     }
 };
 
-/// A list in ascending order. Reading ignores repeated elements.
-template <class Element> struct Codec<std::set<Element>>
+template <class Element> struct Codec<std::vector<Element>> : SequenceCodec<std::vector<Element>, ValueKind::List>
 {
-    static constexpr ValueSchema SCHEMA{.kind = ValueKind::Set, .element = &SCHEMA_OF<Element>};
+};
 
-    static void Write(PropertyTree& child, const std::set<Element>& value, const WriteFlags* flags)
-    {
-        auto target = WriteList(child, value.size()).begin();
-        for (const Element& element : value)
-        {
-            Codec<Element>::Write(*target++, element, flags);
-        }
-    }
-
-    static void Read(const PropertyTree& child, std::set<Element>& value, const ReadFlags* flags)
-    {
-        if (!child.isList())
-        {
-            return;
-        }
-        value.clear();
-        for (const PropertyTree& source : child.getList())
-        {
-            Element element{};
-            Codec<Element>::Read(source, element, flags);
-            value.insert(std::move(element));
-        }
-    }
+/// A list in ascending order. Reading ignores repeated elements.
+template <class Element> struct Codec<std::set<Element>> : SequenceCodec<std::set<Element>, ValueKind::Set>
+{
 };
 
 } // namespace Ombrel::Proc

@@ -1,5 +1,7 @@
 #include "Proc/Settings/RgbaColor.h"
 
+#include "PropertyTree/Characters.h"
+
 #include <charconv>
 #include <stdexcept>
 #include <system_error>
@@ -28,12 +30,10 @@ std::uint8_t ByteAt(std::uint32_t number, int shift)
 
 std::string ToText(const RgbaColor& color)
 {
-    constexpr char digits[] = "0123456789abcdef";
     std::string text;
     for (const std::uint8_t byte : {color.red, color.green, color.blue, color.alpha})
     {
-        text += digits[byte >> 4];
-        text += digits[byte & 0xf];
+        text.append(HexDigits(byte).data(), 2);
     }
     return text;
 }

@@ -1,0 +1,104 @@
+#ifndef OMBREL_PROPERTY_TREE_JSON_MESSAGE_TEXT_H
+#define OMBREL_PROPERTY_TREE_JSON_MESSAGE_TEXT_H
+
+#include "PropertyTree/Characters.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+// Paths and texts of trees in messages. Inline, since the command line uses it too and the library does not export it.
+namespace Ombrel::MessageText
+{
+
+/// The path from the top of a tree to one of its values, as text: keys and list indices joined by "/". Within a key "~" is
+/// written as "~0" and "/" as "~1".
+class Path
+{
+public:
+    void Add(std::string_view key)
+    {
+        AddSeparator();
+        for (const char character : key)
+        {
+            switch (character)
+            {
+            case '~':
+                m_text += "~0";
+                break;
+            case '/':
+                m_text += "~1";
+                break;
+            default:
+                m_text += character;
+            }
+        }
+    }
+
+    void Add(std::size_t index)
+    {
+        AddSeparator();
+        m_text += std::to_string(index);
+    }
+
+    const std::string& Text() const noexcept { return m_text; }
+
+private:
+    void AddSeparator()
+    {
+        if (!m_isTop)
+        {
+            m_text += '/';
+        }
+        m_isTop = false;
+    }
+
+    std::string m_text;
+    bool m_isTop = true; // an empty text does not tell, since a key may be empty
+};
+
+/// Adds the escape of the code point `character`, which is below 256: a quote, a backslash or a control character. It is rare,
+/// and would only make the loops larger that call it.
+[[gnu::noinline]] inline void AppendEscape(std::string& out, char character)
+{
+    constexpr std::string_view named = "\"\\\b\f\n\r\t";
+    constexpr std::string_view names = "\"\\bfnrt";
+    out += '\\';
+    if (const std::size_t index = named.find(character); index != std::string_view::npos)
+    {
+        out += names[index];
+        return;
+    }
+    out += "u00";
+    out.append(HexDigits(static_cast<unsigned char>(character)).data(), 2);
+}
+
+/// `text` with escapes for control characters and for bytes that are not UTF-8. Keys come from the input, which may be hostile:
+/// no message may contain a command to a terminal or break the encoding of a log.
+inline std::string Printable(std::string_view text)
+{
+    std::string result;
+    while (!text.empty())
+    {
+        const std::size_t length = Utf8Length(text);
+        if (length == 0)
+        {
+            result += "\\x";
+            result.append(HexDigits(static_cast<unsigned char>(text.front())).data(), 2);
+        }
+        else if (IsControl(text))
+        {
+            AppendEscape(result, text[length - 1]); // the last byte is the code point, of either length
+        }
+        else
+        {
+            result += text.substr(0, length);
+        }
+        text.remove_prefix(length == 0 ? 1 : length);
+    }
+    return result;
+}
+
+} // namespace Ombrel::MessageText
+
+#endif
