@@ -8,10 +8,10 @@ fail() {
     exit 1
 }
 
-# Each header that callers see names another one of the library, down to the one that looks at the language.
-headers=$(cd "$src" && find . -name '*.h' -printf '%P\n' |
-    grep -vxF -e OmbrelExport.h -e Proc/EffectSettings/WrappingArithmetic.h -e Proc/EffectSettings/RegisteredFactories.h -e Proc/Settings/ScaledInteger.h \
-        -e PropertyTreeJson/JsonText.h)
+# Each header that is installed names another one of the library, down to the one that looks at the language.
+private=$(sed -n '/PRIVATE_HEADERS [A-Z]/,/[)]\|REQUIRES/p' "$src/../cmake/OmbrelInstall.cmake" | grep -oE '[A-Za-z]+\.h')
+headers=$(cd "$src" && find . -name '*.h' -printf '%P\n' | grep -vxF OmbrelExport.h |
+    grep -vE "(^|/)($(xargs <<<"$private" | tr ' ' '|'))\$")
 (($(wc -l <<<"$headers") > 200)) || fail "there are only $(wc -l <<<"$headers") headers"
 without=$(cd "$src" && grep -L '^#include "' $headers || true)
 [[ -z $without ]] || fail "these include no header of the library: $without"
