@@ -1,5 +1,7 @@
 #include "PropertyTree/PropertyTreeScalar.h"
 
+#include "PropertyTree/PropertyTreeOutput.h" // shows a scalar in a failed expectation
+
 #include <gtest/gtest.h>
 
 #include <cmath>

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -30,6 +31,12 @@ enum class Outcome
     Refused,   // `std::invalid_argument` at the first element
     NoSuchKey, // `std::out_of_range` at the first element
 };
+
+void PrintTo(Outcome outcome, std::ostream* out)
+{
+    constexpr const char* names[] = {"Taken", "Nothing", "Refused", "NoSuchKey"};
+    *out << names[static_cast<int>(outcome)];
+}
 
 struct Given
 {

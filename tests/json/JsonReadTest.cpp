@@ -1,3 +1,4 @@
+#include "PropertyTree/PropertyTreeOutput.h" // shows a tree in a failed expectation
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
 #include <string>

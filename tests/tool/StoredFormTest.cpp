@@ -1,6 +1,7 @@
 #include "Proc/EffectSettings/EffectSettings.h"
 #include "Proc/EffectSettings/EffectSettingsExport.h"
 #include "Proc/EffectSettings/ResizeSettings.h"
+#include "PropertyTree/PropertyTreeOutput.h" // shows a tree in a failed expectation
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
 #include <gtest/gtest.h>
