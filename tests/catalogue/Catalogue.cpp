@@ -117,6 +117,12 @@ Field Tolerant(Field field, double tolerance)
     return field;
 }
 
+Field Within(Field field, double least, double most)
+{
+    field.range = {least, most};
+    return field;
+}
+
 Field Appended(Field field)
 {
     field.isAppended = true;

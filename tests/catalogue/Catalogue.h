@@ -62,7 +62,8 @@ struct Field
 
     bool isCompared = true; // whether the effect's comparison looks at it
     double tolerance = 0.0; // of a float: values that differ by less are equal; at 0, only equal values are
-    bool isScaled = false;  // whether it is shown times the effect's intensity, and comes back as set only where that is 1
+    std::optional<std::pair<double, double>> range = std::nullopt; // of a number: the least and the most that its setter keeps
+    bool isScaled = false; // whether it is shown times the effect's intensity, and comes back as set only where that is 1
     bool isAlwaysWritten = false; // whether a nested record stands in the tree even by default, as an empty map
     bool isAppended = false; // whether a read adds to what is there, so that the empty default of a missing key adds nothing
 
@@ -113,6 +114,9 @@ Field NotCompared(Field field);
 
 /// The same float, two values of which are equal if they differ by less than `tolerance`.
 Field Tolerant(Field field, double tolerance);
+
+/// The same number, which its setter brings to the nearest value from `least` to `most`.
+Field Within(Field field, double least, double most);
 
 /// The same field, a list that a read extends.
 Field Appended(Field field);

@@ -69,7 +69,7 @@ std::vector<Effect> MaskRows()
                 {
                     Int32("positionX", 0),
                     Int32("positionY", 0),
-                    Other("alpha", Kind::Int32, 0, 128),
+                    Within(Other("alpha", Kind::Int32, 0, 128), 0, 255),
                     Redirected(Enum("blendingMode", "Default", {{"Default", 0}, {"KeepDstAlpha", 26}}, 0,
                                     NumberIn<BlendSettings, &Blender::GetAlpha>),
                                "alpha", 26),

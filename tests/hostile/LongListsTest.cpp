@@ -77,15 +77,14 @@ const ListKind LISTS[] = {
     {"effectRows", sizeof(Row), {Refused, Taken, Refused, Refused, Refused, Refused, Refused}},
 };
 
-const ListKind& KindOf(const std::string& key)
+// Nothing for a list that is not told of above: what becomes of its elements is then left open, and it takes what a list may.
+const ListKind* KindOf(const std::string& key)
 {
     const auto found = std::ranges::find(LISTS, key, &ListKind::key);
-    if (found == std::end(LISTS))
-    {
-        throw std::logic_error("nothing said of the list " + key);
-    }
-    return *found;
+    return found == std::end(LISTS) ? nullptr : found;
 }
+
+constexpr std::size_t LARGE_ELEMENT = 64;
 
 using Path = std::vector<std::string>;
 
@@ -185,7 +184,7 @@ protected:
     }
 
     // Reads a long list, and does with it what else is done with effects.
-    static void Try(const Path& path, List& list, std::size_t elementSize, Outcome expected)
+    static void Try(const Path& path, List& list, std::size_t elementSize, std::optional<Outcome> expected)
     {
         PropertyTree tree;
         At(tree, path) = std::move(list.tree);
@@ -194,12 +193,18 @@ protected:
         const auto effect = Make();
         Outcome outcome = Taken;
         EXPECT_LE(PeakMemoryOf([&] { outcome = OutcomeOf(*effect, tree); }), bound);
-        EXPECT_EQ(outcome, expected == Nothing ? Taken : expected);
+        if (expected)
+        {
+            EXPECT_EQ(outcome, *expected == Nothing ? Taken : *expected);
+        }
         list.tree = std::move(At(tree, path));
 
         PropertyTree stored;
         EXPECT_LE(PeakMemoryOf([&] { effect->Serialize(stored); }), 4 * list.size);
-        EXPECT_EQ(LengthAt(stored, path), expected == Taken ? COUNT : 0u);
+        if (expected)
+        {
+            EXPECT_EQ(LengthAt(stored, path), *expected == Taken ? COUNT : 0u);
+        }
 
         std::shared_ptr<IEffectSettings> clone;
         EXPECT_LE(PeakMemoryOf([&] { clone = effect->Clone(); }), bound);
@@ -218,11 +223,12 @@ TEST_P(LongListsTest, NeedTheMemoryOfTheirElements)
 {
     for (const Path& path : Lists())
     {
-        const ListKind& kind = KindOf(path.back());
+        const ListKind* kind = KindOf(path.back());
         for (std::size_t i = 0; i < std::size(GIVEN); ++i)
         {
             SCOPED_TRACE(path.back() + " of " + GIVEN[i].name);
-            Try(path, s_lists[i], kind.elementSize, kind.outcomes[i]);
+            Try(path, s_lists[i], kind ? kind->elementSize : LARGE_ELEMENT,
+                kind ? std::optional(kind->outcomes[i]) : std::nullopt);
         }
     }
 }
