@@ -100,7 +100,10 @@ TEST(PropertyTreeOutput, TheStreamsSettingsHaveNoEffect)
     std::ostringstream out;
     out.imbue(std::locale(out.getloc(), new Thousands));
     out << std::hex << std::showpos << std::uppercase << std::boolalpha << std::setprecision(2) << std::setfill('*')
-        << std::setw(40) << List({12345, 1234.5, true}) << std::setw(40) << PropertyTreeScalar(1234567);
+        << std::setw(40) << List({12345, 1234.5, true});
+    EXPECT_EQ(out.width(), 0);
+    out << std::setw(40) << PropertyTreeScalar(1234567);
+    EXPECT_EQ(out.width(), 0);
     EXPECT_EQ(out.str(), "[12345, 1234.5, true]1234567");
 }
 
