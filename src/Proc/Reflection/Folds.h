@@ -17,8 +17,8 @@
 //
 // A map has its keys in byte order. For each record, the compiler makes a constant table of the keys in the same order. A read
 // first walks map and table side by side, which finds the child of each field, and then decodes the children. A write first
-// finds the fields to store, adds their keys in byte order to a map with room for exactly that many, and then encodes the
-// values.
+// finds the fields to store, as bits in the byte order of their keys, adds the keys in that order to a map with room for
+// exactly that many, and then encodes the values.
 //
 // The routines that depend only on the kind of a value exist once, in `Codec.cpp`. Compiled for each field are its key, its
 // offset and the comparison with the default.
@@ -79,33 +79,76 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         (ReadOrReset<Descriptors>(children[Index], record, flags, defaults), ...);
     }
 
-    // Clears the place, so that a failure does not take the child away again: as a write field by field, it leaves it there.
-    template <class Descriptor> static void WriteOrOmit(PropertyTree*& place, const Record& record, const WriteFlags* flags)
+    // Where the fields stand in the byte order of their keys.
+    static constexpr std::array<std::size_t, List::SIZE> PLACES = []
     {
-        if (PropertyTree* child = std::exchange(place, nullptr))
+        std::array<std::size_t, List::SIZE> places{};
+        for (std::size_t place = 0; place != List::SIZE; ++place)
         {
-            Descriptor::Write(*child, record, flags);
+            places[List::SORTED_KEYS[place].index] = place;
         }
-    }
+        return places;
+    }();
 
-    static void Write(const void* subject, PropertyTree::Map& target, const WriteFlags* flags, std::size_t others)
+    // The bit of a field in this word, set if the field differs from its default.
+    template <class Descriptor, std::size_t Word, std::size_t Place>
+    static FieldBits ChangedBit([[maybe_unused]] const Record& record, [[maybe_unused]] const Record& defaults)
     {
-        [[maybe_unused]] const Record& record = *static_cast<const Record*>(subject);
-        std::array<bool, List::SIZE> isWritten;
-        if (flags->omitDefaults)
+        if constexpr (Place / FIELDS_OF_A_WORD == Word)
         {
-            [[maybe_unused]] const Record& defaults = Default();
-            isWritten = {!Descriptors::Equal(record, defaults)...};
+            return FieldBits{!Descriptor::Equal(record, defaults)} << Place % FIELDS_OF_A_WORD;
         }
         else
         {
-            isWritten.fill(true);
+            return 0;
         }
-        std::array<bool, List::SIZE> isNew;
+    }
+
+    template <std::size_t Word> static FieldBits WordOf(const Record& record, bool omitDefaults)
+    {
+        if (!omitDefaults)
+        {
+            constexpr std::size_t left = List::SIZE - Word * FIELDS_OF_A_WORD;
+            constexpr std::size_t fields = left < FIELDS_OF_A_WORD ? left : FIELDS_OF_A_WORD;
+            return ~FieldBits{0} >> (FIELDS_OF_A_WORD - fields);
+        }
+        const Record& defaults = Default();
+        return (ChangedBit<Descriptors, Word, PLACES[Index]>(record, defaults) | ...);
+    }
+
+    // `written` is never passed on, so that it stays in a register.
+    template <std::size_t... Words>
+    static void WriteFields(const Record& record, PropertyTree::Map& target, const WriteFlags* flags, std::size_t others,
+                            std::index_sequence<Words...>)
+    {
+        const std::array<FieldBits, sizeof...(Words)> written{WordOf<Words>(record, flags->omitDefaults)...};
+        if ((written[Words] | ...) == 0)
+        {
+            return;
+        }
+        std::array<FieldBits, sizeof...(Words)> isNew = written;
         std::array<PropertyTree*, List::SIZE> children;
-        WriteTargets targets(SCHEMA, target, others, isWritten.data(), isNew.data(), children.data());
-        (WriteOrOmit<Descriptors>(children[Index], record, flags), ...);
+        WriteTargets targets(SCHEMA, target, others, isNew.data(), children.data());
+        const auto writeOrOmit = [&]<class Descriptor, std::size_t Field, std::size_t Place>()
+        {
+            if ((written[Place / FIELDS_OF_A_WORD] >> Place % FIELDS_OF_A_WORD & 1) != 0)
+            {
+                targets.Come(Field);
+                Descriptor::Write(*children[Place], record, flags);
+            }
+        };
+        (writeOrOmit.template operator()<Descriptors, Index, PLACES[Index]>(), ...);
         targets.Finish();
+    }
+
+    static void Write([[maybe_unused]] const void* subject, [[maybe_unused]] PropertyTree::Map& target,
+                      [[maybe_unused]] const WriteFlags* flags, [[maybe_unused]] std::size_t others)
+    {
+        if constexpr (List::SIZE != 0)
+        {
+            WriteFields(*static_cast<const Record*>(subject), target, flags, others,
+                        std::make_index_sequence<WordsFor(List::SIZE)>());
+        }
     }
 
     static bool Equal([[maybe_unused]] const void* a, [[maybe_unused]] const void* b)

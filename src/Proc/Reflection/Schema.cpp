@@ -3,6 +3,7 @@
 #include "PropertyTree/PropertyTreeMapFiller.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 #include <string>
 
@@ -30,6 +31,23 @@ bool IsKey(std::string_view text, const SortedKey& key, const FieldSchema* field
         }
     }
     return std::memcmp(text.data() + last, wanted + last, word) == 0;
+}
+
+constexpr FieldBits BitOf(std::size_t place)
+{
+    return FieldBits{1} << place % FIELDS_OF_A_WORD;
+}
+
+// Calls `action` with the places of the bits that are set, in their order. It may clear the bit of its place.
+template <class Action> void ForEach(std::span<const FieldBits> words, Action action)
+{
+    for (std::size_t word = 0; word != words.size(); ++word)
+    {
+        for (FieldBits rest = words[word]; rest != 0; rest &= rest - 1)
+        {
+            action(word * FIELDS_OF_A_WORD + static_cast<std::size_t>(std::countr_zero(rest)));
+        }
+    }
 }
 
 } // namespace
@@ -77,72 +95,87 @@ void FindChildren(const RecordSchema& schema, const PropertyTree::Map& source, c
     }
 }
 
-WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, PropertyTree** children) noexcept
-    : m_schema(schema), m_map(map), m_children(children)
+WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, FieldBits* isNew) noexcept
+    : m_schema(schema), m_map(map), m_isNew(isNew)
 {
-    std::fill_n(children, schema.fields.size(), nullptr);
 }
 
 // The delegating constructor has returned, so a failure in this body runs the destructor.
-WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, const bool* isWritten,
-                           bool* isNew, PropertyTree** children)
-    : WriteTargets(schema, map, children)
+WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, FieldBits* isNew,
+                           PropertyTree** children)
+    : WriteTargets(schema, map, isNew)
 {
-    const std::span fields = schema.fields;
-    const auto count = static_cast<std::size_t>(std::count(isWritten, isWritten + fields.size(), true));
-    if (count == 0)
+    const std::span words(isNew, WordsFor(schema.fields.size()));
+    const FieldSchema* const fields = schema.fields.data();
+    const SortedKey* const sortedKeys = schema.sortedKeys;
+    const bool wasEmpty = map.empty();
+    if (!wasEmpty)
     {
+        ForEach(words,
+                [&](std::size_t place)
+                {
+                    const auto found = map.find(fields[sortedKeys[place].index].key);
+                    if (found != map.end())
+                    {
+                        children[place] = &found->second;
+                        words[place / FIELDS_OF_A_WORD] &= ~BitOf(place);
+                    }
+                });
+    }
+    std::size_t added = others;
+    for (const FieldBits word : words)
+    {
+        added += static_cast<std::size_t>(std::popcount(word));
+    }
+    if (!wasEmpty)
+    {
+        map.reserve(map.size() + added);
+        ForEach(words, [&](std::size_t place) { children[place] = &map[fields[sortedKeys[place].index].key]; });
         return;
     }
-    const std::span sortedKeys(schema.sortedKeys, fields.size());
-    if (map.empty())
-    {
-        m_isNew = isWritten; // all that have a child
-        PropertyTreeMapFiller filler(map, count + others);
-        for (const SortedKey& key : sortedKeys)
-        {
-            if (isWritten[key.index])
+    PropertyTreeMapFiller filler(map, added);
+    ForEach(words,
+            [&](std::size_t place)
             {
-                children[key.index] = key.size <= SHORT_KEY ? &filler.AppendShort(key.beginning, key.size, key.head)
-                                                            : &filler.Append(fields[key.index].key, key.head);
-            }
-        }
-        return;
-    }
-    m_isNew = isNew;
-    map.reserve(map.size() + count + others);
-    for (const SortedKey& key : sortedKeys)
-    {
-        const std::size_t index = key.index;
-        if (isWritten[index])
-        {
-            isNew[index] = !map.contains(fields[index].key);
-            children[index] = &map[fields[index].key];
-        }
-    }
+                const SortedKey& key = sortedKeys[place];
+                children[place] = key.size <= SHORT_KEY ? &filler.AppendShort(key.beginning, key.size, key.head)
+                                                        : &filler.Append(fields[key.index].key, key.head);
+            });
 }
 
 void WriteTargets::Withdraw() noexcept
 {
-    for (std::size_t index = 0; index != m_schema.fields.size(); ++index)
-    {
-        if (m_children[index] && m_isNew[index])
-        {
-            m_map.erase(m_schema.fields[index].key);
-        }
-    }
+    ForEach(std::span(m_isNew, WordsFor(m_schema.fields.size())),
+            [this](std::size_t place)
+            {
+                const std::size_t index = m_schema.sortedKeys[place].index;
+                if (index >= m_next)
+                {
+                    m_map.erase(m_schema.fields[index].key);
+                }
+            });
 }
 
 std::optional<std::size_t> FindField(const RecordSchema& schema, std::string_view key)
 {
-    const std::span sortedKeys(schema.sortedKeys, schema.fields.size());
-    const auto keyOf = [&schema](const SortedKey& sorted) { return schema.fields[sorted.index].key; };
-    const auto found = std::ranges::lower_bound(sortedKeys, key, {}, keyOf);
-    if (found == sortedKeys.end() || keyOf(*found) != key)
+    const SortedKey* const keys = schema.sortedKeys;
+    const std::size_t size = schema.fields.size();
+    const std::uint64_t head = HeadOf(key);
+    std::size_t first = 0; // of the keys whose head is not less; the search has no branch that depends on the keys
+    for (std::size_t rest = size; rest != 0;)
     {
-        return std::nullopt;
+        const std::size_t half = (rest + 1) / 2;
+        first += keys[first + half - 1].head < head ? half : 0;
+        rest -= half;
     }
-    return found->index;
+    for (; first != size && keys[first].head == head; ++first)
+    {
+        if (IsKey(key, keys[first], schema.fields.data()))
+        {
+            return keys[first].index;
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace Ombrel::Proc

@@ -102,19 +102,26 @@ OMBREL_API std::optional<std::size_t> FindField(const RecordSchema& schema, std:
 /// Sets `children`, an array with a place for each field, to the children of the fields in the map, or to null.
 OMBREL_API void FindChildren(const RecordSchema& schema, const PropertyTree::Map& source, const PropertyTree** children);
 
+/// Some of the fields of a record, as bits of so many words. The bits are in the byte order of the keys.
+using FieldBits = std::uint64_t;
+inline constexpr std::size_t FIELDS_OF_A_WORD = 64;
+constexpr std::size_t WordsFor(std::size_t fields)
+{
+    return (fields + FIELDS_OF_A_WORD - 1) / FIELDS_OF_A_WORD;
+}
+
 /// The children that a write of a record fills. Missing children are inserted as null trees before the first one is filled, in
 /// key order, so that the map allocates at most one block. If the write fails, the children that it did not come to are
 /// removed.
 class OMBREL_API WriteTargets
 {
 public:
-    /// The last three are arrays of the caller with a place for each field, and must outlive this object.
+    /// Both arrays belong to the caller, have room for all fields and must outlive this object.
     /// @param others the map gets room for this many further entries
-    /// @param isWritten whether the field is written
-    /// @param isNew for this object's own use
-    /// @param children set to the field's child, or to null; the caller clears a place when the write comes to it
+    /// @param isNew on entry the fields that are written, at least one; then those of them whose child this object inserts
+    /// @param children set to the children of the fields that are written, in the byte order of the keys
     /// @throws std::bad_alloc; the entries of the map are then unchanged
-    WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, const bool* isWritten, bool* isNew,
+    WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, std::size_t others, FieldBits* isNew,
                  PropertyTree** children);
 
     WriteTargets(const WriteTargets&) = delete;
@@ -128,18 +135,22 @@ public:
         }
     }
 
+    /// The write comes to the field with this place in the list. From now on its child stays, also if filling it fails: a write
+    /// field by field leaves it there too.
+    void Come(std::size_t index) noexcept { m_next = index + 1; }
+
     /// All children have been filled; none is removed any more.
     void Finish() noexcept { m_isDone = true; }
 
 private:
-    OMBREL_LOCAL WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, PropertyTree** children) noexcept;
+    OMBREL_LOCAL WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, FieldBits* isNew) noexcept;
 
     void Withdraw() noexcept;
 
     const RecordSchema& m_schema;
     PropertyTree::Map& m_map;
-    const bool* m_isNew = nullptr; // of a field with a child, whether this object has inserted it
-    PropertyTree** m_children;
+    FieldBits* m_isNew;
+    std::size_t m_next = 0; // the place in the list of the first field that the write has not come to
     bool m_isDone = false;
 };
 
