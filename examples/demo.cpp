@@ -33,7 +33,7 @@ constexpr int NEW_VALUE = 40;
 
 std::string ReadFile(const std::filesystem::path& path)
 {
-    std::string text(std::filesystem::file_size(path), '\0');
+    std::string text(static_cast<std::size_t>(std::filesystem::file_size(path)), '\0');
     std::ifstream file(path, std::ios::binary);
     if (!file.read(text.data(), static_cast<std::streamsize>(text.size())))
     {
