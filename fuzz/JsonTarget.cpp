@@ -1,11 +1,13 @@
 #include "Fuzz.h"
+#include "JsonComparison.h"
 
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
 #include <algorithm>
 #include <optional>
 
-// JSON text: an error with a place, or a tree that comes back the same from its own text.
+// JSON text: an error with a place, or a tree that comes back the same from its own text; and both as the second reader has
+// them.
 namespace
 {
 
@@ -40,6 +42,8 @@ std::optional<PropertyTree> TryRead(std::string_view text, const JsonReadOptions
 void Check(std::string_view text, bool nonFiniteAsText)
 {
     const JsonReadOptions reading{.nonFiniteAsText = nonFiniteAsText};
+    Fuzz::CompareReaders(text, reading);
+    Fuzz::CompareReaders(text, {.maxDepth = 3, .nonFiniteAsText = nonFiniteAsText, .maxValues = 7});
     const auto tree = TryRead(text, reading);
     const auto shallow = TryRead(text, {.maxDepth = 3, .nonFiniteAsText = nonFiniteAsText});
     if (!tree)
