@@ -1,389 +1,295 @@
+#include "PropertyTreeJson/JsonFault.h"
+#include "PropertyTreeJson/JsonOutput.h"
+#include "PropertyTreeJson/JsonScanner.h"
 #include "PropertyTreeJson/JsonText.h"
-#include "PropertyTreeJson/MessageText.h"
+#include "PropertyTreeJson/JsonTreeBuilder.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
-#include <cstdint>
-#include <iterator>
-#include <limits>
-#include <locale.h>
-#include <stdlib.h>
+#include <optional>
 #include <string>
-#include <system_error>
-#include <vector>
-
-// The lexer asserts that strtod reads the whole of each number. That fails in a locale whose decimal point has several bytes.
-// The value is not used here, so the assertion is switched off.
-#define JSON_ASSERT(condition) static_cast<void>(0)
-#include <nlohmann/json.hpp>
 
 namespace Ombrel
 {
 namespace
 {
 
-constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
-constexpr std::string_view WHITE_SPACE = " \t\n\r";
-
-// Iterates over the text and counts the bytes that the lexer has read. The parser reports no positions with its events.
-class CountingIterator
-{
-public:
-    using iterator_category = std::input_iterator_tag;
-    using value_type = char;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const char*;
-    using reference = const char&;
-
-    CountingIterator(const char* position, std::size_t& count) noexcept : m_position(position), m_count(&count) {}
-
-    reference operator*() const noexcept { return *m_position; }
-
-    CountingIterator& operator++() noexcept
-    {
-        ++m_position;
-        ++*m_count;
-        return *this;
-    }
-
-    friend bool operator==(const CountingIterator& a, const CountingIterator& b) noexcept
-    {
-        return a.m_position == b.m_position;
-    }
-
-private:
-    const char* m_position;
-    std::size_t* m_count;
-};
-
-bool IsFloat(std::string_view lexeme)
-{
-    return lexeme.find_first_of(".eE") != std::string_view::npos;
-}
-
-// Whether a number that does not fit a float is too large rather than too small. `lexeme` must not be zero.
-[[maybe_unused]] bool IsLarge(std::string_view lexeme)
-{
-    const std::size_t exponentAt = std::min(lexeme.find_first_of("eE"), lexeme.size());
-    const std::string_view mantissa = lexeme.substr(0, exponentAt);
-    const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
-    const auto digit = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
-    if (exponentAt == lexeme.size())
-    {
-        return digit < point;
-    }
-    std::string_view exponent = lexeme.substr(exponentAt + 1);
-    const bool isNegative = exponent.front() == '-';
-    exponent.remove_prefix(std::min(exponent.find_first_of("0123456789"), exponent.size()));
-    std::int64_t size = 0;
-    if (std::from_chars(exponent.data(), exponent.data() + exponent.size(), size).ec != std::errc())
-    {
-        return !isNegative; // no number of digits makes up for an exponent beyond 64 bits
-    }
-    return isNegative ? point - digit > size : point - digit > -size;
-}
-
-// The reason in a message of the parser, without its position and without the token, which may be long or invalid UTF-8.
-std::string_view ReasonIn(std::string_view message)
-{
-    const std::size_t dash = message.find(" - ");
-    if (dash != std::string_view::npos)
-    {
-        message.remove_prefix(dash + 3);
-    }
-    return message.substr(0, message.find("; last read: "));
-}
-
-// Builds the tree from the parser's events. The parser prescribes the names of these functions and their result, where false
-// means "stop". Here they return true, and throw on failure.
+// The grammar: what may follow what.
 class Reader
 {
 public:
-    using Json = nlohmann::json;
-
-    Reader(std::string_view text, const JsonReadOptions& options)
-        : m_text(text), m_options(options), m_start(text.starts_with(BYTE_ORDER_MARK) ? BYTE_ORDER_MARK.size() : 0),
-          m_tokenEnd(m_start)
-    {
-    }
+    Reader(std::string_view text, const JsonReadOptions& options) : m_text(text), m_options(options), m_scanner(text) {}
 
     PropertyTree Read()
     {
-        if (m_text.size() > m_options.maxBytes)
+        try
         {
-            Fail(std::max(m_options.maxBytes, m_start),
-                 "the text is longer than " + std::to_string(m_options.maxBytes) + " bytes");
+            if (m_text.size() > m_options.maxBytes)
+            {
+                Fail(std::max(m_options.maxBytes, MarkSize()),
+                     "the text is longer than " + std::to_string(m_options.maxBytes) + " bytes");
+            }
+            m_builder.Reserve(m_text.size());
+            m_scanner.SkipByteOrderMark();
+            while (!ReadValue() || !EndValue())
+            {
+            }
+            return m_builder.Result();
         }
-        const char* begin = m_text.data();
-        Json::sax_parse(CountingIterator(begin, m_count), CountingIterator(begin + m_text.size(), m_count), this);
-        // The parser takes a zero byte for the end of the text.
-        if (const std::size_t rest = SkipWhiteSpace(m_tokenEnd); rest != m_text.size())
+        catch (const JsonFault& fault)
         {
-            Fail(rest, "unexpected zero byte");
+            ThrowError(fault);
         }
-        return std::move(m_top);
-    }
-
-    bool null()
-    {
-        Add({}, m_count);
-        return true;
-    }
-
-    bool boolean(bool value)
-    {
-        Add(value, m_count);
-        return true;
-    }
-
-    bool number_integer(Json::number_integer_t value)
-    {
-        Add(value, IntegerEnd());
-        return true;
-    }
-
-    bool number_unsigned(Json::number_unsigned_t value)
-    {
-        if (value > static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()))
-        {
-            FailNumber("integer");
-        }
-        Add(value, IntegerEnd());
-        return true;
-    }
-
-    // The parser's value depends on the locale, and so do the characters of `lexeme`. Its length does not.
-    bool number_float(Json::number_float_t, const std::string& lexeme)
-    {
-        const std::size_t start = NextToken();
-        Add(ParseFloat(m_text.substr(start, lexeme.size())), start + lexeme.size());
-        return true;
-    }
-
-    // `value` is the lexer's buffer, which the next string uses again. So it is copied and not moved from.
-    bool string(const std::string& value)
-    {
-        if (m_options.nonFiniteAsText && JsonText::NeedsGuard(value))
-        {
-            const std::optional<double> number = JsonText::NonFiniteValue(value);
-            Add(number ? PropertyTree(*number) : PropertyTree(value.substr(1)), m_count);
-        }
-        else
-        {
-            Add(value, m_count);
-        }
-        return true;
-    }
-
-    bool binary(Json::binary_t&) { return false; } // never called: JSON text has no binary values
-
-    bool start_object(std::size_t)
-    {
-        Open().convertToMap();
-        return true;
-    }
-
-    bool key(const std::string& key)
-    {
-        const auto [entry, isNew] = m_open.back().tree->getMap().try_emplace(key, PropertyTree());
-        if (!isNew)
-        {
-            std::string reason = "duplicate key ";
-            JsonText::AppendQuoted(reason, key);
-            Fail(NextToken(), reason);
-        }
-        m_open.back().entry = &*entry;
-        m_tokenEnd = m_count;
-        m_separator = ':';
-        return true;
-    }
-
-    bool end_object() { return Close(); }
-
-    bool start_array(std::size_t)
-    {
-        Open().convertToList();
-        return true;
-    }
-
-    bool end_array() { return Close(); }
-
-    bool parse_error(std::size_t readBytes, const std::string&, const nlohmann::detail::exception& exception)
-    {
-        constexpr int numberOverflow = 406;
-        if (exception.id == numberOverflow)
-        {
-            const std::size_t start = NextToken();
-            FailNumber(IsFloat(m_text.substr(start, readBytes - start)) ? "float" : "integer");
-        }
-        const std::string_view reason = ReasonIn(exception.what());
-        if (!reason.starts_with("unexpected"))
-        {
-            Fail(readBytes - 1, std::string(reason));
-        }
-        const std::size_t place = NextToken();
-        const bool isZeroByte = place < m_text.size() && m_text[place] == '\0';
-        Fail(place, isZeroByte ? "unexpected zero byte" : std::string(reason));
     }
 
 private:
-    // A map or list that is not closed yet. The pointers stay valid: entries of a map never move, and a list does not grow
-    // while one of its elements is open.
-    struct Level
+    // False if the value is a map or list whose first value is to be read next.
+    bool ReadValue()
     {
-        PropertyTree* tree;
-        PropertyTree::Map::value_type* entry = nullptr; // the current one of a map, from its key to the end of its value
-    };
-
-    PropertyTree& NewChild()
-    {
-        if (m_values == m_options.maxValues)
+        m_isAtValue = true;
+        const char first = m_scanner.Next();
+        const std::size_t offset = m_scanner.Offset();
+        switch (first)
         {
-            Fail(NextToken(), "more than " + std::to_string(m_options.maxValues) + " values");
+        case '{':
+        case '[':
+            return Open(first == '{');
+        case '"':
+            AddText(m_scanner.ReadString(), offset);
+            break;
+        case 'n':
+            m_scanner.ReadLiteral("null");
+            Add({}, offset);
+            break;
+        case 't':
+            m_scanner.ReadLiteral("true");
+            Add(true, offset);
+            break;
+        case 'f':
+            m_scanner.ReadLiteral("false");
+            Add(false, offset);
+            break;
+        default:
+            if (!StartsNumber(first))
+            {
+                FailUnexpected("'[', '{', or a literal");
+            }
+            AddNumber(m_scanner.ReadNumber(), offset);
         }
-        ++m_values;
-        if (m_open.empty())
-        {
-            return m_top;
-        }
-        const Level& level = m_open.back();
-        return level.entry ? level.entry->second : level.tree->getList().emplace_back();
-    }
-
-    void Add(PropertyTree&& value, std::size_t tokenEnd)
-    {
-        NewChild() = std::move(value);
-        EndValue(tokenEnd);
-    }
-
-    void EndValue(std::size_t tokenEnd)
-    {
-        m_tokenEnd = tokenEnd;
-        m_separator = m_open.empty() ? '\0' : ',';
-        if (!m_open.empty())
-        {
-            m_open.back().entry = nullptr;
-        }
-    }
-
-    PropertyTree& Open()
-    {
-        if (m_open.size() == m_options.maxDepth)
-        {
-            Fail(NextToken(), "nested deeper than " + std::to_string(m_options.maxDepth) + " levels");
-        }
-        PropertyTree& child = NewChild();
-        m_open.push_back({&child});
-        m_tokenEnd = m_count;
-        m_separator = '\0';
-        return child;
-    }
-
-    bool Close()
-    {
-        m_open.pop_back();
-        EndValue(m_count);
         return true;
     }
 
-    double ParseFloat(std::string_view lexeme) const
+    // Reads what follows a value, up to the next one. False if there is none.
+    bool EndValue()
     {
-        if (!IsFloat(lexeme))
+        m_isAtValue = false;
+        while (m_builder.Depth() != 0)
         {
-            FailNumber("integer"); // the parser reports an integer beyond 64 bits as a float
-        }
-#ifdef __cpp_lib_to_chars
-        double value = 0.0;
-        const auto result = std::from_chars(lexeme.data(), lexeme.data() + lexeme.size(), value);
-        if (result.ec == std::errc::result_out_of_range)
-        {
-            if (IsLarge(lexeme))
+            const bool isInMap = m_builder.IsInMap();
+            const char next = m_scanner.Next();
+            if (next == ',')
             {
-                FailNumber("float");
+                m_scanner.Skip();
+                if (isInMap)
+                {
+                    ReadKey();
+                }
+                return false;
             }
-            return lexeme.starts_with('-') ? -0.0 : 0.0;
-        }
-        return value;
-#else // a standard library without from_chars for floats
-        static const locale_t classic = newlocale(LC_ALL_MASK, "C", nullptr);
-        const double value = strtod_l(std::string(lexeme).c_str(), nullptr, classic);
-        if (std::isinf(value))
-        {
-            FailNumber("float");
-        }
-        return value;
-#endif
-    }
-
-    std::size_t SkipWhiteSpace(std::size_t offset) const
-    {
-        return std::min(m_text.find_first_not_of(WHITE_SPACE, offset), m_text.size());
-    }
-
-    // The offset of the first token after that of the last event. Skips one comma or colon, for which there are no events.
-    std::size_t NextToken() const
-    {
-        const std::size_t offset = SkipWhiteSpace(m_tokenEnd);
-        return IsSeparator(offset) ? SkipWhiteSpace(offset + 1) : offset;
-    }
-
-    bool IsSeparator(std::size_t offset) const
-    {
-        return m_separator != '\0' && offset < m_text.size() && m_text[offset] == m_separator;
-    }
-
-    // The lexer has read one byte beyond the number, but not at the end of the text, so its count does not tell.
-    std::size_t IntegerEnd() const
-    {
-        std::size_t offset = NextToken();
-        offset += m_text[offset] == '-' ? 1U : 0U;
-        return m_text[offset] == '0' ? offset + 1 : std::min(m_text.find_first_not_of("0123456789", offset), m_text.size());
-    }
-
-    std::string PathText() const
-    {
-        MessageText::Path path;
-        const bool isBetweenValues = m_separator == ',' && !IsSeparator(SkipWhiteSpace(m_tokenEnd));
-        for (const Level& level : m_open)
-        {
-            const bool isInnermost = &level == &m_open.back();
-            if (level.entry)
+            if (next != (isInMap ? '}' : ']'))
             {
-                path.Add(level.entry->first);
+                FailUnexpected(isInMap ? "'}'" : "']'");
             }
-            else if (level.tree->isList() && !(isInnermost && isBetweenValues))
+            if (!m_builder.Close())
             {
-                const std::size_t size = level.tree->getList().size();
-                path.Add(isInnermost ? size : size - 1); // the innermost list does not contain the element yet
+                Fail(m_scanner.Offset(), {}); // the duplicate key comes before
             }
+            m_scanner.Skip();
         }
-        return path.Text();
+        m_scanner.Next();
+        if (!m_scanner.IsAtEnd())
+        {
+            FailUnexpected("end of input");
+        }
+        return true;
     }
 
-    [[noreturn]] void FailNumber(const char* kind) const
+    bool Open(bool isMap)
     {
-        Fail(NextToken(), std::string("the number does not fit a 64-bit ") + kind);
+        if (m_builder.Depth() == m_options.maxDepth)
+        {
+            Fail(m_scanner.Offset(), "nested deeper than " + std::to_string(m_options.maxDepth) + " levels");
+        }
+        CountValue(m_scanner.Offset());
+        m_scanner.Skip();
+        m_builder.Open(isMap);
+        if (m_scanner.Next() == (isMap ? '}' : ']'))
+        {
+            m_scanner.Skip();
+            return m_builder.Close();
+        }
+        if (isMap)
+        {
+            ReadKey();
+        }
+        return false;
     }
 
-    [[noreturn]] void Fail(std::size_t offset, const std::string& reason) const
+    void ReadKey()
+    {
+        m_isAtValue = false;
+        if (m_scanner.Next() != '"')
+        {
+            FailUnexpected("string literal");
+        }
+        const std::size_t offset = m_scanner.Offset();
+        m_builder.AddKey(m_scanner.ReadString(), offset);
+        m_isAtValue = true;
+        if (m_scanner.Next() != ':')
+        {
+            FailUnexpected("':'");
+        }
+        m_scanner.Skip();
+    }
+
+    void AddText(std::string_view text, std::size_t offset)
+    {
+        if (!m_options.nonFiniteAsText || !JsonText::NeedsGuard(text))
+        {
+            Add(text, offset);
+        }
+        else if (const std::optional<double> number = JsonText::NonFiniteValue(text))
+        {
+            Add(*number, offset);
+        }
+        else
+        {
+            Add(text.substr(1), offset);
+        }
+    }
+
+    void AddNumber(const JsonNumber& number, std::size_t offset)
+    {
+        if (number.isFloat)
+        {
+            AddNumber(number.ToFloat(), offset, "float");
+        }
+        else
+        {
+            AddNumber(number.ToInteger(), offset, "integer");
+        }
+    }
+
+    template <class Number> void AddNumber(const std::optional<Number>& number, std::size_t offset, const char* kind)
+    {
+        if (!number)
+        {
+            Fail(offset, std::string("the number does not fit a 64-bit ") + kind);
+        }
+        Add(*number, offset);
+    }
+
+    void Add(const JsonTreeBuilder::Value& value, std::size_t offset)
+    {
+        CountValue(offset);
+        m_builder.Add(value);
+    }
+
+    void CountValue(std::size_t offset)
+    {
+        if (m_values == m_options.maxValues)
+        {
+            Fail(offset, "more than " + std::to_string(m_options.maxValues) + " values");
+        }
+        ++m_values;
+    }
+
+    static bool StartsNumber(char byte) { return byte == '-' || (byte >= '0' && byte <= '9'); }
+
+    // The next token is not one of those that may follow. If it is malformed, that is the fault.
+    [[noreturn]] void FailUnexpected(const char* expected)
+    {
+        const char first = m_scanner.Next();
+        const std::size_t offset = m_scanner.Offset();
+        if (first == '\0' && !m_scanner.IsAtEnd())
+        {
+            Fail(offset, "unexpected zero byte");
+        }
+        Fail(offset, "unexpected " + TokenName(first) + "; expected " + expected);
+    }
+
+    std::string TokenName(char first)
+    {
+        switch (first)
+        {
+        case '\0':
+            return "end of input";
+        case '{':
+        case '}':
+        case '[':
+        case ']':
+        case ',':
+        case ':':
+            return {'\'', first, '\''};
+        case '"':
+            m_scanner.ReadString();
+            return "string literal";
+        case 'n':
+            m_scanner.ReadLiteral("null");
+            return "null literal";
+        case 't':
+            m_scanner.ReadLiteral("true");
+            return "true literal";
+        case 'f':
+            m_scanner.ReadLiteral("false");
+            return "false literal";
+        default:
+            if (!StartsNumber(first))
+            {
+                Fail(m_scanner.Offset(), "invalid literal");
+            }
+            m_scanner.ReadNumber();
+            return "number literal";
+        }
+    }
+
+    [[noreturn]] static void Fail(std::size_t offset, const std::string& reason) { throw JsonFault{offset, reason}; }
+
+    // The fault that comes first in the text: keys in any order are compared when their map ends, and a fault may end it
+    // earlier.
+    [[noreturn]] void ThrowError(const JsonFault& fault) const
+    {
+        const std::optional<JsonTreeBuilder::Duplicate> duplicate = m_builder.FirstDuplicate();
+        if (!duplicate || duplicate->offset > fault.offset)
+        {
+            ThrowError(fault.offset, m_builder.PathText(m_isAtValue), fault.reason);
+        }
+        std::string reason = "duplicate key ";
+        JsonOutput output(reason);
+        output.AddQuoted(duplicate->key);
+        output.Flush();
+        ThrowError(duplicate->offset, duplicate->path, reason);
+    }
+
+    [[noreturn]] void ThrowError(std::size_t offset, const std::string& path, const std::string& reason) const
     {
         const std::string_view before = m_text.substr(0, offset);
-        const auto lineFeeds = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
-        const std::size_t lineStart = lineFeeds == 0 ? m_start : before.rfind('\n') + 1;
-        throw JsonError(lineFeeds + 1, offset - lineStart + 1, PathText(), reason);
+        const auto lineFeeds = static_cast<std::size_t>(std::ranges::count(before, '\n'));
+        const std::size_t lineStart = lineFeeds == 0 ? MarkSize() : before.rfind('\n') + 1;
+        throw JsonError(lineFeeds + 1, offset - lineStart + 1, path, reason);
+    }
+
+    std::size_t MarkSize() const
+    {
+        return m_text.starts_with(JsonScanner::BYTE_ORDER_MARK) ? JsonScanner::BYTE_ORDER_MARK.size() : 0;
     }
 
     const std::string_view m_text;
     const JsonReadOptions& m_options;
-    const std::size_t m_start; // offset behind the byte order mark
-    std::size_t m_count = 0;   // bytes that the lexer has read
-    std::size_t m_tokenEnd;    // offset behind the last event's token
-    char m_separator = '\0';   // expected between the last event's token and the next one
-    std::size_t m_values = 0;  // in the tree so far
-    PropertyTree m_top;
-    std::vector<Level> m_open;
+    JsonScanner m_scanner;
+    JsonTreeBuilder m_builder;
+    std::size_t m_values = 0; // in the text so far
+    bool m_isAtValue = false; // the next token belongs to a value, and not to a key or between two values
 };
 
 } // namespace

@@ -1,7 +1,5 @@
 #include "PropertyTreeJson/JsonText.h"
 
-#include "PropertyTreeJson/MessageText.h"
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -16,37 +14,6 @@ constexpr std::string_view INFINITE = "Infinity";
 constexpr std::string_view MINUS_INFINITE = "-Infinity";
 
 } // namespace
-
-bool AppendQuoted(std::string& out, std::string_view text)
-{
-    out += '"';
-    std::size_t copied = 0;
-    for (std::size_t i = 0; i < text.size();)
-    {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        if (byte >= 0x20 && byte < 0x80 && byte != '"' && byte != '\\')
-        {
-            ++i;
-            continue;
-        }
-        if (byte >= 0x80)
-        {
-            const std::size_t length = Utf8Length(text.substr(i));
-            if (length == 0)
-            {
-                return false;
-            }
-            i += length;
-            continue;
-        }
-        out += text.substr(copied, i - copied);
-        MessageText::AppendEscape(out, text[i]);
-        copied = ++i;
-    }
-    out += text.substr(copied);
-    out += '"';
-    return true;
-}
 
 std::string_view NonFiniteText(double value) noexcept
 {

@@ -1,10 +1,9 @@
+#include "PropertyTreeJson/JsonOutput.h"
 #include "PropertyTreeJson/JsonText.h"
 #include "PropertyTreeJson/MessageText.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <iterator>
 #include <vector>
@@ -21,19 +20,9 @@ constexpr std::size_t MAX_INDENTED_LEVELS = 64;
 struct Level
 {
     const PropertyTree* tree;
+    std::size_t size;
     std::size_t begun = 0; // children written, including the current one
     PropertyTree::Map::const_iterator entry{};
-
-    std::size_t Size() const { return tree->isList() ? tree->getList().size() : tree->getMap().size(); }
-
-    void Advance()
-    {
-        if (!tree->isList())
-        {
-            entry = begun == 0 ? tree->getMap().begin() : std::next(entry);
-        }
-        ++begun;
-    }
 };
 
 class Writer
@@ -46,63 +35,82 @@ public:
         WriteValue(top);
         while (!m_open.empty())
         {
-            if (m_open.back().begun == m_open.back().Size())
+            Level& level = m_open.back();
+            if (level.begun == level.size)
             {
                 Close();
             }
+            else if (level.tree->isList())
+            {
+                WriteNextElement(level);
+            }
             else
             {
-                WriteNextChild();
+                WriteNextEntry(level);
             }
         }
+        m_out.Flush();
     }
 
 private:
-    void WriteNextChild()
+    void WriteNextElement(Level& level)
     {
-        Level& level = m_open.back();
+        StartChild(level);
+        WriteValue(level.tree->getList()[level.begun++]);
+    }
+
+    void WriteNextEntry(Level& level)
+    {
+        StartChild(level);
+        level.entry = level.begun++ == 0 ? level.tree->getMap().begin() : std::next(level.entry);
+        const auto& [key, child] = *level.entry;
+        WriteString(key, "the key is not valid UTF-8");
+        m_out.Add(':');
+        if (m_options.indent != 0)
+        {
+            m_out.Add(' ');
+        }
+        WriteValue(child);
+    }
+
+    void StartChild(const Level& level)
+    {
         if (level.begun != 0)
         {
-            m_out += ',';
+            m_out.Add(',');
         }
-        level.Advance();
         StartLine();
-        if (level.tree->isList())
-        {
-            WriteValue(level.tree->getList()[level.begun - 1]);
-            return;
-        }
-        WriteString(level.entry->first, "the key is not valid UTF-8");
-        m_out += m_options.indent == 0 ? ":" : ": ";
-        WriteValue(level.entry->second);
     }
 
     void WriteValue(const PropertyTree& tree)
     {
-        if (tree.isNull())
-        {
-            m_out += "null";
-        }
-        else if (tree.isScalar())
+        if (tree.isScalar())
         {
             WriteScalar(tree.getScalar());
         }
+        else if (tree.isList())
+        {
+            Open(tree, tree.getList().size());
+        }
+        else if (tree.isMap())
+        {
+            Open(tree, tree.getMap().size());
+        }
         else
         {
-            Open(tree);
+            m_out.Add("null");
         }
     }
 
-    void Open(const PropertyTree& tree)
+    void Open(const PropertyTree& tree, std::size_t size)
     {
-        const Level level{&tree};
-        if (level.Size() == 0)
+        if (size == 0)
         {
-            m_out += tree.isList() ? "[]" : "{}";
+            m_out.Add(tree.isList() ? "[]" : "{}");
             return;
         }
-        m_out += tree.isList() ? '[' : '{';
-        m_open.push_back(level);
+        m_out.Add(tree.isList() ? '[' : '{');
+        m_open.push_back({&tree, size});
     }
 
     void Close()
@@ -110,15 +118,15 @@ private:
         const bool isList = m_open.back().tree->isList();
         m_open.pop_back();
         StartLine();
-        m_out += isList ? ']' : '}';
+        m_out.Add(isList ? ']' : '}');
     }
 
     void StartLine()
     {
         if (m_options.indent != 0)
         {
-            m_out += '\n';
-            m_out.append(m_options.indent * std::min(m_open.size(), MAX_INDENTED_LEVELS), ' ');
+            m_out.Add('\n');
+            m_out.AddSpaces(m_options.indent * std::min(m_open.size(), MAX_INDENTED_LEVELS));
         }
     }
 
@@ -130,7 +138,7 @@ private:
             WriteBool(scalar);
             break;
         case PropertyTreeScalar::Kind::Integer:
-            WriteDigits(scalar.toInt());
+            m_out.Add(scalar.toInt());
             break;
         case PropertyTreeScalar::Kind::Float:
             WriteFloat(scalar.toDouble());
@@ -145,35 +153,22 @@ private:
     {
         bool value = false;
         scalar.convertTo(value);
-        m_out += value ? "true" : "false";
+        m_out.Add(value ? "true" : "false");
     }
 
     void WriteFloat(double value)
     {
-        if (!std::isfinite(value))
+        if (std::isfinite(value))
         {
-            const std::string name(JsonText::NonFiniteText(value));
-            if (!m_options.nonFiniteAsText)
-            {
-                Fail(name + " has no JSON form");
-            }
-            m_out += '"' + name + '"';
+            m_out.Add(value);
             return;
         }
-        const std::size_t start = m_out.size();
-        WriteDigits(value);
-        if (m_out.find_first_of(".e", start) == std::string::npos)
+        const std::string_view name = JsonText::NonFiniteText(value);
+        if (!m_options.nonFiniteAsText)
         {
-            m_out += ".0"; // otherwise the number would read back as an integer
+            Fail(std::string(name) + " has no JSON form");
         }
-    }
-
-    // Writes the shortest text that reads back as the same number. It has at most 24 characters.
-    void WriteDigits(auto value)
-    {
-        std::array<char, 32> digits;
-        const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value);
-        m_out.append(digits.data(), result.ptr);
+        m_out.AddQuoted(name);
     }
 
     void WriteText(const std::string& text)
@@ -191,7 +186,7 @@ private:
 
     void WriteString(std::string_view text, const char* reasonOfFailure)
     {
-        if (!JsonText::AppendQuoted(m_out, text))
+        if (!m_out.AddQuoted(text))
         {
             Fail(reasonOfFailure);
         }
@@ -214,7 +209,7 @@ private:
         throw JsonWriteError(path.Text(), reason);
     }
 
-    std::string& m_out;
+    JsonOutput m_out;
     const JsonWriteOptions& m_options;
     std::vector<Level> m_open;
 };

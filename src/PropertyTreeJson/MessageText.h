@@ -3,6 +3,7 @@
 
 #include "PropertyTree/Characters.h"
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -57,20 +58,20 @@ private:
     bool m_isTop = true; // an empty text does not tell, since a key may be empty
 };
 
-/// Adds the escape of the code point `character`, which is below 256: a quote, a backslash or a control character. It is rare,
-/// and would only make the loops larger that call it.
-[[gnu::noinline]] inline void AppendEscape(std::string& out, char character)
+/// The escape of the code point `character`, which is below 256: a quote, a backslash or a control character. The text is in
+/// `space`. An escape is rare, and would only make the loops larger that ask for it.
+[[gnu::noinline]] inline std::string_view EscapeOf(char character, std::array<char, 6>& space)
 {
     constexpr std::string_view named = "\"\\\b\f\n\r\t";
     constexpr std::string_view names = "\"\\bfnrt";
-    out += '\\';
     if (const std::size_t index = named.find(character); index != std::string_view::npos)
     {
-        out += names[index];
-        return;
+        space = {'\\', names[index]};
+        return {space.data(), 2};
     }
-    out += "u00";
-    out.append(HexDigits(static_cast<unsigned char>(character)).data(), 2);
+    const std::array<char, 2> digits = HexDigits(static_cast<unsigned char>(character));
+    space = {'\\', 'u', '0', '0', digits[0], digits[1]};
+    return {space.data(), space.size()};
 }
 
 /// `text` with escapes for control characters and for bytes that are not UTF-8. Keys come from the input, which may be hostile:
@@ -78,6 +79,7 @@ private:
 inline std::string Printable(std::string_view text)
 {
     std::string result;
+    std::array<char, 6> space;
     while (!text.empty())
     {
         const std::size_t length = Utf8Length(text);
@@ -88,7 +90,7 @@ inline std::string Printable(std::string_view text)
         }
         else if (IsControl(text))
         {
-            AppendEscape(result, text[length - 1]); // the last byte is the code point, of either length
+            result += EscapeOf(text[length - 1], space); // the last byte is the code point, of either length
         }
         else
         {

@@ -5,8 +5,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 work=$WORK_DIR/find-in-build-tree
 copy_consumer "$work"
 "$CMAKE" -S "$work/find-package" -B "$work/build" -G Ninja --log-level=WARNING \
-    -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_PREFIX_PATH="$WORK_DIR/build" -DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF \
-    -DCMAKE_DISABLE_FIND_PACKAGE_nlohmann_json=ON
+    -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_PREFIX_PATH="$WORK_DIR/build" -DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF
 found=$(sed -n 's/^found:INTERNAL=//p' "$work/build/CMakeCache.txt")
 expect "the package found" "$WORK_DIR/build" "$found"
 "$CMAKE" --build "$work/build" --target vibrance json

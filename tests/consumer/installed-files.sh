@@ -26,7 +26,9 @@ expected=$(cd "$SOURCE_DIR/src" &&
     grep -vxF -e Proc/EffectSettings/WrappingArithmetic.h -e Proc/EffectSettings/RegisteredFactories.h -e Proc/Settings/ScaledInteger.h \
         -e PropertyTree/Characters.h -e PropertyTree/KindNames.h -e PropertyTree/PropertyTreeMapFiller.h \
         -e PropertyTree/PropertyTreeMapIndex.h -e PropertyTree/PropertyTreeMapInternals.h \
-        -e PropertyTreeJson/JsonText.h -e PropertyTreeJson/MessageText.h |
+        -e PropertyTreeJson/JsonFault.h -e PropertyTreeJson/JsonNumber.h -e PropertyTreeJson/JsonOutput.h \
+        -e PropertyTreeJson/JsonScanner.h -e PropertyTreeJson/JsonText.h -e PropertyTreeJson/JsonTreeBuilder.h \
+        -e PropertyTreeJson/MessageText.h |
     sort)
 expect "headers" "$expected" "$(cd "$include" && find . -name '*.h' -printf '%P\n' | sort)"
 sed 's/.*/#include "&"/' <<<"$expected" | "$CXX" -std=c++20 -fsyntax-only -I "$include" -x c++ - ||
@@ -35,10 +37,10 @@ sed 's/.*/#include "&"/' <<<"$expected" | "$CXX" -std=c++20 -fsyntax-only -I "$i
 expect "what shows trees in a debugger" "$(printf '%s\n' ombrel.natvis ombrel_gdb.py)" \
     "$(find "$prefix/share/ombrel-effect-settings" -type f -printf '%f\n' | sort)"
 
-# A shared library shows its interface alone: neither the parser inside nor the folds of the library's own records.
+# A shared library shows its interface alone: neither the parts of the reader nor the folds of the library's own records.
 if [[ $LAYOUT == shared-* ]]; then
     for library in "$libdir"/*.so; do
-        if symbols=$(nm -DC --defined-only "$library" | grep -E 'nlohmann|Ombrel::Proc::Reflected<Ombrel'); then
+        if symbols=$(nm -DC --defined-only "$library" | grep -E 'Ombrel::Json(Number|Output|Scanner|TreeBuilder)|Ombrel::Proc::Reflected<Ombrel'); then
             fail "$library exports $(head -3 <<<"$symbols")"
         fi
     done

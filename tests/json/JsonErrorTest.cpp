@@ -107,8 +107,7 @@ INSTANTIATE_TEST_SUITE_P(
     Strings, JsonErrors,
     testing::Values(
         BadText{"NoClosingQuote", "[\"abc", 1, 6, "0", "1:6: at 0: invalid string: missing closing quote"},
-        BadText{"RawLineFeed", "\"a\nb\"", 1, 3, "",
-                R"(1:3: invalid string: control character U+000A (LF) must be escaped to \u000A or \n)"},
+        BadText{"RawLineFeed", "\"a\nb\"", 1, 3, "", "1:3: invalid string: control character U+000A must be escaped"},
         BadText{"UnknownEscape", R"({"k": "a\q"})", 1, 10, "k",
                 "1:10: at k: invalid string: forbidden character after backslash"},
         BadText{"ShortUnicodeEscape", R"("\u12")", 1, 6, "", R"(1:6: invalid string: '\u' must be followed by 4 hex digits)"},
