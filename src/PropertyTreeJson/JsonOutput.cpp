@@ -20,6 +20,20 @@ constexpr std::size_t MAX_NUMBER_SIZE = 32;
 
 } // namespace
 
+void JsonOutput::AddLine(std::size_t indent)
+{
+    constexpr std::string_view line = "\n                               ";
+    if (indent < line.size())
+    {
+        RequireRoom(line.size());
+        line.copy(m_next, line.size()); // of a fixed size, which is faster than exactly the spaces
+        m_next += 1 + indent;
+        return;
+    }
+    Add('\n');
+    AddSpaces(indent);
+}
+
 void JsonOutput::AddSpaces(std::size_t count)
 {
     while (count > Room())
@@ -85,17 +99,21 @@ bool JsonOutput::AddIfShort(double value)
 
 bool JsonOutput::AddQuoted(std::string_view text)
 {
+    RequireRoom(text.size() + 2);
+    if (text.size() + 2 <= Room() && JsonText::CopyIfPlain(text, m_next + 1))
+    {
+        *m_next = '"';
+        m_next[text.size() + 1] = '"';
+        m_next += text.size() + 2;
+        return true;
+    }
     Add('"');
-    const char* const end = text.data() + text.size();
-    const char* run = text.data();
-    for (const char* at = run;;)
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    for (const char* run = at;;)
     {
         at = JsonText::PlainEnd(at, end);
-        if (at == end)
-        {
-            break;
-        }
-        if (static_cast<unsigned char>(*at) >= 0x80)
+        while (at != end && JsonText::IsBeyondAscii(*at)) // such characters rarely come alone
         {
             const std::size_t length = Utf8Length({at, end});
             if (length == 0)
@@ -103,16 +121,21 @@ bool JsonOutput::AddQuoted(std::string_view text)
                 return false;
             }
             at += length;
+        }
+        if (at != end && JsonText::IsPlain(*at))
+        {
             continue;
         }
         Add({run, at});
+        if (at == end)
+        {
+            Add('"');
+            return true;
+        }
         std::array<char, 6> space;
         Add(MessageText::EscapeOf(*at, space));
         run = ++at;
     }
-    Add({run, end});
-    Add('"');
-    return true;
 }
 
 void JsonOutput::RequireRoom(std::size_t size)

@@ -37,7 +37,8 @@ public:
         m_next += bytes.copy(m_next, bytes.size());
     }
 
-    void AddSpaces(std::size_t count);
+    /// Adds a line feed and so many spaces.
+    void AddLine(std::size_t indent);
 
     void Add(std::int64_t value);
 
@@ -57,6 +58,7 @@ public:
 private:
     std::size_t Room() const noexcept { return static_cast<std::size_t>(std::end(m_buffer) - m_next); }
     void RequireRoom(std::size_t size);
+    void AddSpaces(std::size_t count);
     void AddBeyondRoom(std::string_view bytes);
     bool AddIfShort(double value);
 

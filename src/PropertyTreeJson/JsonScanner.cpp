@@ -101,26 +101,31 @@ std::string_view JsonScanner::ReadString()
         {
             return ReadEscapedString(start);
         }
-        SkipSequence();
+        SkipBeyondAscii();
     }
 }
 
-// Steps over a sequence of UTF-8 of several bytes. Anything else that is not plain, but a quote or a backslash, is a fault.
-void JsonScanner::SkipSequence()
+// Steps over characters beyond ASCII, of which there is at least one unless a control character is here, which is refused.
+void JsonScanner::SkipBeyondAscii()
 {
-    const std::string_view rest(m_next, m_end);
-    if (static_cast<unsigned char>(rest.front()) < 0x20)
+    if (!JsonText::IsBeyondAscii(*m_next))
     {
-        const auto code = static_cast<unsigned>(rest.front());
-        const std::string digits = {"0123456789ABCDEF"[code >> 4], "0123456789ABCDEF"[code & 0xF]};
-        Fail(("invalid string: control character U+00" + digits + " must be escaped").c_str());
+        constexpr std::string_view digits = "0123456789ABCDEF";
+        const auto code = static_cast<unsigned char>(*m_next);
+        const std::string name = {'U', '+', '0', '0', digits[code >> 4], digits[code & 0xF]};
+        Fail("invalid string: control character " + name + " must be escaped");
     }
-    const std::size_t length = Utf8Length(rest);
-    if (length == 0)
+    do // such characters rarely come alone
     {
-        Fail(m_next + FirstIllFormed(rest), "invalid string: ill-formed UTF-8 byte");
-    }
-    m_next += length;
+        const std::string_view rest(m_next, m_end);
+        const std::size_t length = Utf8Length(rest);
+        if (length == 0)
+        {
+            m_next += FirstIllFormed(rest);
+            Fail("invalid string: ill-formed UTF-8 byte");
+        }
+        m_next += length;
+    } while (m_next != m_end && JsonText::IsBeyondAscii(*m_next));
 }
 
 // The string that begins at `start` and has its first escape here.
@@ -152,7 +157,7 @@ std::string_view JsonScanner::ReadEscapedString(const char* start)
         }
         else
         {
-            SkipSequence();
+            SkipBeyondAscii();
         }
         m_next = JsonText::PlainEnd(m_next, m_end);
     }
@@ -187,7 +192,8 @@ void JsonScanner::ReadUnicodeEscape()
     unsigned code = ReadHexDigits();
     if (IsLowSurrogate(code))
     {
-        Fail(m_next - 1, "invalid string: surrogate U+DC00..U+DFFF must follow U+D800..U+DBFF");
+        --m_next;
+        Fail("invalid string: surrogate U+DC00..U+DFFF must follow U+D800..U+DBFF");
     }
     if (IsHighSurrogate(code))
     {
@@ -202,7 +208,8 @@ void JsonScanner::ReadUnicodeEscape()
         const unsigned low = ReadHexDigits();
         if (!IsLowSurrogate(low))
         {
-            Fail(m_next - 1, noLowSurrogate);
+            --m_next;
+            Fail(noLowSurrogate);
         }
         code = 0x10000 + ((code - 0xD800) << 10) + (low - 0xDC00);
     }
@@ -311,9 +318,9 @@ void JsonScanner::RequireDigit(const char* reason) const
     }
 }
 
-void JsonScanner::Fail(const char* place, const char* reason) const
+void JsonScanner::Fail(const std::string& reason) const
 {
-    throw JsonFault{static_cast<std::size_t>(place - m_begin), reason};
+    throw JsonFault{Offset(), reason};
 }
 
 } // namespace Ombrel

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <string_view>
 
 namespace Ombrel
@@ -63,7 +64,7 @@ public:
 
 private:
     void SkipWhiteSpace() noexcept;
-    void SkipSequence();
+    void SkipBeyondAscii();
     std::string_view ReadEscapedString(const char* start);
     void ReadEscape();
     void ReadUnicodeEscape();
@@ -73,8 +74,7 @@ private:
     bool IsAtDigit() const noexcept { return m_next != m_end && *m_next >= '0' && *m_next <= '9'; }
     void Keep(const char* begin, const char* end) noexcept;
     void KeepCodePoint(unsigned codePoint) noexcept;
-    [[noreturn]] void Fail(const char* reason) const { Fail(m_next, reason); }
-    [[noreturn]] void Fail(const char* place, const char* reason) const;
+    [[noreturn]] void Fail(const std::string& reason) const;
 
     const char* const m_begin;
     const char* m_next;

@@ -2,6 +2,7 @@
 #define OMBREL_PROPERTY_TREE_JSON_JSON_TEXT_H
 
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <optional>
@@ -18,23 +19,36 @@ constexpr bool IsPlain(char byte) noexcept
     return code >= 0x20 && code < 0x80 && byte != '"' && byte != '\\';
 }
 
-/// The first byte from `at` that is not plain, or `end`. Looks at eight bytes at a time.
+constexpr bool IsBeyondAscii(char byte) noexcept
+{
+    return static_cast<unsigned char>(byte) >= 0x80;
+}
+
+/// Of eight bytes, the highest bit of each that is not plain. Where one is found, the bits of the more significant bytes may be
+/// set too; the others are right.
+constexpr std::uint64_t MarksOf(std::uint64_t bytes) noexcept
+{
+    // A subtraction borrows from the next byte only where it finds something.
+    constexpr std::uint64_t each = 0x0101010101010101;
+    return (bytes | (bytes - each * 0x20) | ((bytes ^ (each * '"')) - each) | ((bytes ^ (each * '\\')) - each)) & (each * 0x80);
+}
+
+/// The next bytes of a text as a number.
+template <class Word> Word Load(const char* at) noexcept
+{
+    Word word;
+    std::memcpy(&word, at, sizeof word);
+    return word;
+}
+
+/// The first byte from `at` that is not plain, or `end`.
 inline const char* PlainEnd(const char* at, const char* end) noexcept
 {
-    constexpr std::uint64_t each = 0x0101010101010101;
-    constexpr bool isLowestFirst = std::endian::native == std::endian::little;
     for (; end - at >= 8; at += 8)
     {
-        std::uint64_t bytes;
-        std::memcpy(&bytes, at, sizeof bytes);
-        // Sets the highest bit of each byte that is beyond ASCII, below 0x20, a quote or a backslash. A subtraction borrows
-        // from the byte above only where it finds one, so the lowest bit that is set is right.
-        const std::uint64_t marks =
-            (bytes | (bytes - each * 0x20) | ((bytes ^ (each * '"')) - each) | ((bytes ^ (each * '\\')) - each)) &
-            (each * 0x80);
-        if (marks != 0)
+        if (const std::uint64_t marks = MarksOf(Load<std::uint64_t>(at)); marks != 0)
         {
-            at += isLowestFirst ? std::countr_zero(marks) / 8 : 0;
+            at += std::endian::native == std::endian::little ? std::countr_zero(marks) / 8 : 0;
             break;
         }
     }
@@ -44,6 +58,9 @@ inline const char* PlainEnd(const char* at, const char* end) noexcept
     }
     return at;
 }
+
+/// Whether all bytes of `text` are plain. Copies them to `to` if so, and may otherwise have copied some.
+bool CopyIfPlain(std::string_view text, char* to) noexcept;
 
 /// The name of a float that is NaN or infinite.
 std::string_view NonFiniteText(double value) noexcept;

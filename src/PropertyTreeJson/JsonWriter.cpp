@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <vector>
 
 namespace Ombrel
@@ -20,9 +19,8 @@ constexpr std::size_t MAX_INDENTED_LEVELS = 64;
 struct Level
 {
     const PropertyTree* tree;
-    std::size_t size;
-    std::size_t begun = 0; // children written, including the current one
-    PropertyTree::Map::const_iterator entry{};
+    PropertyTree::Map::const_iterator entry; // of a map: its current child, or the first one before there is any
+    std::size_t begun = 0;                   // children written, including the current one
 };
 
 class Writer
@@ -32,45 +30,90 @@ public:
 
     void Write(const PropertyTree& top)
     {
-        WriteValue(top);
+        WriteOrOpen(top);
         while (!m_open.empty())
         {
-            Level& level = m_open.back();
-            if (level.begun == level.size)
+            if (m_open.back().tree->isList())
             {
-                Close();
-            }
-            else if (level.tree->isList())
-            {
-                WriteNextElement(level);
+                WriteElements();
             }
             else
             {
-                WriteNextEntry(level);
+                WriteEntries();
             }
         }
         m_out.Flush();
     }
 
 private:
-    void WriteNextElement(Level& level)
+    // Writes the next elements of the innermost list, up to one that is a list or map with children, or else to its end.
+    void WriteElements()
     {
-        StartChild(level);
-        WriteValue(level.tree->getList()[level.begun++]);
+        Level& level = m_open.back();
+        const PropertyTree::List& list = level.tree->getList();
+        do
+        {
+            if (level.begun == list.size())
+            {
+                Close(']');
+                return;
+            }
+            StartChild(level);
+        } while (!WriteOrOpen(list[level.begun++]));
     }
 
-    void WriteNextEntry(Level& level)
+    // The same for the entries of the innermost map.
+    void WriteEntries()
     {
-        StartChild(level);
-        level.entry = level.begun++ == 0 ? level.tree->getMap().begin() : std::next(level.entry);
-        const auto& [key, child] = *level.entry;
-        WriteString(key, "the key is not valid UTF-8");
-        m_out.Add(':');
-        if (m_options.indent != 0)
+        Level& level = m_open.back();
+        const auto end = level.tree->getMap().end();
+        do
         {
-            m_out.Add(' ');
+            if (level.begun != 0 && ++level.entry == end)
+            {
+                Close('}');
+                return;
+            }
+            StartChild(level);
+            ++level.begun;
+            WriteString(level.entry->first, "the key is not valid UTF-8");
+            m_out.Add(':');
+            if (m_options.indent != 0)
+            {
+                m_out.Add(' ');
+            }
+        } while (!WriteOrOpen(level.entry->second));
+    }
+
+    // True if `tree` has children, which are to be written next.
+    bool WriteOrOpen(const PropertyTree& tree)
+    {
+        if (tree.isScalar())
+        {
+            WriteScalar(tree.getScalar());
         }
-        WriteValue(child);
+        else if (tree.isNull())
+        {
+            m_out.Add("null");
+        }
+        else if (tree.isList() ? tree.getList().empty() : tree.getMap().empty())
+        {
+            m_out.Add(tree.isList() ? "[]" : "{}");
+        }
+        else
+        {
+            m_out.Add(tree.isList() ? '[' : '{');
+            m_open.push_back({&tree, tree.isMap() ? tree.getMap().begin() : PropertyTree::Map::const_iterator()});
+            return true;
+        }
+        return false;
+    }
+
+    void Close(char bracket)
+    {
+        m_open.pop_back();
+        StartLine();
+        m_out.Add(bracket);
     }
 
     void StartChild(const Level& level)
@@ -82,51 +125,11 @@ private:
         StartLine();
     }
 
-    void WriteValue(const PropertyTree& tree)
-    {
-        if (tree.isScalar())
-        {
-            WriteScalar(tree.getScalar());
-        }
-        else if (tree.isList())
-        {
-            Open(tree, tree.getList().size());
-        }
-        else if (tree.isMap())
-        {
-            Open(tree, tree.getMap().size());
-        }
-        else
-        {
-            m_out.Add("null");
-        }
-    }
-
-    void Open(const PropertyTree& tree, std::size_t size)
-    {
-        if (size == 0)
-        {
-            m_out.Add(tree.isList() ? "[]" : "{}");
-            return;
-        }
-        m_out.Add(tree.isList() ? '[' : '{');
-        m_open.push_back({&tree, size});
-    }
-
-    void Close()
-    {
-        const bool isList = m_open.back().tree->isList();
-        m_open.pop_back();
-        StartLine();
-        m_out.Add(isList ? ']' : '}');
-    }
-
     void StartLine()
     {
         if (m_options.indent != 0)
         {
-            m_out.Add('\n');
-            m_out.AddSpaces(m_options.indent * std::min(m_open.size(), MAX_INDENTED_LEVELS));
+            m_out.AddLine(m_options.indent * std::min(m_open.size(), MAX_INDENTED_LEVELS));
         }
     }
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <limits>
 #include <memory>
+#include <new>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -97,6 +98,107 @@ TEST(JsonMemoryOfEffects, IsBoundedByTheText)
         const std::size_t peak = Support::PeakMemoryOf([&] { PhotoCore::EffectSettings::DeserializePtr(tree, effect); });
         EXPECT_LE(peak, BYTES_OF_EFFECTS * text.size()) << first;
     }
+}
+
+// How much more is held than before, once `work()` has its result.
+template <class Work> std::size_t MemoryHeldBy(Work work)
+{
+    const std::size_t before = Support::HeldMemory();
+    const auto result = work();
+    return Support::HeldMemory() - before;
+}
+
+// A tree from a text has the room that it needs and no more, like one that is made with the right counts.
+TEST(JsonMemoryOfTrees, IsThatOfTheTreeThatWasWritten)
+{
+    for (const int count : {0, 1, 2, 3, 5, 8, 9, 17, 33, 1000})
+    {
+        PropertyTree tree;
+        PropertyTree::List& list = tree.makeList(static_cast<std::size_t>(count));
+        PropertyTree::Map& map = tree.getList().emplace_back().makeMap(static_cast<std::size_t>(count));
+        for (int i = 0; i < count; ++i)
+        {
+            map["k" + std::to_string(1000 + i)] = i;
+        }
+        for (int i = 1; i < count; ++i)
+        {
+            list.emplace_back(i);
+        }
+        const std::string text = WriteJson(tree);
+        const std::size_t expected = MemoryHeldBy([&] { return PropertyTree(tree); });
+        EXPECT_LE(MemoryHeldBy([&] { return ReadJson(text); }), expected) << count;
+    }
+}
+
+// Also where the keys come in another order, and there are many.
+TEST(JsonMemoryOfTrees, IsTheSameForKeysInAnyOrder)
+{
+    const auto textOf = [](std::size_t count, std::size_t step)
+    {
+        std::string text = "{";
+        for (std::size_t i = 0; i < count; ++i)
+        {
+            text += (i == 0 ? "\"" : ",\"") + std::to_string(100'000 + i * step % count) + "\":0";
+        }
+        return text + "}";
+    };
+    for (const std::size_t count : {2U, 7U, 100U, 5000U, 65536U})
+    {
+        const std::string sorted = textOf(count, 1);
+        const std::string mixed = textOf(count, 7919); // a prime that divides none of the counts
+        EXPECT_EQ(MemoryHeldBy([&] { return ReadJson(mixed); }), MemoryHeldBy([&] { return ReadJson(sorted); })) << count;
+        EXPECT_TRUE(ReadJson(mixed) == ReadJson(sorted)) << count;
+    }
+}
+
+constexpr std::string_view SAMPLE =
+    R"({"b": [1, 2.5, null, true, {"a long key of more than 15 characters": "\u00e4 \n text that is long"}],
+ "a": {"y": {"z": [[], {}]}, "x": "another text that is longer than 15"}, "c": "\ud83d\ude00"})";
+
+TEST(JsonWithoutMemory, LeavesNothingBehind)
+{
+    const std::size_t before = Support::HeldMemory();
+    std::size_t refusals = 0;
+    for (bool isDone = false; !isDone; ++refusals)
+    {
+        Support::FailingMemory memory(refusals);
+        try
+        {
+            isDone = ReadJson(SAMPLE).isMap();
+        }
+        catch (const std::bad_alloc&)
+        {
+            EXPECT_EQ(Support::HeldMemory(), before) << refusals;
+        }
+    }
+    EXPECT_GT(refusals, 10U);
+}
+
+TEST(JsonWithoutMemory, KeepsTheTextThatIsAddedTo)
+{
+    PropertyTree tree;
+    for (int i = 0; i < 40; ++i)
+    {
+        tree.append(ReadJson(SAMPLE));
+    }
+    const std::string expected = "before" + WriteJson(tree, {.indent = 2});
+    std::size_t refusals = 0;
+    for (bool isDone = false; !isDone; ++refusals)
+    {
+        std::string text = "before";
+        Support::FailingMemory memory(refusals);
+        try
+        {
+            AppendJson(text, tree, {.indent = 2});
+            isDone = text == expected;
+            ASSERT_TRUE(isDone);
+        }
+        catch (const std::bad_alloc&)
+        {
+            EXPECT_EQ(text, "before") << refusals;
+        }
+    }
+    EXPECT_GT(refusals, 3U);
 }
 
 // The limits hold before there is anything to hold memory.

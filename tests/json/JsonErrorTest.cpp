@@ -162,6 +162,47 @@ INSTANTIATE_TEST_SUITE_P(
                     BadText{"BehindByteOrderMark", "\xEF\xBB\xBF{\"a\":1,\"a\":2}", 1, 8, "", R"(1:8: duplicate key "a")"}),
     NameOf);
 
+// Keys are compared when their map ends, and the fault that comes first in the text counts.
+INSTANTIATE_TEST_SUITE_P(
+    DuplicateKeysFirst, JsonErrors,
+    testing::Values(
+        BadText{"BeforeBadValue", R"({"a": 1, "a": x})", 1, 10, "", R"(1:10: duplicate key "a")"},
+        BadText{"BeforeMissingColon", R"({"a": 1, "a" 2})", 1, 10, "", R"(1:10: duplicate key "a")"},
+        BadText{"BeforeTheEndOfTheText", R"({"a": 1, "a")", 1, 10, "", R"(1:10: duplicate key "a")"},
+        BadText{"LongBeforeBadValue", R"({"b": 1, "a": 2, "b": 3, "c": 4, "d": [{"e": [1, 2, x]}]})", 1, 18, "",
+                R"(1:18: duplicate key "b")"},
+        BadText{"BehindBadValue", R"({"b": 1, "c": x, "b": 2})", 1, 15, "c", "1:15: at c: invalid literal"},
+        BadText{"OutsideBeforeInside", R"({"b": 0, "b": {"a": 1, "a": 2}})", 1, 10, "", R"(1:10: duplicate key "b")"},
+        BadText{"InsideBeforeOutside", R"({"b": {"a": 1, "a": 2}, "b": 0})", 1, 16, "b", R"(1:16: at b: duplicate key "a")"},
+        BadText{"OutsideBeforeBadValueInside", R"([{"b": 0, "b": {"a": [1, "\q"]}}])", 1, 11, "0",
+                R"(1:11: at 0: duplicate key "b")"},
+        BadText{"InsideBeforeBadKeyOutside", R"([{"b": {"z": 1, "z": 2}, 7: 0}])", 1, 17, "0/b",
+                R"(1:17: at 0/b: duplicate key "z")"},
+        BadText{"FirstOfTwo", R"({"c": 0, "b": 1, "a": 2, "b": 3, "c": 4})", 1, 26, "", R"(1:26: duplicate key "b")"},
+        BadText{"SecondOfThree", R"({"b": 1, "a": 2, "a": 3, "a": 4})", 1, 18, "", R"(1:18: duplicate key "a")"},
+        BadText{"FirstOfTwoLevels", R"({"b": 0, "a": 1, "a": {"d": 0, "c": 1, "c": x}})", 1, 18, "",
+                R"(1:18: duplicate key "a")"},
+        BadText{"ListBetween", R"([[], {"b": [{}, {"y": 0, "x": 1, "y": [[x]]}]}])", 1, 34, "1/b/1",
+                R"(1:34: at 1/b/1: duplicate key "y")"},
+        BadText{"Empty", R"({"": 1, "": 2})", 1, 9, "", R"(1:9: duplicate key "")"},
+        BadText{"InAnotherMapIsNone", R"([{"b": 1, "a": 2}, {"b": 1, "a": x}])", 1, 34, "1/a", "1:34: at 1/a: invalid literal"},
+        BadText{"PrefixIsNone", R"({"ab": 1, "a": 2, "abc": x})", 1, 26, "abc", "1:26: at abc: invalid literal"}),
+    NameOf);
+
+INSTANTIATE_TEST_SUITE_P(
+    UnexpectedTokens, JsonErrors,
+    testing::Values(BadText{"MalformedString", R"([1 "a\q"])", 1, 7, "",
+                            "1:7: invalid string: forbidden character after backslash"},
+                    BadText{"MalformedNumber", "[1 -x]", 1, 5, "", "1:5: invalid number; expected digit after '-'"},
+                    BadText{"MalformedLiteral", "[1 nul]", 1, 7, "", "1:7: invalid literal"},
+                    BadText{"LargeNumber", "[1 1e999]", 1, 4, "", "1:4: unexpected number literal; expected ']'"},
+                    BadText{"Literals", "{null", 1, 2, "", "1:2: unexpected null literal; expected string literal"},
+                    BadText{"TrueBehindKey", R"({"a" true)", 1, 6, "a", "1:6: at a: unexpected true literal; expected ':'"},
+                    BadText{"FalseBehindValue", "[[] false", 1, 5, "", "1:5: unexpected false literal; expected ']'"},
+                    BadText{"ZeroByteForKey", "{\0"sv, 1, 2, "", "1:2: unexpected zero byte"},
+                    BadText{"BadByteForComma", "[1 \xFF"sv, 1, 4, "", "1:4: invalid literal"}),
+    NameOf);
+
 INSTANTIATE_TEST_SUITE_P(
     BehindTheEnd, JsonErrors,
     testing::Values(BadText{"SecondValue", "{} []", 1, 4, "", "1:4: unexpected '['; expected end of input"},
