@@ -310,14 +310,6 @@ void JsonScanner::ReadDigits(JsonNumber& number) noexcept
     number.digitCount += static_cast<std::size_t>(m_next - start);
 }
 
-void JsonScanner::RequireDigit(const char* reason) const
-{
-    if (!IsAtDigit())
-    {
-        Fail(reason);
-    }
-}
-
 void JsonScanner::Fail(const std::string& reason) const
 {
     throw JsonFault{Offset(), reason};

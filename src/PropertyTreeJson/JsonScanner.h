@@ -70,8 +70,16 @@ private:
     void ReadUnicodeEscape();
     unsigned ReadHexDigits();
     void ReadDigits(JsonNumber& number) noexcept;
-    void RequireDigit(const char* reason) const;
     bool IsAtDigit() const noexcept { return m_next != m_end && *m_next >= '0' && *m_next <= '9'; }
+
+    void RequireDigit(const char* reason) const
+    {
+        if (!IsAtDigit())
+        {
+            Fail(reason);
+        }
+    }
+
     void Keep(const char* begin, const char* end) noexcept;
     void KeepCodePoint(unsigned codePoint) noexcept;
     [[noreturn]] void Fail(const std::string& reason) const;

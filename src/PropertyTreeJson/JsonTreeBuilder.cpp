@@ -3,6 +3,8 @@
 #include "PropertyTreeJson/MessageText.h"
 
 #include <algorithm>
+#include <concepts>
+#include <cstddef>
 #include <utility>
 
 namespace Ombrel
@@ -41,7 +43,7 @@ void JsonTreeBuilder::AddKey(std::string_view key, std::size_t offset)
 bool JsonTreeBuilder::Close()
 {
     const Level level = m_levels.back();
-    PropertyTree tree;
+    PropertyTree& tree = m_trees.emplace_back(); // behind its children
     if (!level.isMap)
     {
         MakeList(tree);
@@ -50,9 +52,12 @@ bool JsonTreeBuilder::Close()
     {
         return false;
     }
+    if (&tree != &m_trees[level.firstTree])
+    {
+        m_trees[level.firstTree] = std::move(tree);
+        m_trees.resize(level.firstTree + 1);
+    }
     m_items.resize(level.firstItem);
-    m_trees.resize(level.firstTree);
-    m_trees.push_back(std::move(tree));
     m_levels.pop_back();
     m_isInMap = !m_levels.empty() && m_levels.back().isMap;
     Add(TreeIndex{level.firstTree});
@@ -62,7 +67,7 @@ bool JsonTreeBuilder::Close()
 PropertyTree JsonTreeBuilder::Result()
 {
     PropertyTree tree;
-    Assign(tree, m_items.front().value);
+    Pass(m_items.front().value, [&tree](auto value) { tree = std::move(value); });
     return tree;
 }
 
@@ -72,7 +77,8 @@ void JsonTreeBuilder::MakeList(PropertyTree& tree)
     PropertyTree::List& list = tree.makeList(m_items.size() - first);
     for (std::size_t i = first; i != m_items.size(); ++i)
     {
-        Assign(list.emplace_back(), m_items[i].value);
+        Pass(m_items[i].value,
+             [&list]<class Content>(Content&& content) { list.emplace_back(std::forward<Content>(content)); });
     }
 }
 
@@ -81,11 +87,16 @@ bool JsonTreeBuilder::MakeMap(PropertyTree& tree)
 {
     const Level& level = m_levels.back();
     PropertyTree::Map& map = tree.makeMap(m_items.size() - level.firstItem);
+    const auto add = [this, &map](const Item& item)
+    {
+        PropertyTree& child = map[item.key];
+        Pass(item.value, [&child]<class Content>(Content&& content) { child = std::forward<Content>(content); });
+    };
     if (level.isSorted)
     {
         for (std::size_t i = level.firstItem; i != m_items.size(); ++i)
         {
-            Assign(map[m_items[i].key], m_items[i].value);
+            add(m_items[i]);
         }
         return true;
     }
@@ -96,33 +107,36 @@ bool JsonTreeBuilder::MakeMap(PropertyTree& tree)
     }
     for (const Item* item : items)
     {
-        Assign(map[item->key], item->value);
+        add(*item);
     }
     return true;
 }
 
-void JsonTreeBuilder::Assign(PropertyTree& tree, const Value& value)
+// Calls `take` with what makes the tree of `value`.
+template <class Take> void JsonTreeBuilder::Pass(const Value& value, Take take)
 {
-    if (const auto* text = std::get_if<std::string_view>(&value))
-    {
-        tree = std::string(*text);
-    }
-    else if (const auto* number = std::get_if<double>(&value))
-    {
-        tree = *number;
-    }
-    else if (const auto* integer = std::get_if<std::int64_t>(&value))
-    {
-        tree = *integer;
-    }
-    else if (const auto* index = std::get_if<TreeIndex>(&value))
-    {
-        tree = std::move(m_trees[index->value]);
-    }
-    else if (const auto* isTrue = std::get_if<bool>(&value))
-    {
-        tree = *isTrue;
-    }
+    std::visit(
+        [this, &take](auto content)
+        {
+            using Content = decltype(content);
+            if constexpr (std::same_as<Content, TreeIndex>)
+            {
+                take(std::move(m_trees[content.value]));
+            }
+            else if constexpr (std::same_as<Content, std::string_view>)
+            {
+                take(std::string(content));
+            }
+            else if constexpr (std::same_as<Content, std::monostate>)
+            {
+                take(PropertyTree());
+            }
+            else
+            {
+                take(content);
+            }
+        },
+        value);
 }
 
 // Behind the last of the level's own items.

@@ -95,7 +95,7 @@ private:
     std::string PathOf(std::size_t levels, bool isAtValue) const;
     void MakeList(PropertyTree& tree);
     bool MakeMap(PropertyTree& tree);
-    void Assign(PropertyTree& tree, const Value& value);
+    template <class Take> void Pass(const Value& value, Take take);
 
     std::vector<Item> m_items;
     std::vector<PropertyTree> m_trees; // the maps and lists among the items
