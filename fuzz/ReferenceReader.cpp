@@ -306,7 +306,7 @@ private:
         {
             FailNumber("integer"); // the parser reports an integer beyond 64 bits as a float
         }
-#ifdef __cpp_lib_to_chars
+#if defined(__cpp_lib_to_chars) && !defined(__i386__)
         double value = 0.0;
         const auto result = std::from_chars(lexeme.data(), lexeme.data() + lexeme.size(), value);
         if (result.ec == std::errc::result_out_of_range)
@@ -318,7 +318,7 @@ private:
             return lexeme.starts_with('-') ? -0.0 : 0.0;
         }
         return value;
-#else // a standard library without from_chars for floats
+#else // a standard library without from_chars for floats, or with one that rounds some twice
         static const locale_t classic = newlocale(LC_ALL_MASK, "C", nullptr);
         const double value = strtod_l(std::string(lexeme).c_str(), nullptr, classic);
         if (std::isinf(value))

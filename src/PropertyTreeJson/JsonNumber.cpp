@@ -10,6 +10,11 @@
 #include <string>
 #include <system_error>
 
+// Of floats. The standard library of g++ 12 rounds some of them twice in programs for 32-bit x86.
+#if defined(__cpp_lib_to_chars) && !defined(__i386__)
+#define OMBREL_HAS_EXACT_FROM_CHARS
+#endif
+
 namespace Ombrel
 {
 namespace
@@ -51,7 +56,7 @@ constexpr std::uint64_t MAX_EXACT = std::uint64_t{1} << 53;
 // The float of any spelling.
 std::optional<double> Parse(std::string_view spelling)
 {
-#ifdef __cpp_lib_to_chars
+#ifdef OMBREL_HAS_EXACT_FROM_CHARS
     double value = 0.0;
     const auto result = std::from_chars(spelling.data(), spelling.data() + spelling.size(), value);
     if (result.ec == std::errc::result_out_of_range)
@@ -63,7 +68,7 @@ std::optional<double> Parse(std::string_view spelling)
         return spelling.starts_with('-') ? -0.0 : 0.0;
     }
     return value;
-#else // a standard library without from_chars for floats
+#else
     static const locale_t classic = newlocale(LC_ALL_MASK, "C", nullptr);
     const double value = strtod_l(std::string(spelling).c_str(), nullptr, classic);
     return std::isinf(value) ? std::nullopt : std::optional(value);

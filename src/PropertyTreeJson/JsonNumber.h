@@ -16,7 +16,7 @@ struct JsonNumber
     std::optional<std::int64_t> ToInteger() const noexcept;
 
     /// The nearest float, unless the number is beyond the largest one. `isFloat` must be true.
-    /// @throws std::bad_alloc only with a standard library that has no `std::from_chars` for floats
+    /// @throws std::bad_alloc only where the standard library has no exact `std::from_chars` for floats
     std::optional<double> ToFloat() const;
 
     std::string_view spelling;

@@ -31,8 +31,9 @@ public:
             }
             m_builder.Reserve(m_text.size());
             m_scanner.SkipByteOrderMark();
-            while (!ReadValue() || !EndValue())
+            for (bool isDone = false; !isDone;)
             {
+                isDone = ReadValue() && EndValues();
             }
             return m_builder.Result();
         }
@@ -43,7 +44,7 @@ public:
     }
 
 private:
-    // False if the value is a map or list whose first value is to be read next.
+    // False if the value is a map or list that has begun: the first value in it is to be read next.
     bool ReadValue()
     {
         m_isAtValue = true;
@@ -79,8 +80,8 @@ private:
         return true;
     }
 
-    // Reads what follows a value, up to the next one. False if there is none.
-    bool EndValue()
+    // Reads what follows a value, and ends the maps and lists that end there. False if another value is to be read next.
+    bool EndValues()
     {
         m_isAtValue = false;
         while (m_builder.Depth() != 0)
@@ -102,7 +103,7 @@ private:
             }
             if (!m_builder.Close())
             {
-                Fail(m_scanner.Offset(), {}); // the duplicate key comes before
+                Fail(m_scanner.Offset(), "duplicate key");
             }
             m_scanner.Skip();
         }
@@ -255,12 +256,11 @@ private:
 
     [[noreturn]] static void Fail(std::size_t offset, const std::string& reason) { throw JsonFault{offset, reason}; }
 
-    // The fault that comes first in the text: keys in any order are compared when their map ends, and a fault may end it
-    // earlier.
+    // Keys are compared when their map ends, or here if there is a fault before: all keys that have been read precede it.
     [[noreturn]] void ThrowError(const JsonFault& fault) const
     {
         const std::optional<JsonTreeBuilder::Duplicate> duplicate = m_builder.FirstDuplicate();
-        if (!duplicate || duplicate->offset > fault.offset)
+        if (!duplicate)
         {
             ThrowError(fault.offset, m_builder.PathText(m_isAtValue), fault.reason);
         }

@@ -37,6 +37,7 @@ constexpr FloatText FLOATS[] = {
     {9223372036854775808.0, "9223372036854775808.0"},
     {1e22, "1e+22"},
     {1.5e300, "1.5e+300"},
+    {4.486371142836947e31, "4.486371142836947e+31"}, // needs more digits than are exact while it is read
     {1e-7, "1e-07"},
     {0.001, "0.001"},
     // The fewest digits, next to what has an exponent or more digits.

@@ -75,6 +75,9 @@ TEST(JsonRead, ResolvesEscapes)
 {
     EXPECT_EQ(ReadJson(R"("\"\\\/\b\f\n\r\t")"), PropertyTree("\"\\/\b\f\n\r\t"));
     EXPECT_EQ(ReadJson(R"("\u0041\u00e4\u20AC\ud83d\uDE00")"), PropertyTree("A\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80"));
+    EXPECT_EQ(ReadJson(R"("\ud800\udc00\udbff\udfff")"), PropertyTree("\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"));
+    EXPECT_EQ(ReadJson(R"("\u007F\u0080\u07ff\u0800\ud7ff\ue000\uFFFF")"),
+              PropertyTree("\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF"));
     EXPECT_EQ(ReadJson(R"("a\u0000b")"), PropertyTree("a\0b"s));
     EXPECT_EQ(ReadJson("\"\x7F\""), PropertyTree("\x7F"));
 }
