@@ -72,11 +72,6 @@ std::optional<double> NonFiniteValue(std::string_view text)
                                  : std::nullopt;
 }
 
-bool IsFloat(std::string_view lexeme)
-{
-    return lexeme.find_first_of(".eE") != std::string_view::npos;
-}
-
 // Whether a number that does not fit a float is too large rather than too small. `lexeme` must not be zero.
 [[maybe_unused]] bool IsLarge(std::string_view lexeme)
 {
@@ -162,7 +157,7 @@ public:
     {
         if (value > static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()))
         {
-            FailNumber("integer");
+            FailNumber();
         }
         Add(value, IntegerEnd());
         return true;
@@ -227,17 +222,10 @@ public:
         constexpr int numberOverflow = 406;
         if (exception.id == numberOverflow)
         {
-            const std::size_t start = NextToken();
-            FailNumber(IsFloat(m_text.substr(start, readBytes - start)) ? "float" : "integer");
+            FailNumber();
         }
-        const std::string_view reason = ReasonIn(exception.what());
-        if (!reason.starts_with("unexpected"))
-        {
-            Fail(readBytes - 1, std::string(reason));
-        }
-        const std::size_t place = NextToken();
-        const bool isZeroByte = place < m_text.size() && m_text[place] == '\0';
-        Fail(place, isZeroByte ? "unexpected zero byte" : std::string(reason));
+        const std::string reason(ReasonIn(exception.what()));
+        Fail(reason.starts_with("unexpected") ? NextToken() : readBytes - 1, reason);
     }
 
 private:
@@ -302,9 +290,9 @@ private:
 
     double ParseFloat(std::string_view lexeme) const
     {
-        if (!IsFloat(lexeme))
+        if (lexeme.find_first_of(".eE") == std::string_view::npos)
         {
-            FailNumber("integer"); // the parser reports an integer beyond 64 bits as a float
+            FailNumber(); // the parser reports an integer beyond 64 bits as a float
         }
 #if defined(__cpp_lib_to_chars) && !defined(__i386__)
         double value = 0.0;
@@ -313,7 +301,7 @@ private:
         {
             if (IsLarge(lexeme))
             {
-                FailNumber("float");
+                FailNumber();
             }
             return lexeme.starts_with('-') ? -0.0 : 0.0;
         }
@@ -323,7 +311,7 @@ private:
         const double value = strtod_l(std::string(lexeme).c_str(), nullptr, classic);
         if (std::isinf(value))
         {
-            FailNumber("float");
+            FailNumber();
         }
         return value;
 #endif
@@ -374,9 +362,9 @@ private:
         return path.Text();
     }
 
-    [[noreturn]] void FailNumber(const char* kind) const
+    [[noreturn]] void FailNumber() const
     {
-        Fail(NextToken(), std::string("the number does not fit a 64-bit ") + kind);
+        Fail(NextToken(), "the number does not fit 64 bits");
     }
 
     [[noreturn]] void Fail(std::size_t offset, const std::string& reason) const

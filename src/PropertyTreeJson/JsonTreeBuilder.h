@@ -19,10 +19,10 @@ namespace Ombrel
 class JsonTreeBuilder
 {
 public:
-    /// The index in `Builder::m_trees` of a map or list that has ended.
+    /// Stands for a map or list that has ended.
     struct TreeIndex
     {
-        std::size_t value;
+        std::size_t value; ///< in `m_trees`
     };
 
     /// `monostate` is null.
