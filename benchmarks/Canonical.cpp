@@ -2,9 +2,6 @@
 
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
-#include <rapidjson/stringbuffer.h>
-#include <rapidjson/writer.h>
-
 namespace Ombrel::Benchmarks
 {
 
@@ -23,14 +20,6 @@ nlohmann::json Canonical(const PropertyTree& tree)
     return Canonical(WriteJson(tree));
 }
 
-nlohmann::json Canonical(const rapidjson::Document& document)
-{
-    rapidjson::StringBuffer text;
-    rapidjson::Writer<rapidjson::StringBuffer> writer(text);
-    document.Accept(writer);
-    return nlohmann::json::parse(text.GetString());
-}
-
 nlohmann::json Canonical(const std::string& text)
 {
     return nlohmann::json::parse(text);
@@ -42,6 +31,13 @@ nlohmann::json Canonical(const PhotoCore::IEffectSettings& effect)
     effect.Serialize(tree);
     tree["name"] = effect.GetClassId();
     return Canonical(tree);
+}
+
+nlohmann::json Canonical(const Proc::Settings& record)
+{
+    const auto effect = PhotoCore::IEffectSettings::CreateEffectSettings(record.GetClassId());
+    effect->SetEffectSettings(record);
+    return Canonical(*effect);
 }
 
 } // namespace Ombrel::Benchmarks

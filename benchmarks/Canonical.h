@@ -2,10 +2,10 @@
 #define OMBREL_BENCHMARKS_CANONICAL_H
 
 #include "Proc/EffectSettings/IEffectSettings.h"
+#include "Proc/Settings/Settings.h"
 #include "PropertyTree/PropertyTree.h"
 
 #include <nlohmann/json.hpp>
-#include <rapidjson/document.h>
 
 #include <memory>
 #include <string>
@@ -19,13 +19,20 @@ namespace Ombrel::Benchmarks
 nlohmann::json Canonical(bool value);
 nlohmann::json Canonical(const nlohmann::json& value);
 nlohmann::json Canonical(const PropertyTree& tree);
-nlohmann::json Canonical(const rapidjson::Document& document);
 
 /// What the JSON text says.
 nlohmann::json Canonical(const std::string& text);
 
 /// The stored form with the class id.
 nlohmann::json Canonical(const PhotoCore::IEffectSettings& effect);
+nlohmann::json Canonical(const Proc::Settings& record);
+
+/// What the document of another library says.
+template <class Document>
+requires(requires(const Document& document) { document.Text(); }) nlohmann::json Canonical(const Document& document)
+{
+    return Canonical(document.Text());
+}
 
 template <class Effect> nlohmann::json Canonical(const std::shared_ptr<Effect>& effect)
 {

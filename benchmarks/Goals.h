@@ -8,19 +8,21 @@
 namespace Ombrel::Benchmarks
 {
 
-/// What was measured of one variant.
-struct Figure
+using Figures = std::map<std::string, double>; // under "title/variant"
+
+struct Measured
 {
-    double nanoseconds; // the median
-    double allocations;
+    Figures nanoseconds; // medians
+    Figures allocations;
+    Figures bytes;
 };
 
 /// Prints how what was measured stands to what the library shall achieve, one goal in a line:
 ///
-///     GOAL name value limit ok|miss
+///     GOAL name value <=limit (aim) ok|miss
 ///
-/// @param figures under "title/variant"; a goal whose figures are not there is left out
-void PrintGoals(std::ostream& out, const std::map<std::string, Figure>& figures);
+/// The aim is what may be reached; not every goal has one. A goal whose figures are not there is left out.
+void PrintGoals(std::ostream& out, const Measured& measured);
 
 } // namespace Ombrel::Benchmarks
 

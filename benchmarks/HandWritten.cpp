@@ -1,92 +1,20 @@
 #include "HandWritten.h"
 
-#include "HandWrittenLists.h"
-#include "PropertyTreeJson/PropertyTreeJson.h"
+#include "HandWrittenClasses.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <iterator>
 #include <limits>
-#include <stdexcept>
 
 namespace Ombrel::Benchmarks
 {
 namespace
 {
 
-template <class Record> class HandWrittenSettings final : public HandWrittenEffect
+template <class Record> struct Make
 {
-public:
-    const std::string& GetClassId() const override { return Record::CLASS_ID; }
-
-    void Serialize(PropertyTree& tree) const override
-    {
-        constexpr std::size_t others = 1; // the class id
-        tree.makeMap(Same(m_record, Record()) ? 0 : FIELD_COUNT<Record> + others);
-        WriteBase(tree.getMap());
-        WriteFields(tree.getMap(), m_record);
-    }
-
-    void Deserialize(const PropertyTree& tree) override
-    {
-        const PropertyTree::Map& map = tree.getMap();
-        ReadBase(map);
-        ReadFields(map, m_record);
-    }
-
-    void WriteDom(Dom& dom) const override
-    {
-        dom = Dom::object();
-        WriteDomBase(dom);
-        WriteFields(dom.get_ref<DomMap&>(), m_record);
-    }
-
-    void ReadDom(const Dom& dom) override
-    {
-        ReadDomBase(dom);
-        ReadFields(MapOf(dom), m_record);
-    }
-
-    std::shared_ptr<IEffectSettings> Clone() const override { return std::make_shared<HandWrittenSettings>(*this); }
-    const Proc::Settings& GetEffectSettings() const override { return m_record; }
-    Proc::Settings& GetEffectSettingsRef() override { return m_record; }
-    InputType GetInputType() override { return InputType::One; }
-
-    void SetEffectSettings(const Proc::Settings& record) override { m_record = dynamic_cast<const Record&>(record); }
-    void Add(const IEffectSettings&) override {}
-
-    bool operator==(const IEffectSettings& other) const override
-    {
-        const auto* same = dynamic_cast<const HandWrittenSettings*>(&other);
-        return same && Same(m_record, same->m_record);
-    }
-
-private:
-    Record m_record;
-};
-
-struct HandWrittenClass
-{
-    std::string_view id;
-    std::shared_ptr<HandWrittenEffect> (*create)();
-};
-
-template <class Record> constexpr HandWrittenClass ClassOf()
-{
-    return {Record::CLASS_NAME,
-            []() -> std::shared_ptr<HandWrittenEffect> { return std::make_shared<HandWrittenSettings<Record>>(); }};
-}
-
-// So few are found fastest one by one, since most differ in length.
-constexpr std::array CLASSES{
-    ClassOf<Proc::SettingsEffectAcid>(),           ClassOf<Proc::SettingsEffectAdjuster>(),
-    ClassOf<Proc::SettingsEffectBiColorToning>(),  ClassOf<Proc::SettingsEffectBlurRadial>(),
-    ClassOf<Proc::SettingsEffectColorBalance>(),   ClassOf<Proc::SettingsEffectColorBalanceAuto>(),
-    ClassOf<Proc::SettingsEffectDetailsEnhance>(), ClassOf<Proc::SettingsEffectEmpty>(),
-    ClassOf<Proc::SettingsEffectFaceThinning>(),   ClassOf<Proc::SettingsEffectGradient>(),
-    ClassOf<Proc::SettingsEffectNegateVideo>(),    ClassOf<Proc::SettingsEffectSmartBlur>(),
-    ClassOf<Proc::SettingsEffectVibrance>(),
+    static std::shared_ptr<HandWrittenEffect> Call() { return std::make_shared<HandWrittenSettings<Record>>(); }
 };
 
 bool IsDefault(const PhotoCore::HelperSettings& settings)
@@ -132,12 +60,7 @@ double* Find(Adjuster& record, std::string_view key)
 
 std::shared_ptr<HandWrittenEffect> HandWrittenEffect::Create(std::string_view id)
 {
-    const auto found = std::ranges::find(CLASSES, id, &HandWrittenClass::id);
-    if (found == CLASSES.end())
-    {
-        throw std::out_of_range("no hand-written effect: " + std::string(id));
-    }
-    return found->create();
+    return Classes::TABLE<Make>[Classes::IndexOf(id)]();
 }
 
 std::shared_ptr<HandWrittenEffect> HandWrittenEffect::CreateFrom(const Proc::Settings& record)
@@ -147,41 +70,31 @@ std::shared_ptr<HandWrittenEffect> HandWrittenEffect::CreateFrom(const Proc::Set
     return effect;
 }
 
-void HandWrittenEffect::WriteWithId(PropertyTree& tree, const HandWrittenEffect& effect)
-{
-    effect.Serialize(tree);
-    tree.getMap().try_emplace("name", PropertyTree(effect.GetClassId()));
-}
-
-std::shared_ptr<HandWrittenEffect> HandWrittenEffect::ReadWithId(const PropertyTree& tree)
+std::shared_ptr<HandWrittenEffect> HandWrittenEffect::DeserializeWithId(const PropertyTree& tree)
 {
     std::shared_ptr<HandWrittenEffect> effect = Create(tree["name"].getScalar().toString());
-    effect->Deserialize(tree);
+    effect->Read(tree, 1);
     return effect;
 }
 
-void HandWrittenEffect::WriteDomWithId(Dom& dom, const HandWrittenEffect& effect)
+std::size_t HandWrittenEffect::CountBase() const
 {
-    effect.WriteDom(dom);
-    dom.emplace("name", effect.GetClassId());
+    return (IsDefault(m_helperSettings) ? 0U : 1U) + (m_implName == "default" ? 0U : 1U);
 }
 
-std::shared_ptr<HandWrittenEffect> HandWrittenEffect::ReadDomWithId(const Dom& dom)
+void HandWrittenEffect::WriteBase(PropertyTree::Map& map, std::size_t count) const
 {
-    std::shared_ptr<HandWrittenEffect> effect = Create(dom.at("name").get_ref<const std::string&>());
-    effect->ReadDom(dom);
-    return effect;
-}
-
-void HandWrittenEffect::WriteBase(PropertyTree::Map& map) const
-{
+    if (count == 0)
+    {
+        return;
+    }
     if (!IsDefault(m_helperSettings))
     {
         m_helperSettings.Serialize(map["helperSettings"]);
     }
     if (m_implName != "default")
     {
-        map.try_emplace("implName", PropertyTree(m_implName));
+        map["implName"] = m_implName;
     }
 }
 
@@ -197,32 +110,26 @@ void HandWrittenEffect::ReadBase(const PropertyTree::Map& map)
     }
 }
 
-// Helper settings other than the default stand in nothing that is measured, so they may take the way through a text.
-
-void HandWrittenEffect::WriteDomBase(Dom& dom) const
+PropertyTree HandWriteEffects(const HandWrittenEffect::List& effects)
 {
-    if (!IsDefault(m_helperSettings))
+    PropertyTree tree;
+    PropertyTree::List& list = tree.makeList(effects.size());
+    for (const std::shared_ptr<HandWrittenEffect>& effect : effects)
     {
-        PropertyTree tree;
-        m_helperSettings.Serialize(tree);
-        dom["helperSettings"] = Dom::parse(WriteJson(tree));
+        effect->SerializeWithId(list.emplace_back());
     }
-    if (m_implName != "default")
-    {
-        dom["implName"] = m_implName;
-    }
+    return tree;
 }
 
-void HandWrittenEffect::ReadDomBase(const Dom& dom)
+HandWrittenEffect::List HandReadEffects(const PropertyTree& tree)
 {
-    if (const auto found = dom.find("implName"); found != dom.end())
+    HandWrittenEffect::List effects;
+    effects.reserve(tree.getList().size());
+    for (const PropertyTree& element : tree.getList())
     {
-        m_implName = found->get_ref<const std::string&>();
+        effects.push_back(HandWrittenEffect::DeserializeWithId(element));
     }
-    if (const auto found = dom.find("helperSettings"); found != dom.end())
-    {
-        m_helperSettings.Deserialize(ReadJson(found->dump()));
-    }
+    return effects;
 }
 
 PropertyTree HandWrittenAdjusterAccess::GetProperty(const std::string& key) const

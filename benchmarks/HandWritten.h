@@ -4,8 +4,7 @@
 #include "Proc/EffectSettings/EffectSettings.h"
 #include "PropertyTree/PropertyTree.h"
 
-#include <nlohmann/json_fwd.hpp>
-
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -20,7 +19,7 @@ namespace Ombrel::Benchmarks
 {
 
 /// An effect as it would be without reflection: the same records, base and interface, and every key and default written out
-/// where it is used. Beside the tree it knows nlohmann's DOM, of the same keys and values.
+/// where it is used.
 class HandWrittenEffect : public PhotoCore::EffectSettings
 {
 public:
@@ -33,21 +32,26 @@ public:
     /// A new effect with a copy of the record.
     static std::shared_ptr<HandWrittenEffect> CreateFrom(const Proc::Settings& record);
 
-    // With the class id, as the library stores effects of any class.
-    static void WriteWithId(PropertyTree& tree, const HandWrittenEffect& effect);
-    static std::shared_ptr<HandWrittenEffect> ReadWithId(const PropertyTree& tree);
-    static void WriteDomWithId(nlohmann::json& dom, const HandWrittenEffect& effect);
-    static std::shared_ptr<HandWrittenEffect> ReadDomWithId(const nlohmann::json& dom);
+    /// As the library stores effects of any class.
+    virtual void SerializeWithId(PropertyTree& tree) const = 0;
 
-    virtual void WriteDom(nlohmann::json& dom) const = 0;
-    virtual void ReadDom(const nlohmann::json& dom) = 0;
+    /// A new effect of the class in the tree.
+    static std::shared_ptr<HandWrittenEffect> DeserializeWithId(const PropertyTree& tree);
+
+    /// The place of its class in `Classes`.
+    virtual std::size_t ClassIndex() const noexcept = 0;
 
 protected:
-    void WriteBase(PropertyTree::Map& map) const;
+    /// @param idCount how many class ids are beside the values: 0 or 1
+    virtual void Read(const PropertyTree& tree, std::size_t idCount) = 0;
+
+    std::size_t CountBase() const;
+    void WriteBase(PropertyTree::Map& map, std::size_t count) const;
     void ReadBase(const PropertyTree::Map& map);
-    void WriteDomBase(nlohmann::json& dom) const;
-    void ReadDomBase(const nlohmann::json& dom);
 };
+
+PropertyTree HandWriteEffects(const HandWrittenEffect::List& effects);
+HandWrittenEffect::List HandReadEffects(const PropertyTree& tree);
 
 /// Property access to the plain values of the adjuster. The nested records are left out, which is to the favour of the
 /// hand-written side.

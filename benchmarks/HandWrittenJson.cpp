@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <limits>
@@ -146,9 +147,10 @@ public:
 
     bool key(std::string& name)
     {
-        const auto [entry, isNew] = m_open.back()->getMap().try_emplace(name, PropertyTree());
-        m_place = &entry->second;
-        return isNew;
+        PropertyTree::Map& map = m_open.back()->getMap();
+        const std::size_t sizeBefore = map.size();
+        m_place = &map[name];
+        return map.size() != sizeBefore;
     }
 
     bool end_object() { return Close(); }

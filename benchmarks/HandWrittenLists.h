@@ -9,76 +9,26 @@
 #include "Proc/Settings/SettingsEffectNegateVideo.h"
 
 #include <array>
+#include <cstdint>
 #include <set>
 #include <utility>
 
-/// The same for records with colours, enumerations, points, sets and colour maps, of trees and nlohmann's DOM alone.
+/// The same for records with colours, enumerations, points, sets and colour maps.
 namespace Ombrel::Benchmarks
 {
 
-using TreeList = PropertyTree::List;
-using DomList = Dom::array_t;
-
-template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectBiColorToning> = 2;
-template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectBlurRadial> = 6;
-template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectFaceThinning> = 2;
-template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectGradient> = 1;
-template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectNegateVideo> = 1;
-
-inline TreeList& PutList(TreeMap& map, std::string_view key, std::size_t size)
-{
-    return map[key].makeList(size);
-}
-
-inline DomList& PutList(DomMap& map, std::string_view key, std::size_t size)
-{
-    auto& list = map.emplace_hint(map.end(), key, Dom::array())->second.get_ref<DomList&>();
-    list.reserve(size);
-    return list;
-}
-
-inline TreeMap& AddMap(TreeList& list, std::size_t fieldCount)
-{
-    return list.emplace_back().makeMap(fieldCount);
-}
-
-inline DomMap& AddMap(DomList& list, std::size_t)
-{
-    return list.emplace_back(Dom::object()).get_ref<DomMap&>();
-}
-
-inline const TreeList& ListOf(const PropertyTree& child)
-{
-    return child.getList();
-}
-
-inline const DomList& ListOf(const Dom& child)
-{
-    return child.get_ref<const DomList&>();
-}
-
-inline const std::string& StringOf(const PropertyTree& child)
-{
-    return child.getScalar().toString();
-}
-
-inline const std::string& StringOf(const Dom& child)
-{
-    return child.get_ref<const std::string&>();
-}
-
 template <class Enum, std::size_t Size> using NameTable = std::array<std::pair<const char*, Enum>, Size>;
 
-template <class Enum, std::size_t Size> std::string NameOf(const NameTable<Enum, Size>& table, Enum value)
+template <class Enum, std::size_t Size> Constant NameOf(const NameTable<Enum, Size>& table, Enum value)
 {
     for (const auto& [name, named] : table)
     {
         if (named == value)
         {
-            return name;
+            return {name};
         }
     }
-    return {};
+    return {""};
 }
 
 template <class Enum, std::size_t Size> Enum ValueOf(const NameTable<Enum, Size>& table, std::string_view text)
@@ -93,63 +43,81 @@ template <class Enum, std::size_t Size> Enum ValueOf(const NameTable<Enum, Size>
     return Enum{};
 }
 
-template <class Map>
-void PutColor(Map& map, std::string_view key, const Proc::RgbaColor& color, const Proc::RgbaColor& fallback)
+template <class Sink>
+void PutColor(Sink& sink, std::string_view key, const Proc::RgbaColor& color, const Proc::RgbaColor& fallback)
 {
-    if (color != fallback)
-    {
-        Put(map, key, ToText(color), std::string());
-    }
+    PutIf(sink, color != fallback, [&](auto& map) { map.Put(key, ToText(color)); });
 }
 
-template <class Map> Proc::RgbaColor TakeColor(const Map& map, std::string_view key, const Proc::RgbaColor& fallback)
+template <class Cursor> Proc::RgbaColor TakeColor(Cursor& cursor, std::string_view key, Proc::RgbaColor fallback)
 {
-    const auto* child = Find(map, key);
-    return child ? Proc::ColorFromText(StringOf(*child)) : fallback;
+    cursor.Find(key, [&](const auto& value) { fallback = Proc::ColorFromText(Cursor::Format::TextOf(value)); });
+    return fallback;
 }
 
-template <class Map, class Points> void PutPoints(Map& map, std::string_view key, const Points& points)
+template <class Sink, class Points> void PutPoints(Sink& sink, std::string_view key, const Points& points)
 {
-    if (points.empty())
-    {
-        return;
-    }
-    auto& list = PutList(map, key, points.size());
-    for (const auto& point : points)
-    {
-        auto& entry = AddMap(list, 2);
-        Put(entry, "x", point.m_x, 0);
-        Put(entry, "y", point.m_y, 0);
-    }
+    PutIf(sink, !points.empty(),
+          [&](auto& map)
+          {
+              auto list = map.PutList(key, points.size());
+              for (const auto& point : points)
+              {
+                  const std::size_t count = (point.m_x != 0 ? 1U : 0U) + (point.m_y != 0 ? 1U : 0U);
+                  auto entry = list.AddMap(count);
+                  Put(entry, "x", point.m_x, 0);
+                  Put(entry, "y", point.m_y, 0);
+              }
+          });
 }
 
-template <class Map, class Points> void TakePoints(const Map& map, std::string_view key, Points& points)
+// Calls `read` with a cursor for each map of the list under the key. `reserve` is told how many they are, where that is known
+// without counting.
+template <class Cursor, class Reserve, class Read>
+bool TakeMaps(Cursor& cursor, std::string_view key, const Reserve& reserve, const Read& read)
+{
+    using Format = typename Cursor::Format;
+    return cursor.Find(key,
+                       [&](const auto& value)
+                       {
+                           auto&& elements = Format::ElementsOf(value);
+                           if constexpr (requires { Format::SizeOf(elements); })
+                           {
+                               reserve(Format::SizeOf(elements));
+                           }
+                           for (typename Format::Element element : elements)
+                           {
+                               auto map = Format::CursorOf(element);
+                               read(map);
+                           }
+                       });
+}
+
+template <class Cursor, class Points> void TakePoints(Cursor& cursor, std::string_view key, Points& points)
 {
     points.clear();
-    if (const auto* child = Find(map, key))
-    {
-        const auto& list = ListOf(*child);
-        points.reserve(list.size());
-        for (const auto& element : list)
+    TakeMaps(
+        cursor, key, [&](std::size_t count) { points.reserve(count); },
+        [&](auto& map)
         {
-            const auto& entry = MapOf(element);
-            points.push_back({Take(entry, "x", 0), Take(entry, "y", 0)});
-        }
-    }
+            const int x = Take(map, "x", 0);
+            points.push_back({x, Take(map, "y", 0)});
+        });
 }
 
 // EFFECT_BI_COLOR_TONING
 
-template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectBiColorToning& record)
+template <class Sink> void WriteFields(Sink& sink, const Proc::SettingsEffectBiColorToning& record)
 {
-    PutColor(map, "colorFirst", record.m_colorFirst, {0, 0, 0, 255});
-    PutColor(map, "colorSecond", record.m_colorSecond, {255, 255, 255, 255});
+    PutColor(sink, "colorFirst", record.m_colorFirst, {0, 0, 0, 255});
+    PutColor(sink, "colorSecond", record.m_colorSecond, {255, 255, 255, 255});
+    PutId(sink, record);
 }
 
-template <class Map> void ReadFields(const Map& map, Proc::SettingsEffectBiColorToning& record)
+template <class Cursor> void ReadFields(Cursor& cursor, Proc::SettingsEffectBiColorToning& record)
 {
-    record.m_colorFirst = TakeColor(map, "colorFirst", {0, 0, 0, 255});
-    record.m_colorSecond = TakeColor(map, "colorSecond", {255, 255, 255, 255});
+    record.m_colorFirst = TakeColor(cursor, "colorFirst", {0, 0, 0, 255});
+    record.m_colorSecond = TakeColor(cursor, "colorSecond", {255, 255, 255, 255});
 }
 
 inline bool Same(const Proc::SettingsEffectBiColorToning& a, const Proc::SettingsEffectBiColorToning& b)
@@ -164,28 +132,26 @@ using RadialMode = Proc::SettingsEffectBlurRadial::BlurRadialMode;
 inline constexpr NameTable<RadialMode, 3> RADIAL_MODES{
     {{"Radial", RadialMode::Radial}, {"Linear", RadialMode::Linear}, {"Custom", RadialMode::Custom}}};
 
-template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectBlurRadial& record)
+template <class Sink> void WriteFields(Sink& sink, const Proc::SettingsEffectBlurRadial& record)
 {
-    Put(map, "angle", record.m_angle, 0.0);
-    if (record.m_mode != RadialMode::Radial)
-    {
-        Put(map, "mode", NameOf(RADIAL_MODES, record.m_mode), std::string());
-    }
-    Put(map, "strength", record.m_strength, 0.0);
-    PutPoints(map, "trace", record.m_trace);
-    Put(map, "x", record.m_x, 0.0);
-    Put(map, "y", record.m_y, 0.0);
+    Put(sink, "angle", record.m_angle, 0.0);
+    PutIf(sink, record.m_mode != RadialMode::Radial, [&](auto& map) { map.Put("mode", NameOf(RADIAL_MODES, record.m_mode)); });
+    PutId(sink, record);
+    Put(sink, "strength", record.m_strength, 0.0);
+    PutPoints(sink, "trace", record.m_trace);
+    Put(sink, "x", record.m_x, 0.0);
+    Put(sink, "y", record.m_y, 0.0);
 }
 
-template <class Map> void ReadFields(const Map& map, Proc::SettingsEffectBlurRadial& record)
+template <class Cursor> void ReadFields(Cursor& cursor, Proc::SettingsEffectBlurRadial& record)
 {
-    record.m_angle = Take(map, "angle", 0.0);
-    const auto* mode = Find(map, "mode");
-    record.m_mode = mode ? ValueOf(RADIAL_MODES, StringOf(*mode)) : RadialMode::Radial;
-    record.m_strength = Take(map, "strength", 0.0);
-    TakePoints(map, "trace", record.m_trace);
-    record.m_x = Take(map, "x", 0.0);
-    record.m_y = Take(map, "y", 0.0);
+    record.m_angle = Take(cursor, "angle", 0.0);
+    record.m_mode = RadialMode::Radial;
+    cursor.Find("mode", [&](const auto& value) { record.m_mode = ValueOf(RADIAL_MODES, Cursor::Format::TextOf(value)); });
+    record.m_strength = Take(cursor, "strength", 0.0);
+    TakePoints(cursor, "trace", record.m_trace);
+    record.m_x = Take(cursor, "x", 0.0);
+    record.m_y = Take(cursor, "y", 0.0);
 }
 
 inline bool Same(const Proc::SettingsEffectBlurRadial& a, const Proc::SettingsEffectBlurRadial& b)
@@ -196,26 +162,29 @@ inline bool Same(const Proc::SettingsEffectBlurRadial& a, const Proc::SettingsEf
 
 // EFFECT_FACE_THINNING
 
-template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectFaceThinning& record)
+using Outline = decltype(Proc::SettingsEffectFaceThinning::m_faceOutline);
+
+template <class Sink> void WriteFields(Sink& sink, const Outline& outline)
 {
-    if (!record.m_faceOutline.m_contour.empty())
-    {
-        PutPoints(PutMap(map, "faceOutline", 1), "contour", record.m_faceOutline.m_contour);
-    }
-    Put(map, "strength", record.m_strength, 0.0);
+    PutPoints(sink, "contour", outline.m_contour);
 }
 
-template <class Map> void ReadFields(const Map& map, Proc::SettingsEffectFaceThinning& record)
+template <class Cursor> void ReadFields(Cursor& cursor, Outline& outline)
 {
-    if (const auto* outline = Find(map, "faceOutline"))
-    {
-        TakePoints(MapOf(*outline), "contour", record.m_faceOutline.m_contour);
-    }
-    else
-    {
-        record.m_faceOutline.m_contour.clear();
-    }
-    record.m_strength = Take(map, "strength", 0.0);
+    TakePoints(cursor, "contour", outline.m_contour);
+}
+
+template <class Sink> void WriteFields(Sink& sink, const Proc::SettingsEffectFaceThinning& record)
+{
+    PutRecord(sink, "faceOutline", !record.m_faceOutline.m_contour.empty(), record.m_faceOutline);
+    PutId(sink, record);
+    Put(sink, "strength", record.m_strength, 0.0);
+}
+
+template <class Cursor> void ReadFields(Cursor& cursor, Proc::SettingsEffectFaceThinning& record)
+{
+    TakeRecord(cursor, "faceOutline", record.m_faceOutline, {});
+    record.m_strength = Take(cursor, "strength", 0.0);
 }
 
 inline bool Same(const Proc::SettingsEffectFaceThinning& a, const Proc::SettingsEffectFaceThinning& b)
@@ -225,35 +194,32 @@ inline bool Same(const Proc::SettingsEffectFaceThinning& a, const Proc::Settings
 
 // EFFECT_GRADIENT
 
-template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectGradient& record)
+template <class Sink> void WriteFields(Sink& sink, const Proc::SettingsEffectGradient& record)
 {
-    if (record.m_gradient.empty())
-    {
-        return;
-    }
-    auto& list = PutList(map, "gradient", record.m_gradient.size());
-    for (const auto& [tone, color] : record.m_gradient)
-    {
-        auto& entry = AddMap(list, 2);
-        Put(entry, "key", std::int64_t{tone}, std::int64_t{-1});
-        Put(entry, "value", ToText(color), std::string());
-    }
+    PutIf(sink, !record.m_gradient.empty(),
+          [&](auto& map)
+          {
+              auto list = map.PutList("gradient", record.m_gradient.size());
+              for (const auto& [tone, color] : record.m_gradient)
+              {
+                  auto entry = list.AddMap(2);
+                  entry.Put("key", std::int64_t{tone});
+                  entry.Put("value", ToText(color));
+              }
+          });
+    PutId(sink, record);
 }
 
-template <class Map> void ReadFields(const Map& map, Proc::SettingsEffectGradient& record)
+template <class Cursor> void ReadFields(Cursor& cursor, Proc::SettingsEffectGradient& record)
 {
-    const auto* child = Find(map, "gradient");
-    if (!child)
-    {
-        record.m_gradient.clear();
-        return;
-    }
-    for (const auto& element : ListOf(*child))
-    {
-        const auto& entry = MapOf(element);
-        const auto tone = static_cast<std::uint8_t>(Take(entry, "key", std::int64_t{0}));
-        record.m_gradient.insert_or_assign(tone, TakeColor(entry, "value", {}));
-    }
+    record.m_gradient.clear();
+    TakeMaps(
+        cursor, "gradient", [](std::size_t) {},
+        [&](auto& map)
+        {
+            const auto tone = static_cast<std::uint8_t>(Take(map, "key", std::int64_t{0}));
+            record.m_gradient.insert_or_assign(record.m_gradient.end(), tone, TakeColor(map, "value", {}));
+        });
 }
 
 inline bool Same(const Proc::SettingsEffectGradient& a, const Proc::SettingsEffectGradient& b)
@@ -270,30 +236,33 @@ inline constexpr NameTable<NegatedChannel, 4> NEGATED_CHANNELS{{{"Red", NegatedC
                                                                 {"Blue", NegatedChannel::Blue},
                                                                 {"Alpha", NegatedChannel::Alpha}}};
 
-template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectNegateVideo& record)
+template <class Sink> void WriteFields(Sink& sink, const Proc::SettingsEffectNegateVideo& record)
 {
-    const std::set<NegatedChannel> channels = record.GetMode();
-    if (channels.empty())
-    {
-        return;
-    }
-    auto& list = PutList(map, "mode", channels.size());
-    for (const NegatedChannel channel : channels)
-    {
-        list.emplace_back(NameOf(NEGATED_CHANNELS, channel));
-    }
+    PutIf(sink, !record.IsEmpty(),
+          [&](auto& map)
+          {
+              const std::set<NegatedChannel> channels = record.GetMode();
+              auto list = map.PutList("mode", channels.size());
+              for (const NegatedChannel channel : channels)
+              {
+                  list.Add(NameOf(NEGATED_CHANNELS, channel));
+              }
+          });
+    PutId(sink, record);
 }
 
-template <class Map> void ReadFields(const Map& map, Proc::SettingsEffectNegateVideo& record)
+template <class Cursor> void ReadFields(Cursor& cursor, Proc::SettingsEffectNegateVideo& record)
 {
+    using Format = typename Cursor::Format;
     std::set<NegatedChannel> channels;
-    if (const auto* child = Find(map, "mode"))
-    {
-        for (const auto& element : ListOf(*child))
-        {
-            channels.insert(ValueOf(NEGATED_CHANNELS, StringOf(element)));
-        }
-    }
+    cursor.Find("mode",
+                [&](const auto& value)
+                {
+                    for (typename Format::Element element : Format::ElementsOf(value))
+                    {
+                        channels.insert(ValueOf(NEGATED_CHANNELS, Format::TextOf(element)));
+                    }
+                });
     record.SetMode(channels);
 }
 

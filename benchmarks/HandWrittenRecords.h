@@ -1,185 +1,115 @@
 #ifndef OMBREL_BENCHMARKS_HAND_WRITTEN_RECORDS_H
 #define OMBREL_BENCHMARKS_HAND_WRITTEN_RECORDS_H
 
+#include "Constant.h"
 #include "Proc/Settings/SettingsEffectAcid.h"
 #include "Proc/Settings/SettingsEffectAdjuster.h"
 #include "Proc/Settings/SettingsEffectEmpty.h"
-#include "PropertyTree/PropertyTree.h"
-
-#include <nlohmann/json.hpp>
-#include <rapidjson/document.h>
 
 #include <concepts>
-#include <cstdint>
+#include <cstddef>
 #include <string>
 #include <string_view>
-#include <type_traits>
 
-/// Every key and default of every record by hand, in key order, which is the order in which the maps grow fastest. What is
-/// called `Map` is the map of a tree or the object of a DOM; RapidJSON's needs its document's allocator beside it.
+/// Every key and default of every record by hand, in key order, once for all formats. `sink` is the map of a format, or what
+/// counts the entries that it will have. `cursor` walks over a map.
 namespace Ombrel::Benchmarks
 {
 
-using Dom = nlohmann::json;
-using DomMap = Dom::object_t;
-using TreeMap = PropertyTree::Map;
-
-struct RapidMap
+struct FieldCounter
 {
-    rapidjson::Value* object;
-    rapidjson::Document::AllocatorType* allocator;
+    std::size_t count = 0;
 };
 
-inline rapidjson::Value::StringRefType TextOf(std::string_view text)
+/// A map that gets the record's class id as well.
+template <class Map> struct Identified : Map
 {
-    return {text.data(), static_cast<rapidjson::SizeType>(text.size())};
-}
+    explicit Identified(const Map& map) : Map(map) {}
+};
 
-// How many fields the record has, which is what its map has room for.
-template <class Record> inline constexpr std::size_t FIELD_COUNT = 0;
-template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectAcid> = 2;
-template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectAdjuster> = 20;
-template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectColorBalance> = 9;
-template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectColorBalanceAuto> = 3;
-template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectDetailsEnhance> = 1;
-template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectEmpty> = 1;
-template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectSmartBlur> = 8;
-template <> inline constexpr std::size_t FIELD_COUNT<Proc::SettingsEffectVibrance> = 1;
-
-template <class Value> void Put(TreeMap& map, std::string_view key, const Value& value, const Value& fallback)
+/// Calls `put` with the map if a field has changed.
+template <class Sink, class Put> void PutIf(Sink& sink, bool isChanged, const Put& put)
 {
-    if (value != fallback)
+    if constexpr (std::same_as<Sink, FieldCounter>)
     {
-        map.try_emplace(key, PropertyTree(value));
+        sink.count += isChanged ? 1 : 0;
+    }
+    else if (isChanged)
+    {
+        put(sink);
     }
 }
 
-template <class Value> void Put(DomMap& map, std::string_view key, const Value& value, const Value& fallback)
+template <class Sink, class Value> void Put(Sink& sink, std::string_view key, const Value& value, const Value& fallback)
 {
-    if (value != fallback)
+    PutIf(sink, value != fallback, [&](auto& map) { map.Put(key, value); });
+}
+
+template <class Sink, class Record> void PutId(Sink&, const Record&) {}
+
+template <class Map, class Record> void PutId(Identified<Map>& sink, const Record&)
+{
+    sink.Put("name", Constant{Record::CLASS_NAME});
+}
+
+template <class Record> std::size_t CountFields(const Record& record)
+{
+    FieldCounter counter;
+    WriteFields(counter, record);
+    return counter.count;
+}
+
+template <class Sink, class Record> void PutRecord(Sink& sink, std::string_view key, bool isChanged, const Record& record)
+{
+    PutIf(sink, isChanged,
+          [&](auto& map)
+          {
+              auto child = map.PutMap(key, CountFields(record));
+              WriteFields(child, record);
+          });
+}
+
+template <class Cursor, class Value>
+[[gnu::always_inline]] inline Value Take(Cursor& cursor, std::string_view key, Value fallback)
+{
+    cursor.Find(key, [&](const auto& value) { fallback = Cursor::Format::template Decode<Value>(value); });
+    return fallback;
+}
+
+template <class Cursor, class Record>
+void TakeRecord(Cursor& cursor, std::string_view key, Record& record, const Record& fallback)
+{
+    const auto read = [&](const auto& value)
     {
-        map.emplace_hint(map.end(), key, value);
+        auto map = Cursor::Format::CursorOf(value);
+        ReadFields(map, record);
+    };
+    if (!cursor.Find(key, read))
+    {
+        record = fallback;
     }
 }
 
-template <class Value> void Put(RapidMap& map, std::string_view key, const Value& value, const Value& fallback)
+template <class Cursor> std::string TakeText(Cursor& cursor, std::string_view key)
 {
-    if (value == fallback)
-    {
-        return;
-    }
-    if constexpr (std::is_arithmetic_v<Value>)
-    {
-        map.object->AddMember(TextOf(key), value, *map.allocator);
-    }
-    else
-    {
-        map.object->AddMember(TextOf(key), rapidjson::Value(TextOf(value), *map.allocator), *map.allocator);
-    }
-}
-
-inline TreeMap& PutMap(TreeMap& map, std::string_view key, std::size_t fieldCount)
-{
-    return map[key].makeMap(fieldCount);
-}
-
-inline DomMap& PutMap(DomMap& map, std::string_view key, std::size_t)
-{
-    return map.emplace_hint(map.end(), key, Dom::object())->second.get_ref<DomMap&>();
-}
-
-inline RapidMap PutMap(RapidMap& map, std::string_view key, std::size_t)
-{
-    map.object->AddMember(TextOf(key), rapidjson::Value(rapidjson::kObjectType), *map.allocator);
-    return {&(map.object->MemberEnd() - 1)->value, map.allocator};
-}
-
-template <class Value> Value Decode(const PropertyTree& child)
-{
-    const PropertyTreeScalar& scalar = child.getScalar();
-    if constexpr (std::same_as<Value, bool>)
-    {
-        bool value = false;
-        scalar.convertTo(value);
-        return value;
-    }
-    else if constexpr (std::integral<Value>)
-    {
-        return static_cast<Value>(scalar.toInt());
-    }
-    else if constexpr (std::floating_point<Value>)
-    {
-        return scalar.toDouble();
-    }
-    else
-    {
-        return scalar.toString();
-    }
-}
-
-template <class Value> Value Decode(const Dom& child)
-{
-    return child.get<Value>();
-}
-
-template <class Value> Value Decode(const rapidjson::Value& child)
-{
-    if constexpr (std::is_arithmetic_v<Value>)
-    {
-        return child.Get<Value>();
-    }
-    else
-    {
-        return {child.GetString(), child.GetStringLength()};
-    }
-}
-
-inline const TreeMap& MapOf(const PropertyTree& child)
-{
-    return child.getMap();
-}
-
-inline const DomMap& MapOf(const Dom& child)
-{
-    return child.get_ref<const DomMap&>();
-}
-
-inline const rapidjson::Value& MapOf(const rapidjson::Value& child)
-{
-    return child;
-}
-
-// The value under the key, or null.
-template <class Map> auto Find(const Map& map, std::string_view key)
-{
-    const auto found = map.find(key);
-    return found == map.end() ? nullptr : &found->second;
-}
-
-inline const rapidjson::Value* Find(const rapidjson::Value& map, std::string_view key)
-{
-    const auto found = map.FindMember(rapidjson::Value(TextOf(key)));
-    return found == map.MemberEnd() ? nullptr : &found->value;
-}
-
-template <class Map, class Value> Value Take(const Map& map, std::string_view key, Value fallback)
-{
-    const auto* child = Find(map, key);
-    return child ? Decode<Value>(*child) : fallback;
+    std::string text;
+    cursor.Find(key, [&](const auto& value) { text = Cursor::Format::TextOf(value); });
+    return text;
 }
 
 // EFFECT_ACID
 
-template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectAcid& record)
+template <class Sink> void WriteFields(Sink& sink, const Proc::SettingsEffectAcid& record)
 {
-    Put(map, "radius", record.radius, 0);
-    Put(map, "sigma", record.sigma, 0.5);
+    PutId(sink, record);
+    Put(sink, "radius", record.radius, 0);
+    Put(sink, "sigma", record.sigma, 0.5);
 }
 
-template <class Map> void ReadFields(const Map& map, Proc::SettingsEffectAcid& record)
+template <class Cursor> void ReadFields(Cursor& cursor, Proc::SettingsEffectAcid& record)
 {
-    record.radius = Take(map, "radius", 0);
-    record.sigma = Take(map, "sigma", 0.5);
+    record.radius = Take(cursor, "radius", 0);
+    record.sigma = Take(cursor, "sigma", 0.5);
 }
 
 inline bool Same(const Proc::SettingsEffectAcid& a, const Proc::SettingsEffectAcid& b)
@@ -189,30 +119,31 @@ inline bool Same(const Proc::SettingsEffectAcid& a, const Proc::SettingsEffectAc
 
 // EFFECT_COLOR_BALANCE
 
-template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectColorBalance& record)
+template <class Sink> void WriteFields(Sink& sink, const Proc::SettingsEffectColorBalance& record)
 {
-    Put(map, "brightness", record.GetBrightness(), 0);
-    Put(map, "contrast", record.GetContrast(), 0);
-    Put(map, "gamma", record.GetGamma(), 0);
-    Put(map, "gammaBlue", record.GetGammaBlue(), 0);
-    Put(map, "gammaGreen", record.GetGammaGreen(), 0);
-    Put(map, "gammaRed", record.GetGammaRed(), 0);
-    Put(map, "gammaWeight", record.GetGammaWeight(), 0);
-    Put(map, "hue", record.GetHue(), 0);
-    Put(map, "saturation", record.GetSaturation(), 0);
+    Put(sink, "brightness", record.GetBrightness(), 0);
+    Put(sink, "contrast", record.GetContrast(), 0);
+    Put(sink, "gamma", record.GetGamma(), 0);
+    Put(sink, "gammaBlue", record.GetGammaBlue(), 0);
+    Put(sink, "gammaGreen", record.GetGammaGreen(), 0);
+    Put(sink, "gammaRed", record.GetGammaRed(), 0);
+    Put(sink, "gammaWeight", record.GetGammaWeight(), 0);
+    Put(sink, "hue", record.GetHue(), 0);
+    PutId(sink, record);
+    Put(sink, "saturation", record.GetSaturation(), 0);
 }
 
-template <class Map> void ReadFields(const Map& map, Proc::SettingsEffectColorBalance& record)
+template <class Cursor> void ReadFields(Cursor& cursor, Proc::SettingsEffectColorBalance& record)
 {
-    record.SetBrightness(Take(map, "brightness", 0));
-    record.SetContrast(Take(map, "contrast", 0));
-    record.SetGamma(Take(map, "gamma", 0));
-    record.SetGammaBlue(Take(map, "gammaBlue", 0));
-    record.SetGammaGreen(Take(map, "gammaGreen", 0));
-    record.SetGammaRed(Take(map, "gammaRed", 0));
-    record.SetGammaWeight(Take(map, "gammaWeight", 0));
-    record.SetHue(Take(map, "hue", 0));
-    record.SetSaturation(Take(map, "saturation", 0));
+    record.SetBrightness(Take(cursor, "brightness", 0));
+    record.SetContrast(Take(cursor, "contrast", 0));
+    record.SetGamma(Take(cursor, "gamma", 0));
+    record.SetGammaBlue(Take(cursor, "gammaBlue", 0));
+    record.SetGammaGreen(Take(cursor, "gammaGreen", 0));
+    record.SetGammaRed(Take(cursor, "gammaRed", 0));
+    record.SetGammaWeight(Take(cursor, "gammaWeight", 0));
+    record.SetHue(Take(cursor, "hue", 0));
+    record.SetSaturation(Take(cursor, "saturation", 0));
 }
 
 inline bool Same(const Proc::SettingsEffectColorBalance& a, const Proc::SettingsEffectColorBalance& b)
@@ -225,18 +156,19 @@ inline bool Same(const Proc::SettingsEffectColorBalance& a, const Proc::Settings
 
 // EFFECT_COLOR_BALANCE_AUTO
 
-template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectColorBalanceAuto& record)
+template <class Sink> void WriteFields(Sink& sink, const Proc::SettingsEffectColorBalanceAuto& record)
 {
-    Put(map, "exposure", record.m_exposure, 0);
-    Put(map, "lightBalance", record.m_lightBalance, false);
-    Put(map, "whiteBalance", record.m_whiteBalance, false);
+    Put(sink, "exposure", record.m_exposure, 0);
+    Put(sink, "lightBalance", record.m_lightBalance, false);
+    PutId(sink, record);
+    Put(sink, "whiteBalance", record.m_whiteBalance, false);
 }
 
-template <class Map> void ReadFields(const Map& map, Proc::SettingsEffectColorBalanceAuto& record)
+template <class Cursor> void ReadFields(Cursor& cursor, Proc::SettingsEffectColorBalanceAuto& record)
 {
-    record.m_exposure = Take(map, "exposure", 0);
-    record.m_lightBalance = Take(map, "lightBalance", false);
-    record.m_whiteBalance = Take(map, "whiteBalance", false);
+    record.m_exposure = Take(cursor, "exposure", 0);
+    record.m_lightBalance = Take(cursor, "lightBalance", false);
+    record.m_whiteBalance = Take(cursor, "whiteBalance", false);
 }
 
 inline bool Same(const Proc::SettingsEffectColorBalanceAuto& a, const Proc::SettingsEffectColorBalanceAuto& b)
@@ -246,14 +178,15 @@ inline bool Same(const Proc::SettingsEffectColorBalanceAuto& a, const Proc::Sett
 
 // EFFECT_DETAILS
 
-template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectDetailsEnhance& record)
+template <class Sink> void WriteFields(Sink& sink, const Proc::SettingsEffectDetailsEnhance& record)
 {
-    Put(map, "strength", record.m_strength, 0);
+    PutId(sink, record);
+    Put(sink, "strength", record.m_strength, 0);
 }
 
-template <class Map> void ReadFields(const Map& map, Proc::SettingsEffectDetailsEnhance& record)
+template <class Cursor> void ReadFields(Cursor& cursor, Proc::SettingsEffectDetailsEnhance& record)
 {
-    record.m_strength = Take(map, "strength", 0);
+    record.m_strength = Take(cursor, "strength", 0);
 }
 
 inline bool Same(const Proc::SettingsEffectDetailsEnhance& a, const Proc::SettingsEffectDetailsEnhance& b)
@@ -263,17 +196,15 @@ inline bool Same(const Proc::SettingsEffectDetailsEnhance& a, const Proc::Settin
 
 // EFFECT_EMPTY
 
-template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectEmpty& record)
+template <class Sink> void WriteFields(Sink& sink, const Proc::SettingsEffectEmpty& record)
 {
-    if (!record.m_value.empty())
-    {
-        Put(map, "value", record.m_value, std::string());
-    }
+    PutId(sink, record);
+    PutIf(sink, !record.m_value.empty(), [&](auto& map) { map.Put("value", record.m_value); });
 }
 
-template <class Map> void ReadFields(const Map& map, Proc::SettingsEffectEmpty& record)
+template <class Cursor> void ReadFields(Cursor& cursor, Proc::SettingsEffectEmpty& record)
 {
-    record.m_value = Take(map, "value", std::string());
+    record.m_value = TakeText(cursor, "value");
 }
 
 inline bool Same(const Proc::SettingsEffectEmpty&, const Proc::SettingsEffectEmpty&)
@@ -283,28 +214,29 @@ inline bool Same(const Proc::SettingsEffectEmpty&, const Proc::SettingsEffectEmp
 
 // EFFECT_SMART_BLUR
 
-template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectSmartBlur& record)
+template <class Sink> void WriteFields(Sink& sink, const Proc::SettingsEffectSmartBlur& record)
 {
-    Put(map, "chromaBlur", record.GetChromaBlur(), 0);
-    Put(map, "chromaRadius", record.GetChromaRadius(), 0);
-    Put(map, "chromaSharpen", record.GetChromaSharpen(), 0);
-    Put(map, "chromaThreshold", record.GetChromaThreshold(), 0);
-    Put(map, "lumaBlur", record.GetLumaBlur(), 0);
-    Put(map, "lumaRadius", record.GetLumaRadius(), 0);
-    Put(map, "lumaSharpen", record.GetLumaSharpen(), 0);
-    Put(map, "lumaThreshold", record.GetLumaThreshold(), 0);
+    Put(sink, "chromaBlur", record.GetChromaBlur(), 0);
+    Put(sink, "chromaRadius", record.GetChromaRadius(), 0);
+    Put(sink, "chromaSharpen", record.GetChromaSharpen(), 0);
+    Put(sink, "chromaThreshold", record.GetChromaThreshold(), 0);
+    Put(sink, "lumaBlur", record.GetLumaBlur(), 0);
+    Put(sink, "lumaRadius", record.GetLumaRadius(), 0);
+    Put(sink, "lumaSharpen", record.GetLumaSharpen(), 0);
+    Put(sink, "lumaThreshold", record.GetLumaThreshold(), 0);
+    PutId(sink, record);
 }
 
-template <class Map> void ReadFields(const Map& map, Proc::SettingsEffectSmartBlur& record)
+template <class Cursor> void ReadFields(Cursor& cursor, Proc::SettingsEffectSmartBlur& record)
 {
-    record.SetChromaBlur(Take(map, "chromaBlur", 0));
-    record.SetChromaRadius(Take(map, "chromaRadius", 0));
-    record.SetChromaSharpen(Take(map, "chromaSharpen", 0));
-    record.SetChromaThreshold(Take(map, "chromaThreshold", 0));
-    record.SetLumaBlur(Take(map, "lumaBlur", 0));
-    record.SetLumaRadius(Take(map, "lumaRadius", 0));
-    record.SetLumaSharpen(Take(map, "lumaSharpen", 0));
-    record.SetLumaThreshold(Take(map, "lumaThreshold", 0));
+    record.SetChromaBlur(Take(cursor, "chromaBlur", 0));
+    record.SetChromaRadius(Take(cursor, "chromaRadius", 0));
+    record.SetChromaSharpen(Take(cursor, "chromaSharpen", 0));
+    record.SetChromaThreshold(Take(cursor, "chromaThreshold", 0));
+    record.SetLumaBlur(Take(cursor, "lumaBlur", 0));
+    record.SetLumaRadius(Take(cursor, "lumaRadius", 0));
+    record.SetLumaSharpen(Take(cursor, "lumaSharpen", 0));
+    record.SetLumaThreshold(Take(cursor, "lumaThreshold", 0));
 }
 
 inline bool Same(const Proc::SettingsEffectSmartBlur& a, const Proc::SettingsEffectSmartBlur& b)
@@ -317,14 +249,15 @@ inline bool Same(const Proc::SettingsEffectSmartBlur& a, const Proc::SettingsEff
 
 // EFFECT_VIBRANCE
 
-template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectVibrance& record)
+template <class Sink> void WriteFields(Sink& sink, const Proc::SettingsEffectVibrance& record)
 {
-    Put(map, "strength", record.m_strength, 0);
+    PutId(sink, record);
+    Put(sink, "strength", record.m_strength, 0);
 }
 
-template <class Map> void ReadFields(const Map& map, Proc::SettingsEffectVibrance& record)
+template <class Cursor> void ReadFields(Cursor& cursor, Proc::SettingsEffectVibrance& record)
 {
-    record.m_strength = Take(map, "strength", 0);
+    record.m_strength = Take(cursor, "strength", 0);
 }
 
 inline bool Same(const Proc::SettingsEffectVibrance& a, const Proc::SettingsEffectVibrance& b)
@@ -352,72 +285,55 @@ struct AdjusterDefaults
 
 inline const AdjusterDefaults ADJUSTER_DEFAULTS;
 
-template <class Map, class Record> void PutRecord(Map& map, std::string_view key, const Record& record, const Record& fallback)
+template <class Sink> void WriteFields(Sink& sink, const Proc::SettingsEffectAdjuster& record)
 {
-    if (!Same(record, fallback))
-    {
-        WriteFields(PutMap(map, key, FIELD_COUNT<Record>), record);
-    }
+    Put(sink, "brightness", record.m_brightness, 0.0);
+    PutRecord(sink, "colorBalance", !Same(record.m_colorBalance, ADJUSTER_DEFAULTS.colorBalance), record.m_colorBalance);
+    PutRecord(sink, "colorBalanceAuto", !Same(record.m_colorBalanceAuto, ADJUSTER_DEFAULTS.colorBalanceAuto),
+              record.m_colorBalanceAuto);
+    Put(sink, "colorizeHue", record.m_colorizeHue, 0.0);
+    Put(sink, "colorizeIntensity", record.m_colorizeIntensity, 1.0);
+    Put(sink, "colorizeLightness", record.m_colorizeLightness, 0.0);
+    Put(sink, "colorizeSaturation", record.m_colorizeSaturation, 0.0);
+    Put(sink, "contrast", record.m_contrast, 0.0);
+    PutRecord(sink, "detailsEnhance", !Same(record.m_detailsEnhance, ADJUSTER_DEFAULTS.detailsEnhance),
+              record.m_detailsEnhance);
+    Put(sink, "gamma", record.m_gamma, 0.0);
+    Put(sink, "highlights", record.m_highlights, 0.0);
+    Put(sink, "highlightsIntensity", record.m_highlightsIntensity, 1.0);
+    Put(sink, "hue", record.m_hue, 0.0);
+    Put(sink, "hueIntensity", record.m_hueIntensity, 1.0);
+    PutId(sink, record);
+    Put(sink, "shadows", record.m_shadows, 0.0);
+    Put(sink, "shadowsIntensity", record.m_shadowsIntensity, 1.0);
+    PutRecord(sink, "smartBlur", !Same(record.m_smartBlur, ADJUSTER_DEFAULTS.smartBlur), record.m_smartBlur);
+    Put(sink, "temperature", record.m_temperature, 0.0);
+    Put(sink, "temperatureIntensity", record.m_temperatureIntensity, 1.0);
+    PutRecord(sink, "vibrance", !Same(record.m_vibrance, ADJUSTER_DEFAULTS.vibrance), record.m_vibrance);
 }
 
-template <class Map, class Record> void TakeRecord(const Map& map, std::string_view key, Record& record, const Record& fallback)
+template <class Cursor> void ReadFields(Cursor& cursor, Proc::SettingsEffectAdjuster& record)
 {
-    if (const auto* child = Find(map, key))
-    {
-        ReadFields(MapOf(*child), record);
-    }
-    else
-    {
-        record = fallback;
-    }
-}
-
-template <class Map> void WriteFields(Map&& map, const Proc::SettingsEffectAdjuster& record)
-{
-    Put(map, "brightness", record.m_brightness, 0.0);
-    PutRecord(map, "colorBalance", record.m_colorBalance, ADJUSTER_DEFAULTS.colorBalance);
-    PutRecord(map, "colorBalanceAuto", record.m_colorBalanceAuto, ADJUSTER_DEFAULTS.colorBalanceAuto);
-    Put(map, "colorizeHue", record.m_colorizeHue, 0.0);
-    Put(map, "colorizeIntensity", record.m_colorizeIntensity, 1.0);
-    Put(map, "colorizeLightness", record.m_colorizeLightness, 0.0);
-    Put(map, "colorizeSaturation", record.m_colorizeSaturation, 0.0);
-    Put(map, "contrast", record.m_contrast, 0.0);
-    PutRecord(map, "detailsEnhance", record.m_detailsEnhance, ADJUSTER_DEFAULTS.detailsEnhance);
-    Put(map, "gamma", record.m_gamma, 0.0);
-    Put(map, "highlights", record.m_highlights, 0.0);
-    Put(map, "highlightsIntensity", record.m_highlightsIntensity, 1.0);
-    Put(map, "hue", record.m_hue, 0.0);
-    Put(map, "hueIntensity", record.m_hueIntensity, 1.0);
-    Put(map, "shadows", record.m_shadows, 0.0);
-    Put(map, "shadowsIntensity", record.m_shadowsIntensity, 1.0);
-    PutRecord(map, "smartBlur", record.m_smartBlur, ADJUSTER_DEFAULTS.smartBlur);
-    Put(map, "temperature", record.m_temperature, 0.0);
-    Put(map, "temperatureIntensity", record.m_temperatureIntensity, 1.0);
-    PutRecord(map, "vibrance", record.m_vibrance, ADJUSTER_DEFAULTS.vibrance);
-}
-
-template <class Map> void ReadFields(const Map& map, Proc::SettingsEffectAdjuster& record)
-{
-    record.m_brightness = Take(map, "brightness", 0.0);
-    TakeRecord(map, "colorBalance", record.m_colorBalance, ADJUSTER_DEFAULTS.colorBalance);
-    TakeRecord(map, "colorBalanceAuto", record.m_colorBalanceAuto, ADJUSTER_DEFAULTS.colorBalanceAuto);
-    record.m_colorizeHue = Take(map, "colorizeHue", 0.0);
-    record.m_colorizeIntensity = Take(map, "colorizeIntensity", 1.0);
-    record.m_colorizeLightness = Take(map, "colorizeLightness", 0.0);
-    record.m_colorizeSaturation = Take(map, "colorizeSaturation", 0.0);
-    record.m_contrast = Take(map, "contrast", 0.0);
-    TakeRecord(map, "detailsEnhance", record.m_detailsEnhance, ADJUSTER_DEFAULTS.detailsEnhance);
-    record.m_gamma = Take(map, "gamma", 0.0);
-    record.m_highlights = Take(map, "highlights", 0.0);
-    record.m_highlightsIntensity = Take(map, "highlightsIntensity", 1.0);
-    record.m_hue = Take(map, "hue", 0.0);
-    record.m_hueIntensity = Take(map, "hueIntensity", 1.0);
-    record.m_shadows = Take(map, "shadows", 0.0);
-    record.m_shadowsIntensity = Take(map, "shadowsIntensity", 1.0);
-    TakeRecord(map, "smartBlur", record.m_smartBlur, ADJUSTER_DEFAULTS.smartBlur);
-    record.m_temperature = Take(map, "temperature", 0.0);
-    record.m_temperatureIntensity = Take(map, "temperatureIntensity", 1.0);
-    TakeRecord(map, "vibrance", record.m_vibrance, ADJUSTER_DEFAULTS.vibrance);
+    record.m_brightness = Take(cursor, "brightness", 0.0);
+    TakeRecord(cursor, "colorBalance", record.m_colorBalance, ADJUSTER_DEFAULTS.colorBalance);
+    TakeRecord(cursor, "colorBalanceAuto", record.m_colorBalanceAuto, ADJUSTER_DEFAULTS.colorBalanceAuto);
+    record.m_colorizeHue = Take(cursor, "colorizeHue", 0.0);
+    record.m_colorizeIntensity = Take(cursor, "colorizeIntensity", 1.0);
+    record.m_colorizeLightness = Take(cursor, "colorizeLightness", 0.0);
+    record.m_colorizeSaturation = Take(cursor, "colorizeSaturation", 0.0);
+    record.m_contrast = Take(cursor, "contrast", 0.0);
+    TakeRecord(cursor, "detailsEnhance", record.m_detailsEnhance, ADJUSTER_DEFAULTS.detailsEnhance);
+    record.m_gamma = Take(cursor, "gamma", 0.0);
+    record.m_highlights = Take(cursor, "highlights", 0.0);
+    record.m_highlightsIntensity = Take(cursor, "highlightsIntensity", 1.0);
+    record.m_hue = Take(cursor, "hue", 0.0);
+    record.m_hueIntensity = Take(cursor, "hueIntensity", 1.0);
+    record.m_shadows = Take(cursor, "shadows", 0.0);
+    record.m_shadowsIntensity = Take(cursor, "shadowsIntensity", 1.0);
+    TakeRecord(cursor, "smartBlur", record.m_smartBlur, ADJUSTER_DEFAULTS.smartBlur);
+    record.m_temperature = Take(cursor, "temperature", 0.0);
+    record.m_temperatureIntensity = Take(cursor, "temperatureIntensity", 1.0);
+    TakeRecord(cursor, "vibrance", record.m_vibrance, ADJUSTER_DEFAULTS.vibrance);
 }
 
 inline bool Same(const Proc::SettingsEffectAdjuster& a, const Proc::SettingsEffectAdjuster& b)

@@ -2,101 +2,100 @@
 
 #include "EffectLists.h"
 #include "HandWritten.h"
-#include "HandWrittenJson.h"
-#include "PropertyTreeJson/PropertyTreeJson.h"
-#include "Samples.h"
+#include "PeerEffects.h"
+#include "Peers.h"
+#include "SampleLists.h"
 
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace Ombrel::Benchmarks
 {
 namespace
 {
 
-using PhotoCore::IEffectSettings;
+using MakeList = const SampleList& (*)();
 
-constexpr std::size_t EFFECT_COUNT = 1000;
-
-PropertyTree HandWriteEffects(const HandWrittenEffect::List& effects)
+template <class Format> auto WrittenBy(const HandWrittenEffect::List& effects)
 {
-    PropertyTree tree;
-    tree.convertToList();
-    PropertyTree::List& list = tree.getList();
-    list.reserve(effects.size());
-    for (const std::shared_ptr<HandWrittenEffect>& effect : effects)
-    {
-        HandWrittenEffect::WriteWithId(list.emplace_back(), *effect);
-    }
-    return tree;
+    using Document = typename Format::Document;
+    return Filled<Document>([&](Document& document) { WritePeerEffects(document, effects); });
 }
 
-HandWrittenEffect::List HandReadEffects(const PropertyTree& tree)
+template <class Format> auto SharedDocument(const HandWrittenEffect::List& effects)
 {
-    HandWrittenEffect::List effects;
-    effects.reserve(tree.getList().size());
-    for (const PropertyTree& element : tree.getList())
-    {
-        effects.push_back(HandWrittenEffect::ReadWithId(element));
-    }
-    return effects;
+    using Document = typename Format::Document;
+    return std::shared_ptr<const Document>(new auto(WrittenBy<Format>(effects)));
 }
 
-nlohmann::json WriteEffectsDom(const HandWrittenEffect::List& effects)
+void AddWrite(const std::string& title, MakeList list)
 {
-    nlohmann::json dom = nlohmann::json::array();
-    auto& list = dom.get_ref<nlohmann::json::array_t&>();
-    list.reserve(effects.size());
-    for (const std::shared_ptr<HandWrittenEffect>& effect : effects)
-    {
-        HandWrittenEffect::WriteDomWithId(list.emplace_back(), *effect);
-    }
-    return dom;
+    Row row(title);
+    row.Add(LIBRARY, [=] { return [&effects = list().effects] { return WriteEffects(effects); }; });
+    row.Add(HAND_WRITTEN, [=] { return [&effects = list().handWritten] { return HandWriteEffects(effects); }; });
+    ForEachPeer([&]<class Format>(const char* variant)
+                { row.Add(variant, [=] { return [&effects = list().handWritten] { return WrittenBy<Format>(effects); }; }); });
 }
 
-HandWrittenEffect::List ReadEffectsDom(const nlohmann::json& dom)
+void AddRead(const std::string& title, MakeList list)
 {
-    HandWrittenEffect::List effects;
-    effects.reserve(dom.size());
-    for (const nlohmann::json& element : dom)
-    {
-        effects.push_back(HandWrittenEffect::ReadDomWithId(element));
-    }
-    return effects;
+    Row row(title);
+    row.Add(LIBRARY, [=] { return [&tree = list().tree] { return ReadEffects(tree); }; });
+    row.Add(HAND_WRITTEN, [=] { return [&tree = list().tree] { return HandReadEffects(tree); }; });
+    ForEachPeer(
+        [&]<class Format>(const char* variant)
+        {
+            row.Add(variant,
+                    [=] {
+                        return [document = SharedDocument<Format>(list().handWritten)]
+                        { return ReadPeerEffects<Format>(document->Top()); };
+                    });
+        });
+}
+
+void AddCopy(const std::string& title, MakeList list)
+{
+    Row row(title);
+    row.Add(LIBRARY, [=] { return [&tree = list().tree] { return PropertyTree(tree); }; });
+    ForEachPeer(
+        [&]<class Format>(const char* variant)
+        {
+            using Document = typename Format::Document;
+            row.Add(variant,
+                    [=]
+                    {
+                        return [source = SharedDocument<Format>(list().handWritten)]
+                        { return Filled<Document>([&](Document& document) { document.Copy(*source); }); };
+                    });
+        });
+}
+
+void AddDestruction(const std::string& title, MakeList list)
+{
+    Row row(title);
+    row.AddDestruction<PropertyTree>(
+        LIBRARY, [=] { return [&effects = list().effects](PropertyTree& tree) { tree = WriteEffects(effects); }; });
+    ForEachPeer(
+        [&]<class Format>(const char* variant)
+        {
+            using Document = typename Format::Document;
+            row.AddDestruction<Document>(
+                variant,
+                [=] { return [&effects = list().handWritten](Document& document) { WritePeerEffects(document, effects); }; });
+        });
 }
 
 } // namespace
 
 void AddListComparisons()
 {
-    IEffectSettings::List effects;
-    HandWrittenEffect::List handWritten;
-    for (const std::unique_ptr<Proc::Settings>& record : FullRecords(EFFECT_COUNT))
-    {
-        effects.push_back(IEffectSettings::CreateEffectSettings(record->GetClassId()));
-        effects.back()->SetEffectSettings(*record);
-        handWritten.push_back(HandWrittenEffect::CreateFrom(*record));
-    }
-    const PropertyTree tree = WriteEffects(effects);
-    const nlohmann::json dom = WriteEffectsDom(handWritten);
-    const std::string text = WriteJson(tree);
-
-    AddComparison(
-        "write 1,000 effects", [effects] { return WriteEffects(effects); },
-        [handWritten] { return HandWriteEffects(handWritten); }, [handWritten] { return WriteEffectsDom(handWritten); });
-    AddComparison(
-        "read 1,000 effects", [tree] { return ReadEffects(tree); }, [tree] { return HandReadEffects(tree); },
-        [dom] { return ReadEffectsDom(dom); });
-    AddComparison(
-        "copy tree of 1,000 effects", [tree] { return PropertyTree(tree); }, [tree] { return PropertyTree(tree); },
-        [dom] { return nlohmann::json(dom); });
-    AddComparison(
-        "JSON text of 1,000 effects", [tree] { return WriteJson(tree); }, [tree] { return HandWriteJson(tree); },
-        [dom] { return dom.dump(); });
-    AddComparison(
-        "JSON text to 1,000 effects", [text] { return ReadJson(text); }, [text] { return HandReadJson(text); },
-        [text] { return nlohmann::json::parse(text); });
+    AddWrite("write 1,000 effects", MixedEffects);
+    AddRead("read 1,000 effects", MixedEffects);
+    AddCopy("copy tree of 1,000 effects", MixedEffects);
+    AddDestruction("destroy tree of 1,000 effects", MixedEffects);
+    AddWrite("write 1,000 with faces", EffectsWithFaces);
+    AddRead("read 1,000 with faces", EffectsWithFaces);
+    AddCopy("copy tree of 1,000 with faces", EffectsWithFaces);
 }
 
 } // namespace Ombrel::Benchmarks

@@ -182,7 +182,7 @@ Proc::SettingsEffectAdjuster SparseAdjuster()
     return record;
 }
 
-std::vector<std::unique_ptr<Proc::Settings>> FullRecords(std::size_t count)
+std::vector<std::unique_ptr<Proc::Settings>> FullRecords(std::size_t count, Faces faces)
 {
     std::vector<std::unique_ptr<Proc::Settings>> records;
     for (int seed = 0; records.size() < count; ++seed)
@@ -195,7 +195,10 @@ std::vector<std::unique_ptr<Proc::Settings>> FullRecords(std::size_t count)
         records.push_back(Own(FullColorBalanceAuto(seed)));
         records.push_back(Own(FullDetailsEnhance(seed)));
         records.push_back(Own(FullEmpty(seed)));
-        records.push_back(Own(FullFaceThinning(seed)));
+        if (faces == Faces::With)
+        {
+            records.push_back(Own(FullFaceThinning(seed)));
+        }
         records.push_back(Own(FullGradient(seed)));
         records.push_back(Own(FullNegateVideo(seed)));
         records.push_back(Own(FullSmartBlur(seed)));

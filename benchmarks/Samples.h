@@ -17,9 +17,15 @@ Proc::SettingsEffectAdjuster FullAdjuster(int seed = 0);
 /// Two plain values differ from their defaults.
 Proc::SettingsEffectAdjuster SparseAdjuster();
 
-/// Records of thirteen effects in turn, with fields of every kind but effects, in which every value differs from its default:
-/// a gradient of 8 colours, a trace of 10 points, the outline of a face of 200.
-std::vector<std::unique_ptr<Proc::Settings>> FullRecords(std::size_t count);
+enum class Faces
+{
+    Without,
+    With,
+};
+
+/// Records of twelve effects in turn, or of thirteen with the one that has a face, with fields of every kind but effects, in
+/// which every value differs from its default: a gradient of 8 colours, a trace of 10 points, the outline of a face of 200.
+std::vector<std::unique_ptr<Proc::Settings>> FullRecords(std::size_t count, Faces faces);
 
 } // namespace Ombrel::Benchmarks
 

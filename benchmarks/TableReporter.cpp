@@ -1,10 +1,10 @@
 #include "TableReporter.h"
 
 #include "Comparison.h"
-#include "Goals.h"
+#include "TableText.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <functional>
 #include <iomanip>
 #include <ostream>
 #include <sstream>
@@ -14,8 +14,6 @@ namespace Ombrel::Benchmarks
 {
 namespace
 {
-
-using Row = std::vector<std::string>;
 
 constexpr const char* UNKNOWN = "-"; // of a variant that was filtered out
 
@@ -46,63 +44,50 @@ double Spread(const std::vector<double>& values)
     return (Quantile(values, 0.75) - Quantile(values, 0.25)) / Median(values);
 }
 
-std::string Formatted(const char* format, double value)
+double NanosecondsOf(const benchmark::BenchmarkReporter::Run& run)
 {
-    char buffer[64];
-    std::snprintf(buffer, sizeof(buffer), format, value);
-    return buffer;
+    return run.cpu_accumulated_time / static_cast<double>(run.iterations) * 1e9;
 }
 
-/// Three significant digits, but two below 0.1.
-std::string FigureText(double value)
+std::pair<std::string, std::string> TitleAndVariant(const std::string& name)
 {
-    if (value < 0.0995)
-    {
-        return Formatted("%.2g", value);
-    }
-    return Formatted(value < 9.995 ? "%.2f" : value < 99.95 ? "%.1f" : "%.0f", value);
+    const std::size_t slash = name.rfind('/');
+    return {name.substr(0, slash), name.substr(slash + 1)};
 }
 
-std::string TimeText(double nanoseconds)
+/// A line for each title, a column for each variant from `firstVariant` on. Lines without a figure are left out.
+void PrintTable(std::ostream& out, const char* heading, std::size_t firstVariant, const std::vector<std::string>& titles,
+                const std::function<std::string(const std::string& title, const std::string& variant)>& cellOf)
 {
-    const char* unit = " ns";
-    double value = nanoseconds;
-    for (const char* larger : {" us", " ms", " s"})
+    std::vector<TableRow> rows{{heading}};
+    rows.front().insert(rows.front().end(), std::begin(VARIANTS) + firstVariant, std::end(VARIANTS));
+    for (const std::string& title : titles)
     {
-        if (value < 999.5)
+        TableRow row{title};
+        for (std::size_t i = firstVariant; i < std::size(VARIANTS); ++i)
         {
-            break;
+            row.push_back(cellOf(title, VARIANTS[i]));
         }
-        value /= 1000;
-        unit = larger;
+        if (std::any_of(row.begin() + 1, row.end(), [](const std::string& cell) { return cell != UNKNOWN; }))
+        {
+            rows.push_back(std::move(row));
+        }
     }
-    return FigureText(value) + unit;
+    if (rows.size() > 1)
+    {
+        Print(out, rows);
+        out << '\n';
+    }
 }
 
-/// The title to the left, the figures to the right, as a table that Markdown takes as well.
-void Print(std::ostream& out, const std::vector<Row>& rows)
+/// The figure as text, if there is one.
+template <class Text> auto CellsFrom(const Figures& figures, Text text)
 {
-    std::vector<std::size_t> widths(rows.front().size());
-    for (const Row& row : rows)
+    return [&figures, text](const std::string& title, const std::string& variant)
     {
-        for (std::size_t i = 0; i < row.size(); ++i)
-        {
-            widths[i] = std::max(widths[i], row[i].size());
-        }
-    }
-    for (std::size_t line = 0; line < rows.size(); ++line)
-    {
-        for (std::size_t i = 0; i < widths.size(); ++i)
-        {
-            out << "| " << (i == 0 ? std::left : std::right) << std::setw(static_cast<int>(widths[i])) << rows[line][i] << ' ';
-        }
-        out << "|\n";
-        for (std::size_t i = 0; line == 0 && i < widths.size(); ++i)
-        {
-            out << '|' << std::string(widths[i] + 1, '-') << (i == 0 ? '-' : ':');
-        }
-        out << (line == 0 ? "|\n" : "");
-    }
+        const auto found = figures.find(title + '/' + variant);
+        return found == figures.end() ? UNKNOWN : text(found->second);
+    };
 }
 
 } // namespace
@@ -126,75 +111,57 @@ void TableReporter::ReportRuns(const std::vector<Run>& runs)
         {
             continue;
         }
-        const std::string& name = run.run_name.function_name;
-        const std::size_t slash = name.rfind('/');
-        const auto [entry, isNew] = m_lines.try_emplace(name.substr(0, slash));
+        const auto [title, variant] = TitleAndVariant(run.run_name.function_name);
+        const auto [entry, isNew] = m_lines.try_emplace(title);
         Line& line = entry->second;
         line.place = isNew ? run.family_index : std::min(line.place, run.family_index);
-        Result& result = line.variants[name.substr(slash + 1)];
-        result.nanoseconds.push_back(run.cpu_accumulated_time / static_cast<double>(run.iterations) * 1e9);
+        Result& result = line.variants[variant];
+        result.nanoseconds.push_back(NanosecondsOf(run));
         result.allocations = run.counters.at(ALLOCATIONS).value;
     }
 }
 
 void TableReporter::Finalize()
 {
-    std::vector<std::pair<std::string, Line>> lines(m_lines.begin(), m_lines.end());
-    std::ranges::sort(lines, {}, [](const auto& entry) { return entry.second.place; });
-
-    std::vector<Row> rows{{"operation", LIBRARY, HAND_WRITTEN, NLOHMANN, RAPIDJSON, "library / hand-written",
-                           "nlohmann / library", "RapidJSON / library", "allocations: library", HAND_WRITTEN, NLOHMANN}};
-    std::map<std::string, Figure> figures;
-    for (const auto& [title, line] : lines)
+    std::vector<std::pair<std::int64_t, std::string>> places;
+    Figures times;
+    Figures allocations;
+    for (const auto& [title, line] : m_lines)
     {
-        Row& row = rows.emplace_back(Row{title});
-        for (std::string& cell : CellsOf(line))
-        {
-            row.push_back(std::move(cell));
-        }
+        places.emplace_back(line.place, title);
         for (const auto& [variant, result] : line.variants)
         {
-            figures[title + '/' + variant] = {Median(result.nanoseconds), result.allocations};
+            times[title + '/' + variant] = Median(result.nanoseconds);
+            allocations[title + '/' + variant] = result.allocations;
         }
     }
-    PrintRounds();
-    Print(GetOutputStream(), rows);
-    GetOutputStream() << '\n';
-    PrintGoals(GetOutputStream(), figures);
-}
-
-const TableReporter::Result* TableReporter::Line::Find(const std::string& variant) const
-{
-    const auto found = variants.find(variant);
-    return found == variants.end() ? nullptr : &found->second;
-}
-
-std::string TableReporter::Line::Ratio(const std::string& dividend, const std::string& divisor) const
-{
-    const Result* top = Find(dividend);
-    const Result* bottom = Find(divisor);
-    return top && bottom ? FigureText(Median(top->nanoseconds) / Median(bottom->nanoseconds)) : UNKNOWN;
-}
-
-std::vector<std::string> TableReporter::CellsOf(const Line& line) const
-{
-    Row times;
-    Row allocations;
-    for (const char* variant : {LIBRARY, HAND_WRITTEN, NLOHMANN, RAPIDJSON})
+    std::ranges::sort(places);
+    std::vector<std::string> titles;
+    for (auto& [place, title] : places)
     {
-        const Result* result = line.Find(variant);
-        times.push_back(result ? TimeText(Median(result->nanoseconds)) : UNKNOWN);
-        if (variant != RAPIDJSON) // it has an allocator of its own, which is not counted
-        {
-            allocations.push_back(result ? Formatted("%.0f", result->allocations) : UNKNOWN);
-        }
+        titles.push_back(std::move(title));
     }
-    Row cells = std::move(times);
-    cells.push_back(line.Ratio(LIBRARY, HAND_WRITTEN));
-    cells.push_back(line.Ratio(NLOHMANN, LIBRARY));
-    cells.push_back(line.Ratio(RAPIDJSON, LIBRARY));
-    cells.insert(cells.end(), allocations.begin(), allocations.end());
-    return cells;
+    std::vector<std::string> titlesOfBytes;
+    for (const auto& [name, bytes] : m_bytes)
+    {
+        titlesOfBytes.push_back(TitleAndVariant(name).first);
+    }
+    titlesOfBytes.erase(std::unique(titlesOfBytes.begin(), titlesOfBytes.end()), titlesOfBytes.end());
+
+    const auto ratio = [&times](const std::string& title, const std::string& variant) -> std::string
+    {
+        const auto library = times.find(title + '/' + LIBRARY);
+        const auto other = times.find(title + '/' + variant);
+        return library == times.end() || other == times.end() ? UNKNOWN : FigureText(library->second / other->second);
+    };
+    std::ostream& out = GetOutputStream();
+    const auto count = [](double value) { return Formatted("%.0f", value); };
+    PrintRounds();
+    PrintTable(out, "time", 0, titles, CellsFrom(times, TimeText));
+    PrintTable(out, "library's time / that of", 1, titles, ratio);
+    PrintTable(out, "allocations", 0, titles, CellsFrom(allocations, count));
+    PrintTable(out, "memory", 0, titlesOfBytes, CellsFrom(m_bytes, count));
+    PrintGoals(out, {times, allocations, m_bytes});
 }
 
 void TableReporter::PrintRounds() const
@@ -214,6 +181,19 @@ void TableReporter::PrintRounds() const
         GetOutputStream() << rounds << " rounds; the middle half of them spans " << Formatted("%.0f", Median(spreads) * 100)
                           << " % of the median time as a rule and " << Formatted("%.0f", std::ranges::max(spreads) * 100)
                           << " % at most.\n\n";
+    }
+}
+
+bool TimesReporter::ReportContext(const Context&)
+{
+    return true;
+}
+
+void TimesReporter::ReportRuns(const std::vector<Run>& runs)
+{
+    for (const Run& run : runs)
+    {
+        GetOutputStream() << run.run_name.function_name << '\t' << NanosecondsOf(run) << '\n';
     }
 }
 

@@ -1,6 +1,6 @@
 #include "Comparison.h"
-#include "HandWritten.h"
-#include "Samples.h"
+#include "Memory.h"
+#include "Proc/EffectSettings/IEffectSettings.h"
 #include "TableReporter.h"
 
 #include <benchmark/benchmark.h>
@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <iostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace
@@ -34,14 +35,41 @@ void RequireCountedLibrary()
     }
 }
 
+// An option of this program itself: its value, or null if the argument is another.
+const char* ValueOf(const char* argument, std::string_view option)
+{
+    return std::string_view(argument).starts_with(option) ? argument + option.size() : nullptr;
+}
+
 } // namespace
 
+// Beside the options of Google Benchmark:
+//
+//   --times              prints no tables, but the time of each run in a line
+//   --count=BENCHMARK    measures nothing, but runs this one ten times where callgrind can count its instructions
 int main(int argc, char** argv)
 {
     // What the caller says comes last and wins.
     std::vector<std::string> options{argv[0]};
     options.insert(options.end(), DEFAULT_OPTIONS, std::end(DEFAULT_OPTIONS));
-    options.insert(options.end(), argv + 1, argv + argc);
+    bool printsTimes = false;
+    std::string counted;
+    for (int i = 1; i < argc; ++i)
+    {
+        if (const char* name = ValueOf(argv[i], "--count="))
+        {
+            counted = name;
+            options.push_back("--benchmark_filter=^" + counted + '$');
+        }
+        else if (std::string_view(argv[i]) == "--times")
+        {
+            printsTimes = true;
+        }
+        else
+        {
+            options.emplace_back(argv[i]);
+        }
+    }
     std::vector<char*> arguments;
     for (std::string& option : options)
     {
@@ -59,8 +87,15 @@ int main(int argc, char** argv)
     RequireCountedLibrary();
     Benchmarks::AddEffectComparisons();
     Benchmarks::AddListComparisons();
+    Benchmarks::AddTextComparisons();
+    if (!counted.empty())
+    {
+        return Benchmarks::RunMeasured(counted, 10) ? EXIT_SUCCESS : EXIT_FAILURE;
+    }
 
-    Benchmarks::TableReporter reporter;
+    Benchmarks::TableReporter tables(printsTimes ? Benchmarks::Figures() : Benchmarks::MeasureMemory());
+    Benchmarks::TimesReporter times;
+    benchmark::BenchmarkReporter& reporter = printsTimes ? static_cast<benchmark::BenchmarkReporter&>(times) : tables;
     const std::size_t runCount = benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();
     return runCount == 0 ? EXIT_FAILURE : EXIT_SUCCESS;
