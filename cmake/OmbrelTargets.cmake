@@ -28,6 +28,12 @@ if(OMBREL_LINKER_HAS_VERSION_SCRIPTS)
   list(APPEND OMBREL_SHARED_LINK_OPTIONS -Wl,--version-script=${OMBREL_EXPORTS})
 endif()
 
+# What nobody calls is left out.
+check_linker_flag(CXX "-Wl,--gc-sections" OMBREL_LINKER_COLLECTS_SECTIONS)
+if(OMBREL_LINKER_COLLECTS_SECTIONS)
+  list(APPEND OMBREL_SHARED_LINK_OPTIONS -Wl,--gc-sections)
+endif()
+
 # What is loaded into a program refers to nothing that no library on its list has.
 if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
   check_linker_flag(CXX "-Wl,-z,defs" OMBREL_LINKER_KNOWS_DEFS)
@@ -59,6 +65,8 @@ function(ombrel_defaults target)
   # Without it a library that instantiates a template's static can never be unloaded.
   target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
   ombrel_harden(${target})
+  # Each function has a section of its own, so that a linker can leave out what nobody calls.
+  target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-ffunction-sections$<SEMICOLON>-fdata-sections>)
   # What is handed out names no folder of the machine that built it, in its debug information either. Where one folder stands
   # in the other the later option holds.
   foreach(folder IN ITEMS ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})

@@ -19,8 +19,6 @@ public:
     bool IsEmpty() const override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectBalanceLuma, BalanceLumaSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

@@ -23,8 +23,6 @@ private:
     void Add(const CropSettings& other) override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectCrop, CropSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

@@ -17,8 +17,6 @@ public:
     const std::string& GetClassId() const override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectDenoiseOvercompleteWavelet, DenoiseOvercompleteWaveletSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

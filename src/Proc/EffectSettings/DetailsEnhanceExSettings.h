@@ -16,8 +16,6 @@ public:
     const std::string& GetClassId() const override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectDetailsEnhanceEx, DetailsEnhanceExSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

@@ -17,8 +17,6 @@ public:
     const std::string& GetClassId() const override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectDirectionalAreaDeformation, DirectionalAreaDeformationSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

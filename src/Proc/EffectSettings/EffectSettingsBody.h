@@ -3,7 +3,6 @@
 
 #include "Proc/EffectSettings/EffectSettingsImpl.h"
 #include "Proc/Reflection/PropertyAccess.h"
-#include "Proc/Settings/Settings.h"
 
 #include <cstddef>
 #include <memory>
@@ -30,11 +29,6 @@ template <class Record, class Derived> const Proc::RecordSchema* EffectSettingsI
     {
         return &Proc::Reflected<Record>::Schema();
     }
-}
-
-template <class Record, class Derived> const std::string& EffectSettingsImpl<Record, Derived>::GetClassId() const
-{
-    return settings.Record::GetClassId();
 }
 
 template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>::Serialize(PropertyTree& tree) const
@@ -93,38 +87,6 @@ std::unique_ptr<PhotoUtil::ISerializableBase::IPropertyAccess> EffectSettingsImp
     }
 }
 
-template <class Record, class Derived> std::shared_ptr<IEffectSettings> EffectSettingsImpl<Record, Derived>::Clone() const
-{
-    return std::make_shared<Derived>(static_cast<const Derived&>(*this));
-}
-
-template <class Record, class Derived> const Proc::Settings& EffectSettingsImpl<Record, Derived>::GetEffectSettings() const
-{
-    return settings;
-}
-
-template <class Record, class Derived> Proc::Settings& EffectSettingsImpl<Record, Derived>::GetEffectSettingsRef()
-{
-    return settings;
-}
-
-template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>::SetEffectSettings(const Proc::Settings& other)
-{
-    settings = dynamic_cast<const Record&>(other);
-}
-
-template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>::Add(const IEffectSettings& other)
-{
-    Add(dynamic_cast<const Derived&>(other));
-}
-
-template <class Record, class Derived> bool EffectSettingsImpl<Record, Derived>::operator==(const IEffectSettings& other) const
-{
-    const std::string& id = settings.Record::GetClassId();
-    const std::string& otherId = other.GetEffectSettings().GetClassId();
-    return (&otherId == &id || otherId == id) && operator==(dynamic_cast<const Derived&>(other));
-}
-
 template <class Record, class Derived> bool EffectSettingsImpl<Record, Derived>::operator==(const Derived& other) const
 {
     if constexpr (requires { settings == settings; })
@@ -136,8 +98,6 @@ template <class Record, class Derived> bool EffectSettingsImpl<Record, Derived>:
         return Proc::Reflected<Record>::Equal(settings, other.GetTypedSettings());
     }
 }
-
-template <class Record, class Derived> void EffectSettingsImpl<Record, Derived>::Add(const Derived&) {}
 
 } // namespace Ombrel::PhotoCore
 

@@ -26,8 +26,6 @@ public:
     bool IsEmpty() const override;
 };
 
-extern template class EffectSettingsImpl<SettingsEffectMaskBlender, EffectsPackageWithBrushSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

@@ -33,8 +33,6 @@ public:
     }
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectEmpty, EmptySettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

@@ -23,8 +23,6 @@ public:
     const std::string& GetClassId() const override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectFaceThinning, FaceThinningSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

@@ -23,8 +23,6 @@ private:
     void Add(const FlipSettings& other) override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectFlip, FlipSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

@@ -16,8 +16,6 @@ public:
     const std::string& GetClassId() const override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectGIMPColorTemperature, GIMPColorTemperatureSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

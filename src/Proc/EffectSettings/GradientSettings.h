@@ -22,8 +22,6 @@ public:
     const std::string& GetClassId() const override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectGradient, GradientSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

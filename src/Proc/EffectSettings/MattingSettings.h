@@ -15,8 +15,6 @@ public:
     const std::string& GetClassId() const override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectMatting, MattingSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

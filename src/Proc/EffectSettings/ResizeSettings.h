@@ -91,8 +91,6 @@ private:
     mutable double m_scaleFactor = 1.0;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsResizer, ResizeSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

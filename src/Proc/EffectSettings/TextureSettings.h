@@ -22,8 +22,6 @@ public:
     const std::string& GetClassId() const override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectTexture, TextureSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

@@ -102,8 +102,6 @@ private:
     std::vector<Row> m_effectRows;
 };
 
-extern template class EffectSettingsImpl<TileSettingsStub, TileSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

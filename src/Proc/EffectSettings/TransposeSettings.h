@@ -28,8 +28,6 @@ public:
     void Add(const TransposeSettings& other) override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectTranspose, TransposeSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

@@ -18,8 +18,6 @@ public:
     bool IsEmpty() const override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectVibrance, VibranceSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

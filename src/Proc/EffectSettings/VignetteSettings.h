@@ -15,8 +15,6 @@ public:
     const std::string& GetClassId() const override;
 };
 
-extern template class EffectSettingsImpl<Proc::SettingsEffectVignette, VignetteSettings>;
-
 } // namespace Ombrel::PhotoCore
 
 #endif

@@ -24,6 +24,4 @@ public:
 
 } // namespace Studio
 
-extern template class Ombrel::PhotoCore::EffectSettingsImpl<Studio::SettingsEffectFrame, Studio::FrameSettings>;
-
 #endif
