@@ -10,7 +10,7 @@ import gdb
 import gdb.printing
 
 SCALAR_BOOL, SCALAR_INTEGER, SCALAR_FLOAT, SCALAR_STRING = 1, 2, 3, 4
-STATE_NULL, STATE_MAP, STATE_LIST = 0, 5, 6
+STATE_NULL, STATE_MAP, STATE_LIST, STATE_GAP = 0, 5, 6, 7
 
 
 def text_of(string):
@@ -35,8 +35,12 @@ def quoted(text):
     return '"' + "".join(escapes.get(c, c if c.isprintable() else "\\x%02x" % ord(c)) for c in text) + '"'
 
 
+def without_marks(state):
+    return int(state) & 0xFF
+
+
 def scalar_text(scalar):
-    kind = int(scalar["m_kind"])
+    kind = without_marks(scalar["m_kind"])
     bits = int(scalar["m_bits"])
     if kind == SCALAR_BOOL:
         return "true" if bits else "false"
@@ -45,50 +49,40 @@ def scalar_text(scalar):
     if kind == SCALAR_FLOAT:
         return repr(struct.unpack("=d", struct.pack("=Q", bits))[0])
     if kind == SCALAR_STRING:
-        return quoted(text_of(scalar["m_text"]))
+        return quoted(text_of(scalar["m_text"].dereference()))
     return "invalid scalar of kind %d" % kind
 
 
 def entries(tree_map):
     """The keys and children of a map in key order.
 
-    A program that never looks at an entry has no type for it, and the types of the index are in the library. So entries are
-    found by the size of their two parts, and the index is read as words.
+    A program that never looks at an entry has no type for it. So entries are found by the size of their two parts. With an
+    index they are in any order in the blocks, and free slots are marked as the gaps are.
     """
     root = tree_map["m_root"]
     if not root:
-        return
+        return []
     tree_type = gdb.lookup_type("Ombrel::PropertyTree")
     scalar_pointer = gdb.lookup_type("Ombrel::PropertyTreeScalar").pointer()
-    key_type = gdb.Value(0).cast(scalar_pointer)["m_text"].type  # it is in an anonymous union
-    alignment = tree_type.alignof
-    child_offset = -(-key_type.sizeof // alignment) * alignment
-    entry_size = child_offset + tree_type.sizeof
-    word = root["index"].type.sizeof
-    size_type = root["size"].type
+    text_pointer = gdb.Value(0).cast(scalar_pointer)["m_text"].type  # it is in an anonymous union
+    child_offset = -(-text_pointer.sizeof // tree_type.alignof) * tree_type.alignof
 
-    def words(address, count):
-        pointer = gdb.Value(address).cast(size_type.pointer())
-        return [int(pointer[i]) for i in range(count)]
+    def entries_in(slots, count):
+        for slot in range(int(count)):
+            address = slots + slot * (child_offset + tree_type.sizeof)
+            child = gdb.Value(address + child_offset).cast(tree_type.pointer()).dereference()
+            if without_marks(child["m_null"]["state"]) != STATE_GAP:
+                yield gdb.Value(address).cast(text_pointer.pointer()).dereference().dereference(), child
 
-    def entry_at(address):
-        key = gdb.Value(address).cast(key_type.pointer()).dereference()
-        return key, gdb.Value(address + child_offset).cast(tree_type.pointer()).dereference()
-
-    if root["index"]:
-        leaves, leaves_in_use = words(int(root["index"]), 2)
-        for leaf in range(leaves_in_use):
-            places, _heads, count, _capacity = words(leaves + leaf * 4 * word, 4)
-            for place in range(count):
-                yield entry_at(words(places + place * word, 1)[0])
-        return
-    gaps = int(root["gaps"])
-    slot = int(root) + root.type.target().sizeof + int(root["capacity"]) * 8  # behind the heads of the keys
-    while slot != int(root["end"]):
-        if not gaps & 1:
-            yield entry_at(slot)
-        gaps >>= 1
-        slot += entry_size
+    first_slots = int(root) + root.type.target().sizeof
+    if not root["index"]:
+        return list(entries_in(first_slots, root["used"]))
+    found = list(entries_in(first_slots, root["capacity"]))
+    block = root["index"]["next"]
+    while block:
+        found += entries_in(int(block) + block.type.target().sizeof, block["capacity"])
+        block = block["next"]
+    return sorted(found, key=lambda entry: text_of(entry[0]).encode("utf-8", "surrogateescape"))
 
 
 def size_of_map(tree_map):
@@ -128,29 +122,25 @@ class TreeContainerPrinter:
 
     def __init__(self, value):
         self.value = value
-        self.is_map = int(value["m_null"]["state"]) == STATE_MAP
-
-    def content(self):
-        return self.value["m_map" if self.is_map else "m_list"]["content"]
+        self.is_map = without_marks(value["m_null"]["state"]) == STATE_MAP
 
     def to_string(self):
         if self.is_map:
-            return "map of %d" % size_of_map(self.content())
+            return "map of %d" % size_of_map(self.value["m_map"]["content"])
         return "list of %d" % len(self.elements())
 
     def elements(self):
-        """The addresses of a list's elements, with libstdc++ or libc++."""
-        content = self.content()
-        names = [field.name for field in content.type.strip_typedefs().fields()]
-        if "__begin_" in names:
-            first, end = content["__begin_"], content["__end_"]
-        else:
-            first, end = content["_M_impl"]["_M_start"], content["_M_impl"]["_M_finish"]
+        """The addresses of a list's elements. Every usual vector begins with pointers to its first element and behind its last.
+
+        A program that only passes lists on has no type for the vector.
+        """
+        bounds = self.value["m_list"]["content"].cast(self.value.type.unqualified().pointer().pointer())
+        first, end = bounds[0], bounds[1]
         return [first + i for i in range(int(end - first))]
 
     def children(self):
         if self.is_map:
-            return map_children(self.content())
+            return map_children(self.value["m_map"]["content"])
         return (("[%d]" % i, element.dereference()) for i, element in enumerate(self.elements()))
 
     def display_hint(self):
@@ -164,12 +154,12 @@ class TreeScalarPrinter:
         self.value = value
 
     def to_string(self):
-        state = int(self.value["m_null"]["state"])
+        state = without_marks(self.value["m_null"]["state"])
         return "null" if state == STATE_NULL else scalar_text(self.value["m_scalar"])
 
 
 def tree_printer(value):
-    is_container = int(value["m_null"]["state"]) in (STATE_MAP, STATE_LIST)
+    is_container = without_marks(value["m_null"]["state"]) in (STATE_MAP, STATE_LIST)
     return TreeContainerPrinter(value) if is_container else TreeScalarPrinter(value)
 
 

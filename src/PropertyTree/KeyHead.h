@@ -41,9 +41,6 @@ constexpr std::uint64_t HeadOf(std::string_view key) noexcept
     return size == 0 ? 0 : head << missing;
 }
 
-/// With every usual standard library, a `std::string` of so many characters allocates nothing.
-inline constexpr std::size_t SHORT_KEY = 15;
-
 } // namespace Ombrel
 
 #endif

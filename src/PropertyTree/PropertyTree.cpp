@@ -15,7 +15,7 @@ namespace Ombrel
 
 // The state of a tree is read through `m_null` whichever member is active: the members are standard-layout structs with a
 // common initial sequence. So a scalar needs no wrapper, and a tree is no larger than one.
-static_assert(std::is_standard_layout_v<PropertyTree> && sizeof(PropertyTree) == sizeof(PropertyTreeScalar));
+static_assert(std::is_standard_layout_v<PropertyTree> && sizeof(PropertyTree) == 2 * sizeof(std::uint64_t));
 
 namespace
 {
@@ -127,9 +127,18 @@ private:
             return std::equal(a.getList().begin(), a.getList().end(), b.getList().begin(),
                               [&](const auto& left, const auto& right) { return AreEqual(left, right, depth + 1); });
         }
-        return std::equal(a.getMap().begin(), a.getMap().end(), b.getMap().begin(),
-                          [&](const auto& left, const auto& right)
-                          { return left.first == right.first && AreEqual(left.second, right.second, depth + 1); });
+        bool areEqual = true;
+        const auto compare = [&](auto left, auto right)
+        {
+            for (; areEqual && !left.IsAtEnd(); left.Next(), right.Next())
+            {
+                areEqual = (&left.Key() == &right.Key() || left.Key().text == right.Key().text) &&
+                           AreEqual(left.entry->second, right.entry->second, depth + 1);
+            }
+        };
+        PropertyTreeMapWalk::Through(a.getMap(), [&](auto left)
+                                     { PropertyTreeMapWalk::Through(b.getMap(), [&](auto right) { compare(left, right); }); });
+        return areEqual;
     }
 
     std::vector<std::pair<const PropertyTree*, const PropertyTree*>> m_pending;
@@ -153,43 +162,51 @@ public:
     }
 
 private:
+    // Most children are scalars without memory, which take no call.
+    void CopyChild(const PropertyTree& source, PropertyTree& target, int depth)
+    {
+        if (source.HoldsMemory())
+        {
+            Copy(source, target, depth);
+        }
+        else
+        {
+            target.CopyWords(source);
+        }
+    }
+
     // The pending targets do not move, since every container has room for all its children from the beginning.
     void Copy(const PropertyTree& source, PropertyTree& target, int depth)
     {
-        if (source.isScalar())
+        if (!source.isMap() && !source.isList())
         {
-            target = source.m_scalar;
+            target = source.isScalar() ? PropertyTree(source.m_scalar) : PropertyTree();
         }
-        else if (!source.isNull() && depth == RECURSION_LIMIT)
+        else if (depth == RECURSION_LIMIT)
         {
             m_pending.emplace_back(&source, &target);
         }
         else if (source.isList())
         {
-            List& list = target.makeList(source.m_list.content.size());
-            for (const PropertyTree& child : source.m_list.content)
+            const List& elements = *source.m_list.content;
+            List& list = target.makeList(elements.size());
+            for (const PropertyTree& child : elements)
             {
-                Copy(child, list.emplace_back(), depth + 1);
+                CopyChild(child, list.emplace_back(), depth + 1);
             }
         }
-        else if (source.isMap())
+        else
         {
-            CopyMap(source.m_map.content, target.makeMap(), depth + 1);
-        }
-    }
-
-    void CopyMap(const Map& source, Map& target, int depth)
-    {
-        PropertyTreeMapFiller copy(target, source.size());
-        PropertyTreeMapWalk::Through(source,
-                                     [&](auto walk)
-                                     {
-                                         for (; !walk.IsAtEnd(); walk.Next())
+            PropertyTreeMapFiller copy(target.makeMap(), source.m_map.content.size());
+            PropertyTreeMapWalk::Through(source.m_map.content,
+                                         [&](auto walk)
                                          {
-                                             const auto& [key, child] = *walk.entry;
-                                             Copy(child, copy.Append(key, walk.Head()), depth);
-                                         }
-                                     });
+                                             for (; !walk.IsAtEnd(); walk.Next())
+                                             {
+                                                 CopyChild(walk.entry->second, copy.AppendCopy(walk.Key()), depth + 1);
+                                             }
+                                         });
+        }
     }
 
     std::vector<std::pair<const PropertyTree*, PropertyTree*>> m_pending;
@@ -203,14 +220,6 @@ PropertyTree::PropertyTree(const PropertyTree& other) : PropertyTree()
 PropertyTree& PropertyTree::operator=(const PropertyTree& other)
 {
     return *this = PropertyTree(other);
-}
-
-PropertyTree& PropertyTree::operator=(PropertyTree&& other) noexcept
-{
-    PropertyTree taken(std::move(other)); // first, since it may be a part of this tree
-    Clear();
-    Take(taken);
-    return *this;
 }
 
 void PropertyTree::swap(PropertyTree& other) noexcept
@@ -248,11 +257,11 @@ void PropertyTree::convertToMap() noexcept
     }
 }
 
-void PropertyTree::convertToList() noexcept
+void PropertyTree::convertToList()
 {
     if (!isList())
     {
-        SetList(List());
+        SetList(new List());
     }
 }
 
@@ -266,10 +275,10 @@ PropertyTree::Map& PropertyTree::makeMap(std::size_t count)
 
 PropertyTree::List& PropertyTree::makeList(std::size_t count)
 {
-    List list;
-    list.reserve(count);
-    SetList(std::move(list));
-    return m_list.content;
+    auto list = std::make_unique<List>();
+    list->reserve(count);
+    SetList(list.release());
+    return *m_list.content;
 }
 
 void PropertyTree::append(PropertyTree element)
@@ -297,31 +306,10 @@ void PropertyTree::SetMap(Map&& map) noexcept
     ::new (static_cast<void*>(&m_map)) MapNode{STATE_MAP, std::move(map)};
 }
 
-void PropertyTree::SetList(List&& list) noexcept
+void PropertyTree::SetList(List* list) noexcept
 {
     Clear();
-    ::new (static_cast<void*>(&m_list)) ListNode{STATE_LIST, std::move(list)};
-}
-
-// Moves the content of `other` into this tree, which must be null.
-void PropertyTree::Take(PropertyTree& other) noexcept
-{
-    if (other.isScalar())
-    {
-        std::construct_at(&m_scalar, std::move(other.m_scalar));
-        std::destroy_at(&other.m_scalar);
-    }
-    else if (other.isMap())
-    {
-        SetMap(std::move(other.m_map.content));
-        std::destroy_at(&other.m_map);
-    }
-    else if (other.isList())
-    {
-        SetList(std::move(other.m_list.content));
-        std::destroy_at(&other.m_list);
-    }
-    std::construct_at(&other.m_null);
+    ::new (static_cast<void*>(&m_list)) ListNode{STATE_LIST, list};
 }
 
 // Destroys the content and leaves the tree without a state: the caller must set one.
@@ -338,11 +326,11 @@ void PropertyTree::Release(int depth) noexcept
     }
     if (isList())
     {
-        for (PropertyTree& element : m_list.content)
+        for (PropertyTree& element : *m_list.content)
         {
             element.Clear(depth + 1);
         }
-        std::destroy_at(&m_list);
+        delete m_list.content;
     }
     else
     {

@@ -8,6 +8,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <iterator>
 #include <new>
 #include <string_view>
@@ -41,16 +42,10 @@ public:
     using Map = PropertyTreeMap;
     using List = std::vector<PropertyTree>;
 
-    PropertyTree() noexcept : m_null{STATE_NULL} {}
+    PropertyTree() noexcept : m_null{} {}
     PropertyTree(const PropertyTree& other);
 
-    PropertyTree(PropertyTree&& other) noexcept : PropertyTree()
-    {
-        if (!other.isNull())
-        {
-            Take(other);
-        }
-    }
+    PropertyTree(PropertyTree&& other) noexcept : PropertyTree() { Take(other); }
 
     PropertyTree(PropertyTreeScalar scalar) noexcept : m_scalar(std::move(scalar)) {}
 
@@ -75,7 +70,14 @@ public:
     }
 
     PropertyTree& operator=(const PropertyTree& other);
-    PropertyTree& operator=(PropertyTree&& other) noexcept;
+
+    PropertyTree& operator=(PropertyTree&& other) noexcept
+    {
+        PropertyTree taken(std::move(other)); // first, since it may be a part of this tree
+        Clear();
+        Take(taken);
+        return *this;
+    }
 
     template <class T>
     requires(std::constructible_from<PropertyTreeScalar, T> &&
@@ -92,7 +94,11 @@ public:
     friend void swap(PropertyTree& a, PropertyTree& b) noexcept { a.swap(b); }
 
     bool isNull() const noexcept { return State() == STATE_NULL; }
-    bool isScalar() const noexcept { return State() != STATE_NULL && State() <= STATE_TEXT; }
+    bool isScalar() const noexcept
+    {
+        return (State() & PropertyTreeScalar::KIND) - 1 < STATE_TEXT; // null wraps around
+    }
+
     bool isMap() const noexcept { return State() == STATE_MAP; }
     bool isList() const noexcept { return State() == STATE_LIST; }
 
@@ -135,7 +141,7 @@ public:
         {
             Refuse("a list");
         }
-        return m_list.content;
+        return *m_list.content;
     }
 
     const List& getList() const { return const_cast<PropertyTree&>(*this).getList(); }
@@ -155,7 +161,8 @@ public:
     void convertToMap() noexcept;
 
     /// Makes the tree a list: a list keeps its elements, any other state becomes an empty list.
-    void convertToList() noexcept;
+    /// @throws std::bad_alloc; the tree is then unchanged
+    void convertToList();
 
     /// Makes the tree an empty map with room for `count` entries, whatever it held.
     /// @throws std::length_error as `Map::reserve`; the tree is then unchanged, as it is when memory is missing
@@ -176,32 +183,40 @@ private:
     friend Map;
     class Copying;
 
-    // The state of a scalar is the number of its kind.
-    static constexpr std::uint8_t STATE_NULL = 0;
-    static constexpr std::uint8_t STATE_TEXT = static_cast<std::uint8_t>(PropertyTreeScalar::Kind::String);
-    static constexpr std::uint8_t STATE_MAP = STATE_TEXT + 1;
-    static constexpr std::uint8_t STATE_LIST = STATE_TEXT + 2;
+    // The state of a scalar is the number of its kind, with a mark if its text is a known one.
+    static constexpr std::uint64_t STATE_NULL = 0;
+    static constexpr std::uint64_t STATE_TEXT = PropertyTreeScalar::Number(PropertyTreeScalar::Kind::String);
+    static constexpr std::uint64_t STATE_MAP = STATE_TEXT + 1;
+    static constexpr std::uint64_t STATE_LIST = STATE_TEXT + 2;
+    static constexpr std::uint64_t STATE_GAP = STATE_TEXT + 3; // what the map leaves in the place of an erased child
 
     struct Null
     {
-        std::uint8_t state;
+        std::uint64_t state = STATE_NULL;
+        std::uint64_t nothing = 0; // so that a tree may be copied word by word whatever it holds
     };
 
     struct MapNode
     {
-        std::uint8_t state;
+        std::uint64_t state;
         Map content;
     };
 
     struct ListNode
     {
-        std::uint8_t state;
-        List content;
+        std::uint64_t state;
+        List* content;
+    };
+
+    struct Gap
+    {
+        std::uint64_t state;
+        std::size_t length; // in the first and the last gap of a row, how many gaps the row has
     };
 
     // Every member begins with the state, which may therefore be read through any of them.
-    std::uint8_t State() const noexcept { return m_null.state; }
-    bool HoldsMemory() const noexcept { return State() >= STATE_TEXT; }
+    std::uint64_t State() const noexcept { return m_null.state; }
+    bool HoldsMemory() const noexcept { return State() - STATE_TEXT <= STATE_LIST - STATE_TEXT; }
 
     [[noreturn]] void Refuse(const char* expected) const;
 
@@ -212,12 +227,35 @@ private:
         {
             Release(depth);
         }
-        ::new (static_cast<void*>(&m_null)) Null{STATE_NULL};
+        ::new (static_cast<void*>(&m_null)) Null{};
+    }
+
+    // Makes this tree, which must hold no memory, the same bytes as `other`. Word by word, since most trees were written word
+    // by word just before.
+    void CopyWords(const PropertyTree& other) noexcept
+    {
+        constexpr std::size_t word = sizeof(std::uint64_t);
+        std::uint64_t state;
+        std::uint64_t content;
+        std::memcpy(&state, &other, word);
+        std::memcpy(&content, reinterpret_cast<const char*>(&other) + word, word);
+        std::memcpy(static_cast<void*>(this), &state, word);
+        std::memcpy(reinterpret_cast<char*>(this) + word, &content, word);
+    }
+
+    // Moves the content of `other` into this tree, which must hold no memory, and leaves null.
+    void Take(PropertyTree& other) noexcept
+    {
+        CopyWords(other);
+        ::new (static_cast<void*>(&other.m_null)) Null{};
+        if (isMap())
+        {
+            m_map.content.OwnRoot();
+        }
     }
 
     OMBREL_LOCAL void SetMap(Map&& map) noexcept;
-    OMBREL_LOCAL void SetList(List&& list) noexcept;
-    void Take(PropertyTree& other) noexcept;
+    OMBREL_LOCAL void SetList(List* list) noexcept;
     void Release(int depth) noexcept;
 
     union
@@ -226,22 +264,61 @@ private:
         PropertyTreeScalar m_scalar;
         MapNode m_map;
         ListNode m_list;
+        Gap m_gap;
     };
 };
 
 // Members of the map that need the complete type of the children.
 
+inline auto PropertyTreeMap::rbegin() noexcept -> reverse_iterator
+{
+    return reverse_iterator(end());
+}
+inline auto PropertyTreeMap::rend() noexcept -> reverse_iterator
+{
+    return reverse_iterator(begin());
+}
+inline auto PropertyTreeMap::rbegin() const noexcept -> const_reverse_iterator
+{
+    return const_reverse_iterator(end());
+}
+inline auto PropertyTreeMap::rend() const noexcept -> const_reverse_iterator
+{
+    return const_reverse_iterator(begin());
+}
+inline auto PropertyTreeMap::crbegin() const noexcept -> const_reverse_iterator
+{
+    return rbegin();
+}
+inline auto PropertyTreeMap::crend() const noexcept -> const_reverse_iterator
+{
+    return rend();
+}
+
+/// Erases the entries for which `predicate` is true, and gives how many that were. If `predicate` throws, the entries that were
+/// erased before stay erased.
+template <class Predicate> PropertyTreeMap::size_type erase_if(PropertyTreeMap& map, Predicate predicate)
+{
+    const PropertyTreeMap::size_type before = map.size();
+    for (auto position = map.begin(); position != map.end();)
+    {
+        position = predicate(*position) ? map.erase(position) : std::next(position);
+    }
+    return before - map.size();
+}
+
 template <std::input_iterator It, std::sentinel_for<It> End> void PropertyTreeMap::insert(It first, End last)
 {
     for (; first != last; ++first)
     {
-        insert(value_type(*first));
+        const auto& [key, value] = *first;
+        try_emplace(key, value);
     }
 }
 
 template <class... Arguments> std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::emplace(Arguments&&... arguments)
 {
-    return insert(value_type(std::forward<Arguments>(arguments)...));
+    return insert(std::pair<const std::string, PropertyTree>(std::forward<Arguments>(arguments)...));
 }
 
 } // namespace Ombrel

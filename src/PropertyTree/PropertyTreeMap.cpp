@@ -5,7 +5,6 @@
 #include "PropertyTree/PropertyTreeMapIndex.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstdint>
 #include <limits>
 #include <memory>
@@ -17,51 +16,37 @@ namespace Ombrel
 namespace
 {
 
-constexpr std::size_t FIRST_CAPACITY = 4; // of a map that has reserved nothing
-
-constexpr std::uint32_t BitOf(std::size_t slot)
-{
-    return std::uint32_t{1} << slot;
-}
+constexpr std::size_t FIRST_CAPACITY = 4;    // of a map that has reserved nothing
+constexpr std::size_t FAR_FROM_EITHER = 256; // end of a row of gaps
 
 } // namespace
 
+PropertyTreeMap::Internals::KeyPointer PropertyTreeMap::Internals::MakeKey(const PropertyTreeKeyView& view)
+{
+    const KnownTexts* texts = KnownTexts::Get();
+    const PropertyTreeKey* known = texts ? texts->Find(view) : nullptr;
+    return KeyPointer(known ? known : new PropertyTreeKey{std::string(view.text), view.head}, {KnownTexts::Range(texts)});
+}
+
 PropertyTreeMap::Root* PropertyTreeMap::Internals::MakeRoot(size_type capacity, const PropertyTreeMap* owner)
 {
-    constexpr size_type bytesPerEntry =
-        sizeof(value_type) + sizeof(std::uint64_t) + sizeof(value_type*) + sizeof(Leaf); // or less
-    constexpr size_type most = std::min<size_type>(std::numeric_limits<difference_type>::max() / bytesPerEntry - bytesPerEntry,
+    constexpr size_type most = std::min<size_type>(std::numeric_limits<difference_type>::max() / sizeof(value_type) - 2,
                                                    std::numeric_limits<std::uint32_t>::max());
     if (capacity > most)
     {
         throw std::length_error("tree: a map of so many entries cannot be");
     }
-    const size_type bytes = sizeof(Root) + capacity * (sizeof(std::uint64_t) + sizeof(value_type)) + Index::RoomFor(capacity);
-    Root* root =
-        ::new (::operator new(bytes)) Root{0, static_cast<std::uint32_t>(capacity), 0, nullptr, nullptr, nullptr, owner};
-    root->end = root->Slots();
-    return root;
-}
-
-inline void PropertyTreeMap::Internals::DropLast(Root& root) noexcept
-{
-    value_type* last = root.end - 1;
-    if (root.gaps != 0)
-    {
-        last = NotBehind(root, last - 1) + 1;
-        root.gaps &= BitOf(static_cast<size_type>(last - root.Slots())) - 1;
-    }
-    std::destroy(last, root.end);
-    root.end = last;
-    --root.size;
+    return ::new (::operator new(sizeof(Root) + capacity * sizeof(value_type)))
+        Root{0, 0, static_cast<std::uint32_t>(capacity), nullptr, owner};
 }
 
 PropertyTreeMap::PropertyTreeMap(const PropertyTreeMap& other) : PropertyTreeMap()
 {
     PropertyTreeMapFiller copy(*this, other.size()); // if it fails, the destructor runs, as the default constructor is done
-    for (const auto& [key, child] : other)
+    for (const value_type& entry : other)
     {
-        copy.Append(key, HeadOf(key)) = child;
+        PropertyTree child = entry.second;
+        copy.AppendCopy(Internals::KeyOf(entry)) = std::move(child);
     }
 }
 
@@ -89,17 +74,15 @@ void PropertyTreeMap::reserve(size_type count)
         }
         return;
     }
-    if (count > m_root->capacity && count <= Index::LEAF_MAX)
+    if (count > m_root->capacity)
     {
-        Index* index = m_root->index ? m_root->index : Index::Make(*m_root, count);
-        index->Widen(count, m_root->blocks);
-        m_root->index = index;
+        Index::Of(*m_root).Reserve(count);
     }
 }
 
 bool PropertyTreeMap::contains(std::string_view key) const noexcept
 {
-    return Internals::Search(*this, key).isThere;
+    return Internals::Search(*this, PropertyTreeKeyView(key)).isThere;
 }
 
 PropertyTree& PropertyTreeMap::at(std::string_view key)
@@ -109,36 +92,32 @@ PropertyTree& PropertyTreeMap::at(std::string_view key)
 
 const PropertyTree& PropertyTreeMap::at(std::string_view key) const
 {
-    const Where where = Internals::Search(*this, key);
+    const Where where = Internals::Search(*this, PropertyTreeKeyView(key));
     if (!where.isThere)
     {
         throw std::out_of_range("invalid map<K, T> key");
     }
-    return Internals::EntryAt(*this, where).second;
+    return where.slot->second;
 }
 
 PropertyTree& PropertyTreeMap::operator[](std::string_view key)
 {
-    if (const std::uint64_t head = HeadOf(key); Internals::CanAppend(*this, key, head))
-    {
-        return Internals::Append(*m_root, head, Internals::SlotsInUse(*m_root), key).second;
-    }
-    return Internals::EntryAt(*this, Internals::FindOrInsert(*this, key)).second;
+    return Internals::FindOrInsert(*this, PropertyTreeKeyView(key)).slot->second;
 }
 
 std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::try_emplace(std::string_view key, PropertyTree&& value)
 {
-    const Where where = Internals::FindOrInsert(*this, key);
+    const Where where = Internals::FindOrInsert(*this, PropertyTreeKeyView(key));
     if (!where.isThere)
     {
-        Internals::EntryAt(*this, where).second = std::move(value);
+        where.slot->second = std::move(value);
     }
     return {iterator(Internals::At(*this, where)), !where.isThere};
 }
 
 std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::try_emplace(std::string_view key, const PropertyTree& value)
 {
-    if (const Where where = Internals::Search(*this, key); where.isThere)
+    if (const Where where = Internals::Search(*this, PropertyTreeKeyView(key)); where.isThere)
     {
         return {iterator(Internals::At(*this, where)), false};
     }
@@ -147,8 +126,8 @@ std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::try_emplace(std::str
 
 std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::insert_or_assign(std::string_view key, PropertyTree&& value)
 {
-    const Where where = Internals::FindOrInsert(*this, key);
-    Internals::EntryAt(*this, where).second = std::move(value);
+    const Where where = Internals::FindOrInsert(*this, PropertyTreeKeyView(key));
+    where.slot->second = std::move(value);
     return {iterator(Internals::At(*this, where)), !where.isThere};
 }
 
@@ -157,86 +136,73 @@ std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::insert_or_assign(std
     return insert_or_assign(key, PropertyTree(value));
 }
 
-std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::insert(value_type entry)
+std::pair<PropertyTreeMap::iterator, bool> PropertyTreeMap::insert(std::pair<const std::string, PropertyTree> entry)
 {
     return try_emplace(entry.first, std::move(entry.second));
 }
 
 PropertyTreeMap::iterator PropertyTreeMap::erase(const_iterator position) noexcept
 {
-    return iterator(Internals::EraseAt(*this, Internals::Locate(*this, position.m_position)));
+    const Position& where = position.m_position;
+    const bool hasIndex = m_root->index != nullptr;
+    return iterator(Internals::Erase(*this, {where.entry, hasIndex ? Internals::IndexOf(*m_root).Locate(where) : where.place}));
 }
 
 PropertyTreeMap::size_type PropertyTreeMap::erase(std::string_view key) noexcept
 {
-    const Where where = Internals::Search(*this, key);
+    const Where where = Internals::Search(*this, PropertyTreeKeyView(key));
     if (!where.isThere)
     {
         return 0;
     }
-    Internals::EraseAt(*this, where);
+    Internals::Erase(*this, where);
     return 1;
 }
 
 bool operator==(const PropertyTreeMap& a, const PropertyTreeMap& b)
 {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
-                                              [](const auto& left, const auto& right)
-                                              { return left.first == right.first && left.second == right.second; });
+    return a.size() == b.size() &&
+           std::equal(a.begin(), a.end(), b.begin(),
+                      [](const auto& left, const auto& right)
+                      { return (&left.first == &right.first || left.first == right.first) && left.second == right.second; });
 }
 
 PropertyTreeMap::Position PropertyTreeMap::Find(std::string_view key) const noexcept
 {
-    const Where where = Internals::Search(*this, key);
-    return where.isThere ? Internals::At(*this, where) : Position(this);
+    const Where where = Internals::Search(*this, PropertyTreeKeyView(key));
+    if (!where.isThere)
+    {
+        return Position(this);
+    }
+    return m_root->index ? Position(where.place, m_root) : Position(where.slot, m_root);
 }
 
 PropertyTreeMap::Position PropertyTreeMap::Internals::At(const PropertyTreeMap& map, const Where& where) noexcept
 {
     Root* const root = map.m_root;
-    const Index* index = root->index;
-    if (!index)
+    if (root->index)
     {
-        value_type* slot = NotBefore(*root, root->Slots() + where.place);
-        return slot == root->end ? Position(&map) : Position(slot, root);
+        return InIndex(*root, where.place);
     }
-    const Leaf* leaf = &index->LeafAt(where.leaf);
-    size_type place = where.place;
-    if (place != 0 && place == leaf->count)
+    value_type* slot = where.slot;
+    while (slot != root->End<value_type>() && IsGap(*slot))
     {
-        ++leaf;
-        place = 0;
+        ++slot;
     }
-    if (leaf->count == 0) // behind the last leaf that is in use
-    {
-        return Position(&map);
-    }
-    Position position(leaf->places[place], root);
-    position.leaf = static_cast<std::uint32_t>(leaf - index->FirstLeaf());
-    position.place = static_cast<std::uint32_t>(place);
-    return position;
+    return slot == root->End<value_type>() ? Position(&map) : Position(slot, root);
 }
 
-PropertyTreeMap::value_type& PropertyTreeMap::Internals::EntryAt(const PropertyTreeMap& map, const Where& where) noexcept
+PropertyTreeMap::Position PropertyTreeMap::Internals::InIndex(Root& root, Order::iterator place) noexcept
 {
-    Root& root = *map.m_root;
-    return root.index ? *root.index->LeafAt(where.leaf).places[where.place] : root.Slots()[where.place];
+    return place == IndexOf(root).Entries().end() ? Position(root.owner) : Position(place, &root);
 }
 
-PropertyTreeMap::value_type* PropertyTreeMap::Internals::NotBefore(Root& root, const value_type* slot) noexcept
+PropertyTreeMap::Index& PropertyTreeMap::Internals::IndexOf(const Root& root) noexcept
 {
-    const auto place = static_cast<size_type>(slot - root.Slots());
-    const bool hasBit = root.gaps != 0 && place != Index::GAPS_MAX;
-    return root.Slots() + place + (hasBit ? std::countr_one(root.gaps >> place) : 0);
+    return static_cast<Index&>(*root.index);
 }
 
-PropertyTreeMap::value_type* PropertyTreeMap::Internals::NotBehind(Root& root, const value_type* slot) noexcept
-{
-    const auto place = static_cast<size_type>(slot - root.Slots());
-    return root.Slots() + place - (root.gaps != 0 ? std::countl_one(root.gaps << (Index::GAPS_MAX - 1 - place)) : 0);
-}
-
-PropertyTreeMap::Where PropertyTreeMap::Internals::Search(const PropertyTreeMap& map, std::string_view key) noexcept
+PropertyTreeMap::Where PropertyTreeMap::Internals::Search(const PropertyTreeMap& map, const PropertyTreeKeyView& key) noexcept
 {
     Root* const root = map.m_root;
     if (!root)
@@ -245,149 +211,168 @@ PropertyTreeMap::Where PropertyTreeMap::Internals::Search(const PropertyTreeMap&
     }
     if (root->index)
     {
-        return root->index->Find(key);
+        const Order& order = IndexOf(*root).Entries();
+        const auto place = order.lower_bound(key);
+        const bool isThere = place != order.end() && !ByKey()(key, *place);
+        return {isThere ? place->entry : nullptr, place, isThere};
     }
-    const value_type* slots = root->Slots();
-    const auto [place, isThere] = PlaceAmong(root->Heads(), SlotsInUse(*root), key, [slots](size_type i) { return slots + i; });
-    const bool isGap = isThere && IsGap(*root, place);
-    return {0, place, isThere && !isGap, isGap};
+    value_type* slot = root->Slots();
+    for (size_type rest = root->used; rest != 0;)
+    {
+        const size_type half = (rest + 1) / 2;
+        slot += KeyOf(slot[half - 1]).head < key.head ? half : 0; // without a branch, which would be mispredicted
+        rest -= half;
+    }
+    value_type* const end = root->End<value_type>();
+    if (slot != end && KeyOf(*slot).head == key.head && slot->first < key.text)
+    {
+        slot = std::partition_point(slot + 1, end, [&key](const value_type& entry) { return ViewOf(entry) < key; });
+    }
+    const bool isKey = slot != end && KeyOf(*slot).head == key.head && slot->first == key.text;
+    const bool isGap = isKey && IsGap(*slot);
+    return {slot, {}, isKey && !isGap, isGap};
 }
 
-inline bool PropertyTreeMap::Internals::CanAppend(const PropertyTreeMap& map, std::string_view key, std::uint64_t head) noexcept
+inline bool PropertyTreeMap::Internals::CanAppend(const PropertyTreeMap& map, const PropertyTreeKeyView& key) noexcept
 {
     Root* const root = map.m_root;
-    if (!root || root->index)
-    {
-        return false;
-    }
-    const size_type used = SlotsInUse(*root);
-    if (used == root->capacity)
-    {
-        return false;
-    }
-    if (used == 0)
-    {
-        return true;
-    }
-    const std::uint64_t last = root->Heads()[used - 1];
-    return last < head || (last == head && root->end[-1].first < key);
+    return root && !root->index && root->used != root->capacity &&
+           (root->used == 0 || ViewOf(root->End<value_type>()[-1]) < key);
 }
 
-PropertyTreeMap::Where PropertyTreeMap::Internals::FindOrInsert(PropertyTreeMap& map, std::string_view key)
+PropertyTreeMap::Where PropertyTreeMap::Internals::FindOrInsert(PropertyTreeMap& map, const PropertyTreeKeyView& key)
 {
-    const std::uint64_t head = HeadOf(key);
-    Root* const root = map.m_root;
-    if (!root)
+    if (CanAppend(map, key))
     {
-        PropertyTreeMap first;
-        first.m_root = MakeRoot(FIRST_CAPACITY, &first);
-        Append(*first.m_root, head, 0, key);
-        map.swap(first);
-        return {};
-    }
-    if (CanAppend(map, key, head))
-    {
-        const size_type slot = SlotsInUse(*root);
-        Append(*root, head, slot, key);
-        return {0, slot};
+        return {&Append(*map.m_root, *MakeKey(key).release())};
     }
     Where where = Search(map, key);
-    if (where.isGap)
+    if (where.isThere || (where.isGap && TakeBack(*map.m_root, where.slot)))
     {
-        root->gaps &= ~BitOf(where.place);
-        ++root->size;
+        return where;
     }
-    else if (!where.isThere)
+    KeyPointer made = MakeKey(key);
+    if (!map.m_root)
     {
-        std::string text(key); // first, so that nothing can fail after room was made
-        Index* index = root->index;
-        if (!index)
-        {
-            index = Index::Make(*root, root->size + 1);
-            where = index->Find(key);
-        }
-        index->MakeRoom(where, root->blocks);
-        root->index = index;
-        index->Insert(where, std::move(text));
-        ++root->size;
+        map.m_root = MakeRoot(FIRST_CAPACITY, &map);
+        return {&Append(*map.m_root, *made.release())};
     }
+    Root& root = *map.m_root;
+    const bool hasIndex = root.index != nullptr;
+    Index& index = Index::Of(root);
+    where.place = index.Insert(hasIndex ? where.place : index.Entries().lower_bound(key), *made);
+    where.slot = where.place->entry;
+    made.release();
+    ++root.size;
     return where;
 }
 
-PropertyTreeMap::Position PropertyTreeMap::Internals::EraseAt(PropertyTreeMap& map, Where where) noexcept
+bool PropertyTreeMap::Internals::TakeBack(Root& root, value_type* gap) noexcept
+{
+    for (size_type distance = 0; distance != FAR_FROM_EITHER; ++distance)
+    {
+        value_type* first = gap - distance;
+        value_type* last = gap + distance;
+        if (first == root.Slots() || !IsGap(first[-1]))
+        {
+            last = first + GapLength(*first) - 1;
+        }
+        else if (!IsGap(last[1])) // the last slot in use is no gap
+        {
+            first = last - GapLength(*last) + 1;
+        }
+        else
+        {
+            continue;
+        }
+        if (first != gap)
+        {
+            SetGaps(first, gap - 1);
+        }
+        if (last != gap)
+        {
+            SetGaps(gap + 1, last);
+        }
+        std::construct_at(&gap->second);
+        ++root.size;
+        return true;
+    }
+    return false;
+}
+
+PropertyTreeMap::Position PropertyTreeMap::Internals::Erase(PropertyTreeMap& map, const Where& where) noexcept
 {
     Root& root = *map.m_root;
     if (!root.index)
     {
-        if (where.place + 1 == SlotsInUse(root))
-        {
-            DropLast(root);
-            return Position(&map);
-        }
-        if (root.capacity <= Index::GAPS_MAX)
-        {
-            value_type* slot = root.Slots() + where.place;
-            slot->second = PropertyTree();
-            root.gaps |= BitOf(where.place);
-            --root.size;
-            return Position(NotBefore(root, slot), &root);
-        }
-        root.index = Index::MakeInRoom(root);
-        where = root.index->Find(where.place);
+        return EraseInOrder(map, where.slot);
     }
-    root.index->Erase(where);
     --root.size;
-    return At(map, where);
+    return InIndex(root, IndexOf(root).Erase(where.place));
+}
+
+PropertyTreeMap::Position PropertyTreeMap::Internals::EraseInOrder(PropertyTreeMap& map, value_type* slot) noexcept
+{
+    Root& root = *map.m_root;
+    value_type* const end = root.End<value_type>();
+    value_type* const first = slot != root.Slots() && IsGap(slot[-1]) ? slot - GapLength(slot[-1]) : slot;
+    slot->second.Clear();
+    --root.size;
+    if (slot + 1 == end)
+    {
+        const KeyDropper drop;
+        std::for_each(first, end, [&drop](const value_type& entry) { drop(&KeyOf(entry)); });
+        root.used = static_cast<std::uint32_t>(first - root.Slots());
+        return Position(&map);
+    }
+    value_type* const next = slot + 1 + (IsGap(slot[1]) ? GapLength(slot[1]) : 0);
+    slot->second.m_gap.state = PropertyTree::STATE_GAP;
+    SetGaps(first, next - 1);
+    return Position(next, &root);
 }
 
 PropertyTree& PropertyTreeMapFiller::FindOrInsertMoving(PropertyTreeMap& map, std::string_view key)
 {
+    using Internals = PropertyTreeMap::Internals;
     using Entry = PropertyTreeMap::value_type;
     map.reserve(1);
-    const PropertyTreeMap::Where where = PropertyTreeMap::Internals::Search(map, key);
+    const PropertyTreeKeyView view(key);
+    const PropertyTreeMap::Where where = Internals::Search(map, view);
     PropertyTreeMap::Root& root = *map.m_root;
-    if (where.isThere || root.index || root.gaps != 0 || root.size == root.capacity)
+    if (where.isThere || root.index || !root.IsPlain() || root.size == root.capacity)
     {
         return map[key];
     }
-    std::string text(key);
-    Entry* const slot = root.Slots() + where.place;
-    for (Entry* last = root.end; last != slot; --last)
+    const PropertyTreeKey& made = *Internals::MakeKey(view).release();
+    for (Entry* last = root.End<Entry>(); last != where.slot; --last)
     {
-        // The key is const only for callers who hold a reference to the entry, and there are none.
-        std::construct_at(last, std::move(const_cast<std::string&>(last[-1].first)), std::move(last[-1].second));
+        Internals::Construct(last, Internals::KeyOf(last[-1])).second = std::move(last[-1].second);
         std::destroy_at(last - 1);
     }
-    std::uint64_t* const head = root.Heads() + where.place;
-    std::copy_backward(head, root.Heads() + root.size, root.Heads() + root.size + 1);
-    *head = HeadOf(key);
-    ++root.end;
+    ++root.used;
     ++root.size;
-    return std::construct_at(slot, std::move(text), PropertyTree())->second;
+    return Internals::Construct(where.slot, made).second;
 }
 
 // Destroys the children here and not in their destructors, which would not know how deep they are nested.
 void PropertyTreeMap::Release(int depth) noexcept
 {
-    const auto destroy = [depth](value_type& entry)
+    const auto destroy = [depth, drop = Internals::KeyDropper()](value_type& entry)
     {
-        entry.second.Clear(depth + 1);
-        std::destroy_at(&entry);
+        drop(&Internals::KeyOf(entry));
+        if (entry.second.HoldsMemory())
+        {
+            entry.second.Release(depth + 1);
+        }
     };
-    if (const Index* index = m_root->index)
+    if (m_root->index)
     {
-        std::for_each(
-            index->FirstLeaf(), index->EndLeaf(),
-            [&destroy](const Leaf& leaf)
-            { std::for_each(leaf.places, leaf.places + leaf.count, [&destroy](value_type* entry) { destroy(*entry); }); });
+        const std::unique_ptr<const Index> index(&Internals::IndexOf(*m_root));
+        std::ranges::for_each(index->Entries(), destroy, [](Ordered ordered) -> value_type& { return *ordered.entry; });
     }
     else
     {
-        std::for_each(m_root->Slots(), m_root->end, destroy); // with the gaps
-    }
-    while (m_root->blocks)
-    {
-        ::operator delete(std::exchange(m_root->blocks, m_root->blocks->next));
+        std::for_each(m_root->Slots(), m_root->End<value_type>(), destroy); // with the gaps
     }
     ::operator delete(std::exchange(m_root, nullptr));
 }

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <set>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -16,13 +17,14 @@ namespace Ombrel
 {
 
 class PropertyTree;
+struct PropertyTreeKeyView;
 
 /// What would become a text by way of a null pointer: `nullptr` and the literal 0. The other integers are no keys either.
 template <class T>
 concept PropertyTreeNoKey = std::integral<T> || std::same_as<T, std::nullptr_t>;
 
-/// The children of a tree in the map state: `std::string` keys in byte order, where a key comes before every longer key that
-/// begins with it.
+/// The children of a tree in the map state, with `std::string` keys in byte order, where a key comes before every longer key
+/// that begins with it.
 ///
 /// The map behaves like `std::map`, and a look-up takes a `std::string_view` without making a string. An entry never moves in
 /// memory. References and iterators to an entry stay valid until that entry is erased: inserting, erasing other entries and
@@ -33,26 +35,25 @@ concept PropertyTreeNoKey = std::integral<T> || std::same_as<T, std::nullptr_t>;
 /// erasing and destroying allocate nothing.
 ///
 /// The entries are stored next to each other in one block as long as they are added in key order and the block has room. Such a
-/// map costs one allocation, plus one for each key that is too long to be stored inside a `std::string` (more than 15
-/// characters on libstdc++). An empty map costs none. The memory of erased entries is kept for new entries; in a small map
-/// their keys are kept as well. `clear` and destroying the map free all memory.
+/// map costs one allocation, plus one for each key that the library does not write itself: the keys of its own fields are
+/// stored once for all maps. An empty map costs none. The memory of erased entries is kept for new entries; as long as the
+/// entries are in order, so are their keys. `clear` and destroying the map free all memory.
 ///
-/// For n entries, finding one takes O(log n). Inserting behind the last entry and erasing the last entry take O(1). Inserting
-/// and erasing elsewhere take O(log n) and a shift of a few hundred pointers; the first time they take O(n). Copying, comparing
-/// and clearing take O(n). A step of an iterator takes O(1), or O(log n) if entries were inserted or erased since the last
-/// step.
+/// For n entries, finding one takes O(log n). As long as the entries are in order, inserting behind the last and erasing take
+/// O(1). The first insertion out of order takes O(n); from then on both take O(log n). Copying, comparing and clearing take
+/// O(n), and a step of an iterator O(1), but O(log n) for the first one since that insertion. `lower_bound` and `upper_bound`
+/// take O(log n), and pass over what was erased there.
 ///
 /// Threads: as a standard container, many readers or one writer.
 ///
-/// Only the public members are promised; what is private may change with any version. `Position`, `Root` and the few private
-/// functions that are exported belong to the binary interface all the same, because inline functions use them: changing these
-/// needs a new `SOVERSION`.
+/// Only the public members are promised. `Position`, `Root` and the private functions that are exported belong to the binary
+/// interface all the same, because inline functions use them: changing these needs a new `SOVERSION`.
 class OMBREL_API PropertyTreeMap
 {
 public:
     using key_type = std::string;
     using mapped_type = PropertyTree;
-    using value_type = std::pair<const std::string, PropertyTree>;
+    using value_type = std::pair<const std::string&, PropertyTree>; // the key lives as long as the entry
     using size_type = std::size_t;
     using difference_type = std::ptrdiff_t;
     using reference = value_type&;
@@ -60,6 +61,24 @@ public:
 
 private:
     struct Root;
+
+    // A set of pointers would need the complete type of what they point to.
+    struct Ordered
+    {
+        value_type* entry;
+    };
+
+    // Compares keys. Defined in the library alone, which alone has use for it.
+    struct OMBREL_LOCAL ByKey
+    {
+        using is_transparent = void;
+
+        bool operator()(Ordered a, Ordered b) const noexcept;
+        bool operator()(Ordered a, const PropertyTreeKeyView& b) const noexcept;
+        bool operator()(const PropertyTreeKeyView& a, Ordered b) const noexcept;
+    };
+
+    using Order = std::set<Ordered, ByKey>;
 
     // What an iterator is made of. It asks the map for its neighbours at every step, so it survives every change of the map.
     class Position
@@ -69,26 +88,38 @@ private:
         explicit Position(const PropertyTreeMap* end) noexcept : map(end) {}
         Position(value_type* entryInUse, Root* itsRoot) noexcept : entry(entryInUse), root(itsRoot) {}
 
+        Position(Order::iterator inIndex, Root* itsRoot) noexcept
+            : entry(inIndex->entry), root(itsRoot), place(inIndex), hasPlace(true)
+        {
+        }
+
         // Entry is value_type, whose size is not known here.
         template <class Entry> void Next() noexcept
         {
-            if (root->index || root->gaps != 0)
+            if (!root->IsPlain())
             {
                 SearchNext();
-                return;
             }
-            Entry* const next = static_cast<Entry*>(entry) + 1;
-            *this = next == root->end ? Position(root->owner) : Position(next, root);
+            else if (Entry* const next = static_cast<Entry*>(entry) + 1; next != root->template End<Entry>())
+            {
+                entry = next;
+            }
+            else
+            {
+                *this = Position(root->owner);
+            }
         }
 
         template <class Entry> void Previous() noexcept
         {
-            if (!entry || root->index || root->gaps != 0)
+            if (!entry || !root->IsPlain())
             {
                 SearchPrevious();
-                return;
             }
-            entry = static_cast<Entry*>(entry) - 1;
+            else
+            {
+                entry = static_cast<Entry*>(entry) - 1;
+            }
         }
 
         value_type* entry = nullptr; // null behind the last entry
@@ -97,9 +128,8 @@ private:
             const PropertyTreeMap* map = nullptr; // behind the last entry
             Root* root;                           // of an entry: it stays the same when the map is moved
         };
-        // Where the index had the entry when it was last looked at.
-        std::uint32_t leaf = 0;
-        std::uint32_t place = 0;
+        Order::iterator place; // in the index, if there was one when the position was made
+        bool hasPlace = false;
 
     private:
         void SearchNext() noexcept;
@@ -225,8 +255,12 @@ public:
     const_iterator upper_bound(std::string_view key) const noexcept { return const_iterator(UpperBound(key)); }
 
     /// The range of the entries under `key`, which are one or none.
-    std::pair<iterator, iterator> equal_range(std::string_view key) noexcept;
-    std::pair<const_iterator, const_iterator> equal_range(std::string_view key) const noexcept;
+    std::pair<iterator, iterator> equal_range(std::string_view key) noexcept { return {lower_bound(key), upper_bound(key)}; }
+
+    std::pair<const_iterator, const_iterator> equal_range(std::string_view key) const noexcept
+    {
+        return {lower_bound(key), upper_bound(key)};
+    }
 
     /// The child under `key`.
     /// @throws std::out_of_range "invalid map<K, T> key" if there is none
@@ -246,7 +280,7 @@ public:
     std::pair<iterator, bool> insert_or_assign(std::string_view key, const PropertyTree& value);
 
     /// Inserts `entry` unless its key is there already.
-    std::pair<iterator, bool> insert(value_type entry);
+    std::pair<iterator, bool> insert(std::pair<const std::string, PropertyTree> entry);
 
     /// The same for the entries from `first` to the one before `last`. If one throws, those that were inserted before it stay.
     template <std::input_iterator It, std::sentinel_for<It> End> void insert(It first, End last);
@@ -268,18 +302,6 @@ public:
 
     /// Erases the entry under `key`, and gives how many that were: 1 or 0.
     size_type erase(std::string_view key) noexcept;
-
-    /// Erases the entries for which `predicate` is true, and gives how many that were. If `predicate` throws, the entries that
-    /// were erased before stay erased.
-    template <class Predicate> friend size_type erase_if(PropertyTreeMap& map, Predicate predicate)
-    {
-        const size_type before = map.size();
-        for (iterator position = map.begin(); position != map.end();)
-        {
-            position = predicate(*position) ? map.erase(position) : std::next(position);
-        }
-        return before - map.size();
-    }
 
     /// Erases all entries and frees all memory.
     void clear() noexcept { Clear(0); }
@@ -311,40 +333,31 @@ private:
     friend class PropertyTreeMapFiller;
     friend class PropertyTreeMapWalk;
 
-    // What is done with the entries, and where they are. Not exported; defined in headers that are not installed.
-    struct Block;
+    // Not exported; defined in headers that are not installed.
     class Index;
     struct Internals;
     struct Where;
 
-    // Some of the entries in key order: the first `count` places point to them, the others to free slots.
-    struct Leaf
+    // The header of every block of slots but the first, and of an index, which has none.
+    struct Block
     {
-        value_type** places;
-        std::uint64_t* heads; // of the entries' keys: their first characters
-        size_type count;
+        Block* next;
         size_type capacity;
     };
 
-    // What an index begins with. It is here so that a debugger finds it in every program.
-    struct LeafRow
-    {
-        Leaf* row;       // and behind them one without places
-        size_type inUse; // leaves that have entries; they come first
-    };
-
-    // The header of the first block. The heads of the keys follow it, and the slots follow these.
+    // The header of the first block. The slots of the entries follow it.
     struct Root
     {
-        std::uint64_t* Heads() noexcept { return reinterpret_cast<std::uint64_t*>(this + 1); }
-        value_type* Slots() noexcept { return reinterpret_cast<value_type*>(Heads() + capacity); }
+        value_type* Slots() noexcept { return reinterpret_cast<value_type*>(this + 1); }
+        template <class Entry> Entry* End() noexcept { return static_cast<Entry*>(Slots()) + used; }
+
+        // Whether the entries are in order in the first slots, with no gap between them.
+        bool IsPlain() const noexcept { return used == size; }
 
         size_type size;               // entries
+        std::uint32_t used;           // slots with entries and gaps; with an index 0
         std::uint32_t capacity;       // slots in this block
-        std::uint32_t gaps;           // a bit for each slot whose entry was erased while its key was kept
-        value_type* end;              // of the slots in use, as long as there is no index
-        Index* index;                 // null as long as the entries are in order in the first slots
-        Block* blocks;                // those that were allocated after this one
+        Block* index;                 // of class Index; null as long as the entries are in order in the first slots
         const PropertyTreeMap* owner; // whose entries these are
     };
 
@@ -359,11 +372,7 @@ private:
 
     Position First() const noexcept
     {
-        if (m_root && !m_root->index && m_root->gaps == 0 && m_root->size != 0)
-        {
-            return Position(m_root->Slots(), m_root);
-        }
-        return SearchFirst();
+        return m_root && m_root->IsPlain() && m_root->size != 0 ? Position(m_root->Slots(), m_root) : SearchFirst();
     }
 
     // Exported for the functions above.

@@ -9,61 +9,57 @@ namespace Ombrel
 
 void PropertyTreeMap::Position::SearchNext() noexcept
 {
-    if (root->index && root->index->StepInLeaf(*this))
+    if (root->index)
     {
+        *this = Internals::InIndex(*root, std::next(Internals::IndexOf(*root).Locate(*this)));
         return;
     }
-    Where where = Internals::Locate(*root->owner, *this);
-    ++where.place;
-    *this = Internals::At(*root->owner, where);
+    value_type* next = entry + 1;
+    next += next != root->End<value_type>() && Internals::IsGap(*next) ? Internals::GapLength(*next) : 0;
+    *this = next == root->End<value_type>() ? Position(root->owner) : Position(next, root);
 }
 
 void PropertyTreeMap::Position::SearchPrevious() noexcept
 {
-    const PropertyTreeMap& owner = entry ? *root->owner : *map;
-    Root& itsRoot = *owner.m_root;
-    const Index* index = itsRoot.index;
-    if (!index)
+    Root& itsRoot = *(entry ? root->owner : map)->m_root;
+    if (itsRoot.index)
     {
-        *this = Position(Internals::NotBehind(itsRoot, (entry ? entry : itsRoot.end) - 1), &itsRoot);
+        const Index& index = Internals::IndexOf(itsRoot);
+        *this = Position(std::prev(entry ? index.Locate(*this) : index.Entries().end()), &itsRoot);
         return;
     }
-    Where where =
-        entry ? Internals::Locate(owner, *this) : Where{static_cast<size_type>(index->EndLeaf() - index->FirstLeaf())};
-    if (where.place == 0)
-    {
-        --where.leaf;
-        where.place = index->LeafAt(where.leaf).count;
-    }
-    --where.place;
-    *this = Internals::At(owner, where);
+    value_type* previous = (entry ? entry : itsRoot.End<value_type>()) - 1;
+    previous -= Internals::IsGap(*previous) ? Internals::GapLength(*previous) : 0;
+    *this = Position(previous, &itsRoot);
 }
 
 PropertyTreeMap::Position PropertyTreeMap::SearchFirst() const noexcept
-{
-    return m_root ? Internals::At(*this, {}) : Position(this);
-}
-
-PropertyTreeMap::Position PropertyTreeMap::LowerBound(std::string_view key) const noexcept
-{
-    return m_root ? Internals::At(*this, Internals::Search(*this, key)) : Position(this);
-}
-
-PropertyTreeMap::Position PropertyTreeMap::UpperBound(std::string_view key) const noexcept
 {
     if (!m_root)
     {
         return Position(this);
     }
-    Where where = Internals::Search(*this, key);
-    where.place += where.isThere ? 1 : 0;
-    return Internals::At(*this, where);
+    if (m_root->index)
+    {
+        return Internals::InIndex(*m_root, Internals::IndexOf(*m_root).Entries().begin());
+    }
+    const bool isGap = m_root->used != 0 && Internals::IsGap(*m_root->Slots());
+    return Internals::At(*this, {m_root->Slots() + (isGap ? Internals::GapLength(*m_root->Slots()) : 0)});
 }
 
-PropertyTreeMap::Where PropertyTreeMap::Internals::Locate(const PropertyTreeMap& map, const Position& position) noexcept
+PropertyTreeMap::Position PropertyTreeMap::LowerBound(std::string_view key) const noexcept
 {
-    Root& root = *map.m_root;
-    return root.index ? root.index->Locate(position) : Where{0, static_cast<size_type>(position.entry - root.Slots())};
+    return m_root ? Internals::At(*this, Internals::Search(*this, PropertyTreeKeyView(key))) : Position(this);
+}
+
+PropertyTreeMap::Position PropertyTreeMap::UpperBound(std::string_view key) const noexcept
+{
+    Position position = LowerBound(key);
+    if (position.entry && position.entry->first == key)
+    {
+        position.Next<value_type>();
+    }
+    return position;
 }
 
 PropertyTreeMap::iterator PropertyTreeMap::erase(const_iterator first, const_iterator last) noexcept
@@ -73,47 +69,6 @@ PropertyTreeMap::iterator PropertyTreeMap::erase(const_iterator first, const_ite
         first = erase(first);
     }
     return iterator(last.m_position);
-}
-
-PropertyTreeMap::reverse_iterator PropertyTreeMap::rbegin() noexcept
-{
-    return reverse_iterator(end());
-}
-
-PropertyTreeMap::reverse_iterator PropertyTreeMap::rend() noexcept
-{
-    return reverse_iterator(begin());
-}
-
-PropertyTreeMap::const_reverse_iterator PropertyTreeMap::rbegin() const noexcept
-{
-    return const_reverse_iterator(end());
-}
-
-PropertyTreeMap::const_reverse_iterator PropertyTreeMap::rend() const noexcept
-{
-    return const_reverse_iterator(begin());
-}
-
-PropertyTreeMap::const_reverse_iterator PropertyTreeMap::crbegin() const noexcept
-{
-    return rbegin();
-}
-
-PropertyTreeMap::const_reverse_iterator PropertyTreeMap::crend() const noexcept
-{
-    return rend();
-}
-
-std::pair<PropertyTreeMap::iterator, PropertyTreeMap::iterator> PropertyTreeMap::equal_range(std::string_view key) noexcept
-{
-    return {lower_bound(key), upper_bound(key)};
-}
-
-std::pair<PropertyTreeMap::const_iterator, PropertyTreeMap::const_iterator>
-PropertyTreeMap::equal_range(std::string_view key) const noexcept
-{
-    return {lower_bound(key), upper_bound(key)};
 }
 
 } // namespace Ombrel

@@ -1,6 +1,7 @@
 #include "PropertyTree/PropertyTreeScalar.h"
 
 #include "PropertyTree/KindNames.h"
+#include "PropertyTree/KnownTexts.h"
 
 #include <stdexcept>
 
@@ -51,9 +52,9 @@ double PropertyTreeScalar::toDouble() const
 
 const std::string& PropertyTreeScalar::toString() const
 {
-    if (IsText())
+    if (kind() == Kind::String)
     {
-        return m_text;
+        return *m_text;
     }
     ThrowKind("a string", kind());
 }
@@ -79,19 +80,40 @@ void PropertyTreeScalar::convertTo(std::string& value) const
 
 bool operator==(const PropertyTreeScalar& a, const PropertyTreeScalar& b) noexcept
 {
-    if (a.m_kind != b.m_kind)
+    if (a.kind() != b.kind())
     {
         return false;
     }
     switch (a.kind())
     {
     case PropertyTreeScalar::Kind::String:
-        return a.m_text == b.m_text;
+        return a.m_text == b.m_text || *a.m_text == *b.m_text;
     case PropertyTreeScalar::Kind::Float:
         return a.Float() == b.Float();
     default:
         return a.m_bits == b.m_bits;
     }
+}
+
+const std::string* PropertyTreeScalar::Own(std::string&& text, std::uint64_t& kind)
+{
+    const KnownTexts* texts = KnownTexts::Get();
+    if (const PropertyTreeKey* known = texts ? texts->Find(text) : nullptr)
+    {
+        kind |= KNOWN;
+        return &known->text;
+    }
+    return new std::string(std::move(text));
+}
+
+const std::string* PropertyTreeScalar::Copy(const std::string& text)
+{
+    return new std::string(text);
+}
+
+void PropertyTreeScalar::Destroy(const std::string* text) noexcept
+{
+    delete text;
 }
 
 } // namespace Ombrel

@@ -7,7 +7,6 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <new>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -63,24 +62,37 @@ public:
     {
     }
 
-    PropertyTreeScalar(std::string value) noexcept : m_kind(Number(Kind::String)), m_text(std::move(value)) {}
+    /// @throws std::bad_alloc, as for every text
+    PropertyTreeScalar(std::string value) : m_kind(Number(Kind::String)), m_text(Own(std::move(value), m_kind)) {}
+
+    PropertyTreeScalar(std::string_view text) : PropertyTreeScalar(std::string(text)) {}
 
     /// Copies up to the terminating zero; `text` must not be null.
     PropertyTreeScalar(const char* text) : PropertyTreeScalar(std::string(text)) {}
 
-    PropertyTreeScalar(std::string_view text) : PropertyTreeScalar(std::string(text)) {}
-
     PropertyTreeScalar(std::nullptr_t) = delete;
     template <PropertyTreeCharacter T> PropertyTreeScalar(T) = delete;
 
-    PropertyTreeScalar(const PropertyTreeScalar& other) : PropertyTreeScalar(other, other.m_text) {}
-    PropertyTreeScalar(PropertyTreeScalar&& other) noexcept : PropertyTreeScalar(other, std::move(other.m_text)) {}
+    PropertyTreeScalar(const PropertyTreeScalar& other) : m_kind(other.m_kind), m_bits(other.m_bits)
+    {
+        if (OwnsText())
+        {
+            m_text = Copy(*other.m_text);
+        }
+    }
+
+    /// Leaves the integer 0 behind.
+    PropertyTreeScalar(PropertyTreeScalar&& other) noexcept : m_kind(other.m_kind), m_bits(other.m_bits)
+    {
+        other.m_kind = Number(Kind::Integer);
+        other.m_bits = 0;
+    }
 
     ~PropertyTreeScalar()
     {
-        if (IsText())
+        if (OwnsText())
         {
-            m_text.~basic_string();
+            Destroy(m_text);
         }
     }
 
@@ -89,11 +101,12 @@ public:
     PropertyTreeScalar& operator=(PropertyTreeScalar&& other) noexcept
     {
         PropertyTreeScalar value(std::move(other)); // first, since the two may be one
-        this->~PropertyTreeScalar();
-        return *::new (static_cast<void*>(this)) PropertyTreeScalar(std::move(value));
+        std::swap(m_kind, value.m_kind);
+        std::swap(m_bits, value.m_bits);
+        return *this;
     }
 
-    Kind kind() const noexcept { return static_cast<Kind>(m_kind); }
+    Kind kind() const noexcept { return static_cast<Kind>(m_kind & KIND); }
 
     /// The integer; a float is truncated towards zero.
     /// @throws std::out_of_range if a float is NaN or does not fit 64 bits
@@ -117,39 +130,37 @@ public:
     void convertTo(bool& value) const;
 
     /// Stores a copy of the string in `value`.
-    /// @throws std::invalid_argument on any other kind; `value` is then unchanged
+    /// @throws std::invalid_argument on any other kind, std::bad_alloc; `value` is then unchanged
     void convertTo(std::string& value) const;
 
     /// Equal kind and equal value: the integer 1 is not the float 1.0, -0.0 is 0.0, and a NaN equals nothing.
     friend OMBREL_API bool operator==(const PropertyTreeScalar& a, const PropertyTreeScalar& b) noexcept;
 
 private:
-    static constexpr std::uint8_t Number(Kind kind) { return static_cast<std::uint8_t>(kind); }
+    friend class PropertyTree;
 
-    // `text` is that of `other`; it is used only if `other` is a string.
-    template <class Text> PropertyTreeScalar(const PropertyTreeScalar& other, Text&& text) : m_kind(other.m_kind)
-    {
-        if (IsText())
-        {
-            ::new (static_cast<void*>(&m_text)) std::string(std::forward<Text>(text));
-        }
-        else
-        {
-            m_bits = other.m_bits;
-        }
-    }
+    static constexpr std::uint64_t KIND = 0xFF;
+    static constexpr std::uint64_t KNOWN = 0x100; // beside the kind: the text is a known one, which the scalar does not own
 
-    bool IsText() const noexcept { return m_kind == Number(Kind::String); }
+    static constexpr std::uint64_t Number(Kind kind) { return static_cast<std::uint64_t>(kind); }
+
+    // Exported for the functions above. Where the text is a known one, `kind` says so.
+    static const std::string* Own(std::string&& text, std::uint64_t& kind);
+    static const std::string* Copy(const std::string& text);
+    static void Destroy(const std::string* text) noexcept;
+
+    bool OwnsText() const noexcept { return m_kind == Number(Kind::String); }
 
     std::int64_t Integer() const noexcept { return static_cast<std::int64_t>(m_bits); }
     double Float() const noexcept { return std::bit_cast<double>(m_bits); }
 
-    // The number of the kind comes first and is a plain byte: a tree reads its own state from the same place.
-    std::uint8_t m_kind;
+    // The number of the kind comes first: a tree reads its own state from the same place. It is as wide as what follows, since
+    // a processor that copies both at once would wait for a narrower store.
+    std::uint64_t m_kind;
     union
     {
-        std::uint64_t m_bits; // of a bool, an integer or a float, so that copying need not tell them apart
-        std::string m_text;
+        std::uint64_t m_bits = 0; // of a bool, an integer or a float
+        const std::string* m_text;
     };
 };
 

@@ -4,10 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <iterator>
 #include <new>
+#include <string>
+#include <string_view>
 
-// What an entry leaves that is erased from a small map before its end.
+// What an entry leaves that is erased before the end of a map that is in order.
 
 namespace
 {
@@ -45,10 +48,11 @@ TEST(PropertyTreeMapGaps, StayAsTheyWereWhenAnInsertFails)
             ASSERT_EQ(std::distance(position, map.end()), 3);
         }
     }
-    EXPECT_EQ(failures, 3u); // the key and the second block
+    EXPECT_EQ(failures, 2 + 1 + 4 + 1u); // the key, the index, and none
     sample["a key in between that does not fit either"] = 1;
     EXPECT_EQ(map, sample);
-    EXPECT_EQ(AllocationsOf([&] { map["f"] = 2; }), 0u); // the other gap's place
+    EXPECT_EQ(AllocationsOf([&] { map["f"] = 2; }),
+              2u); // the key and its place in the index, since the other gap's slot is free
 }
 
 TEST(PropertyTreeMapGaps, TakeTheirKeyBackWithoutMemory)
@@ -71,11 +75,99 @@ TEST(PropertyTreeMapGaps, TakeTheirKeyBackWithoutMemory)
     {
         map.erase(map.begin());
     }
-    map["b"] = 4;
-    map["d"] = 5;
-    map["e"] = 6;
-    EXPECT_EQ(map.size(), 3u);
     EXPECT_FALSE(failing.HasFailed());
+}
+
+// Every subset of the entries, erased in every order, and then taken back in every order.
+TEST(PropertyTreeMapGaps, AreFoundInRowsOfEveryShape)
+{
+    const std::string letters = "abcdef"; // of which the last one stays, since without it the gaps before it would go
+    Map whole;
+    whole.reserve(letters.size());
+    for (const char& letter : letters)
+    {
+        whole[std::string_view(&letter, 1)] = letter - 'a';
+    }
+    for (unsigned subset = 0; subset != 1U << (letters.size() - 1); ++subset)
+    {
+        std::string erased;
+        std::string kept;
+        for (std::size_t i = 0; i != letters.size(); ++i)
+        {
+            ((subset >> i & 1U) != 0 ? erased : kept) += letters[i];
+        }
+        std::string order = erased;
+        do
+        {
+            Map map = whole;
+            for (const char& letter : order)
+            {
+                map.erase(std::string_view(&letter, 1));
+            }
+            const auto text = [&map]
+            {
+                std::string keys;
+                std::string backwards;
+                for (auto entry = map.begin(); entry != map.end(); ++entry)
+                {
+                    keys += entry->first;
+                }
+                for (auto entry = map.rbegin(); entry != map.rend(); ++entry)
+                {
+                    backwards.insert(0, entry->first);
+                }
+                EXPECT_EQ(keys, backwards);
+                return keys;
+            };
+            ASSERT_EQ(text(), kept) << order;
+            for (const char& letter : letters)
+            {
+                const auto next = map.lower_bound(std::string_view(&letter, 1));
+                ASSERT_EQ(next->first[0], *std::find_if(kept.begin(), kept.end(), [&](char c) { return c >= letter; }));
+            }
+            std::string now = kept;
+            for (const char& letter : erased) // in the same order for all, since the rows differ already
+            {
+                const Support::FailingMemory failing;
+                ASSERT_TRUE(map[std::string_view(&letter, 1)].isNull());
+                now.insert(std::upper_bound(now.begin(), now.end(), letter), letter);
+                ASSERT_EQ(text(), now) << order;
+            }
+        } while (std::next_permutation(order.begin(), order.end()));
+    }
+}
+
+// Far from both ends of a long row, taking the key back makes an index.
+TEST(PropertyTreeMapGaps, OfALongRowTakeTheirKeysBackInAnyOrder)
+{
+    constexpr int count = 5000;
+    const auto keyOf = [](int number) { return std::to_string(10'000 + number); };
+    for (const int step : {1, 7, 1667, 2499, 3331, 4999}) // each has no factor in common with the count
+    {
+        Map map;
+        map.reserve(count + 1);
+        for (int i = 0; i <= count; ++i)
+        {
+            map[keyOf(i)] = i;
+        }
+        for (int i = 0; i < count; ++i)
+        {
+            map.erase(keyOf(i));
+        }
+        EXPECT_EQ(map.size(), 1u);
+        EXPECT_EQ(map.begin()->first, keyOf(count));
+        EXPECT_EQ(map.lower_bound(keyOf(17))->first, keyOf(count));
+        for (int i = 0, number = 2500; i < count; ++i, number = (number + step) % count)
+        {
+            ASSERT_TRUE(map[keyOf(number)].isNull());
+        }
+        EXPECT_EQ(map.size(), count + 1u);
+        int expected = 0;
+        for (const auto& [key, child] : map)
+        {
+            ASSERT_EQ(key, keyOf(expected++));
+        }
+    }
 }
 
 TEST(PropertyTreeMapGaps, AreNotCopiedWithATree)

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,7 @@ namespace
 using namespace Ombrel::Proc;
 using namespace Samples;
 using Ombrel::PropertyTree;
+using Ombrel::PropertyTreeKey;
 using Support::Map;
 
 const RecordSchema& EverythingSchema()
@@ -186,10 +188,14 @@ TEST(Schema, TellsKeysApartByEveryCharacter)
         const std::string key(size, 'k');
         const FieldSchema field{key, &OTHER_VALUE, {}};
         const SortedKey sorted(key, 0);
+        std::atomic<const PropertyTreeKey*> knownKey = nullptr;
+        std::atomic<bool> areKeysFound = false;
         const RecordSchema schema{
             .name = {},
             .fields = {&field, 1},
             .sortedKeys = &sorted,
+            .knownKeys = &knownKey,
+            .areKeysFound = &areKeysFound,
             .defaults = nullptr,
             .read = nullptr,
             .write = nullptr,

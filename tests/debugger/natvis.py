@@ -34,6 +34,8 @@ def holds(element, subject, variables=()):
 
 
 def text_of(value):
+    if value.type.code == gdb.TYPE_CODE_REF:
+        value = value.referenced_value()
     name = str(value.type.strip_typedefs().unqualified())
     if name in types:
         return display(value)
@@ -128,12 +130,12 @@ def check_natvis():
         ("map", "{ size=3 }", [("[name]", "EFFECT_ACID"), ("[radius]", "3"), ("[trace]", "vector")]),
         ("map.m_map.content", "{ size=3 }", [("[name]", "EFFECT_ACID"), ("[radius]", "3"), ("[trace]", "vector")]),
         ("gaps", "{ size=2 }", [("[b]", "b"), ("[d]", "d")]),
-        ("falling", "{ size=3 }", [("[a]", "a"), ("[b]", "b"), ("[c]", "c")]),
+        ("falling", "{ size=3 }", [("[c]", "c"), ("[b]", "b"), ("[a]", "a")]),
     ]:
         value = gdb.parse_and_eval(name)
         check.expect(name, expected, display(value))
         check.expect("the children of " + name, expected_children, children(value))
-    keys = [name for name, _ in children(gdb.parse_and_eval("large"))]
+    keys = sorted(name for name, _ in children(gdb.parse_and_eval("large")))
     check.expect("the keys of the large map", ["[key %d]" % (1000 + i) for i in range(600)], keys)
 
 

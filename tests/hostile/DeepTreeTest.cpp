@@ -105,7 +105,7 @@ TEST_P(PropertyTreeDepth, NeedsNoStackAndDestroyingNoMemory)
 
                             const Support::FailingMemory failing; // from here on no allocation succeeds
                             tree = PropertyTree();
-                            copy.convertToList();
+                            copy.convertToMap();
                         });
 }
 

@@ -146,7 +146,9 @@ TEST(JsonMemoryOfTrees, IsTheSameForKeysInAnyOrder)
     {
         const std::string sorted = textOf(count, 1);
         const std::string mixed = textOf(count, 7919); // a prime that divides none of the counts
-        EXPECT_EQ(MemoryHeldBy([&] { return ReadJson(mixed); }), MemoryHeldBy([&] { return ReadJson(sorted); })) << count;
+        // But for what the system gives beyond what was asked for, which depends on what was free.
+        const std::size_t expected = MemoryHeldBy([&] { return ReadJson(sorted); });
+        EXPECT_LE(MemoryHeldBy([&] { return ReadJson(mixed); }), expected + expected / 50 + 64) << count;
         EXPECT_TRUE(ReadJson(mixed) == ReadJson(sorted)) << count;
     }
 }

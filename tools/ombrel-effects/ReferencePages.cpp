@@ -241,7 +241,7 @@ private:
     {
         const KindNames names = NamesOf(value.kind);
         std::string name = isMany ? names.many : names.one;
-        if (value.element)
+        if (value.element && value.kind != ValueKind::ColorMap) // its name says it all
         {
             return name + " of " + Kind(*value.element, true);
         }

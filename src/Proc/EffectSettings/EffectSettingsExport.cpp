@@ -89,6 +89,7 @@
 #include "Proc/EffectSettings/SketchSettings.h"
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 #include "Proc/EffectSettings/SplitToningSettings.h"
+#include "Proc/EffectSettings/StoredTexts.h"
 #include "Proc/EffectSettings/TextureSettings.h"
 #include "Proc/EffectSettings/TileSettings.h"
 #include "Proc/EffectSettings/TiltShiftSettings.h"
@@ -100,6 +101,7 @@
 #include "Proc/EffectSettings/WhiteBalanceSettings.h"
 #include "Proc/Reflection/SpelledName.h"
 #include "PropertyTree/KeyHead.h"
+#include "PropertyTree/KnownTexts.h"
 
 #include <algorithm>
 #include <array>
@@ -322,6 +324,9 @@ private:
 };
 
 constexpr OwnClasses OWN_CLASSES;
+
+// Only says where the texts are; they are listed on first use.
+[[maybe_unused]] const bool g_hasTexts = (KnownTexts::SetSource(&ListStoredTexts), true);
 
 } // namespace
 

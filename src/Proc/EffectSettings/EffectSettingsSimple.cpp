@@ -75,7 +75,7 @@ std::shared_ptr<IEffectSettings> EffectSettingsSimple::Clone() const
 
 const Proc::Settings& EffectSettingsSimple::GetEffectSettings() const
 {
-    return settings ? static_cast<const Proc::Settings&>(*settings) : Proc::Lasting<&MakeNoRecord>();
+    return settings ? static_cast<const Proc::Settings&>(*settings) : Lasting<&MakeNoRecord>();
 }
 
 Proc::Settings& EffectSettingsSimple::GetEffectSettingsRef()

@@ -1,6 +1,6 @@
 #include "Proc/EffectSettings/HelperSettings.h"
 
-#include "Proc/Lasting.h"
+#include "OmbrelLasting.h"
 #include "Proc/Reflection/Folds.h"
 
 #include <utility>
@@ -57,7 +57,7 @@ HelperSettings::~HelperSettings() = default;
 
 const std::string& HelperSettings::GetClassId() const
 {
-    return Proc::Lasting<&MakeClassId>();
+    return Lasting<&MakeClassId>();
 }
 
 void HelperSettings::Serialize(PropertyTree& tree) const

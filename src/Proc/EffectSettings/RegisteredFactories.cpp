@@ -1,6 +1,6 @@
 #include "Proc/EffectSettings/RegisteredFactories.h"
 
-#include "Proc/Lasting.h"
+#include "OmbrelLasting.h"
 
 #include <algorithm>
 #include <memory>
@@ -47,7 +47,7 @@ struct RegisteredFactories::Table
 
 const RegisteredFactories& RegisteredFactories::Get()
 {
-    return Proc::Lasting<&MakeEmpty>();
+    return Lasting<&MakeEmpty>();
 }
 
 RegisteredFactories::~RegisteredFactories()

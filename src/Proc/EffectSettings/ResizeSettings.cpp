@@ -1,10 +1,10 @@
 #include "Proc/EffectSettings/ResizeSettings.h"
 
 #include "Exception/Exception.h"
+#include "OmbrelLasting.h"
 #include "Proc/EarlyInit.h"
 #include "Proc/EffectSettings/EffectSettingsBody.h"
 #include "Proc/ImplNames.h"
-#include "Proc/Lasting.h"
 #include "Proc/Reflection/Folds.h"
 
 namespace Ombrel::Proc
@@ -81,7 +81,7 @@ const std::string& ResizeSettings::GetClassId() const
 
 const std::string& ResizeSettings::GetImplName() const
 {
-    return Proc::Lasting<&MakeImplName>();
+    return Lasting<&MakeImplName>();
 }
 
 void ResizeSettings::RefreshMirrors() const

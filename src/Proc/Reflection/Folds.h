@@ -1,12 +1,13 @@
 #ifndef OMBREL_PROC_REFLECTION_FOLDS_H
 #define OMBREL_PROC_REFLECTION_FOLDS_H
 
-#include "Proc/Lasting.h"
+#include "OmbrelLasting.h"
 #include "Proc/Reflection/DefaultRecord.h"
 #include "Proc/Reflection/FieldList.h"
 #include "Proc/Reflection/Reflected.h"
 
 #include <array>
+#include <atomic>
 #include <cstddef>
 #include <utility>
 
@@ -171,10 +172,15 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
     static constexpr std::array<FieldSchema, List::SIZE> FIELDS{
         FieldSchema{Descriptors::KEY, &SCHEMA_OF<typename Descriptors::template Value<Record>>, Descriptors::ACCESS}...};
 
+    static inline constinit std::array<std::atomic<const PropertyTreeKey*>, List::SIZE> s_knownKeys{};
+    static inline constinit std::atomic<bool> s_areKeysFound = false;
+
     static constexpr RecordSchema SCHEMA{
         .name = TYPE_NAME<Record>,
         .fields = FIELDS,
         .sortedKeys = List::SORTED_KEYS.data(),
+        .knownKeys = s_knownKeys.data(),
+        .areKeysFound = &s_areKeysFound,
         .defaults = &ErasedDefault,
         .read = &Read,
         .write = &Write,

@@ -1,5 +1,6 @@
 #include "Proc/Reflection/Schema.h"
 
+#include "PropertyTree/KnownTexts.h"
 #include "PropertyTree/PropertyTreeMapFiller.h"
 
 #include <algorithm>
@@ -50,48 +51,78 @@ template <class Action> void ForEach(std::span<const FieldBits> words, Action ac
     }
 }
 
+// Two threads that come here at once store the same.
+[[gnu::noinline]] void FindKnownKeys(const RecordSchema& schema)
+{
+    const KnownTexts* texts = KnownTexts::Get();
+    for (std::size_t place = 0; texts && place != schema.fields.size(); ++place)
+    {
+        const std::string_view key = schema.fields[schema.sortedKeys[place].index].key;
+        schema.knownKeys[place].store(texts->Find(key), std::memory_order_relaxed);
+    }
+    schema.areKeysFound->store(texts != nullptr, std::memory_order_release);
+}
+
+// By the places in the byte order of the keys.
+class KnownKeys
+{
+public:
+    explicit KnownKeys(const RecordSchema& schema) : m_keys(schema.knownKeys)
+    {
+        if (!schema.areKeysFound->load(std::memory_order_acquire))
+        {
+            FindKnownKeys(schema);
+        }
+    }
+
+    const PropertyTreeKey* operator[](std::size_t place) const noexcept
+    {
+        return m_keys[place].load(std::memory_order_relaxed);
+    }
+
+private:
+    const std::atomic<const PropertyTreeKey*>* m_keys;
+};
+
 } // namespace
 
 void FindChildren(const RecordSchema& schema, const PropertyTree::Map& source, const PropertyTree** children)
 {
-    const std::span fields = schema.fields;
-    const SortedKey* rest = schema.sortedKeys;
-    const SortedKey* const end = rest + fields.size();
-    const auto merge = [&rest, end, fields, children](auto walk)
-    {
-        const SortedKey* key = rest;
-        while (!walk.IsAtEnd() && key != end)
+    const FieldSchema* const fields = schema.fields.data();
+    const SortedKey* const sortedKeys = schema.sortedKeys;
+    const KnownKeys knownKeys(schema);
+    const std::size_t count = schema.fields.size();
+    std::size_t place = 0;
+    PropertyTreeMapWalk::Through(
+        source,
+        [&](auto walk)
         {
-            const std::uint64_t head = walk.Head();
-            bool isBefore = head < key->head;
-            if (head == key->head)
+            while (!walk.IsAtEnd() && place != count)
             {
-                const auto& [text, child] = *walk.entry;
-                if (IsKey(text, *key, fields.data()))
+                const SortedKey& sorted = sortedKeys[place];
+                const PropertyTreeKey& key = walk.Key();
+                const bool isSame = &key == knownKeys[place];
+                if (isSame || (key.head == sorted.head && IsKey(key.text, sorted, fields)))
                 {
-                    children[key->index] = &child;
+                    children[sorted.index] = &walk.entry->second;
                     walk.Next();
-                    ++key;
-                    continue;
+                    ++place;
                 }
-                isBefore = text < fields[key->index].key;
+                else if (key.head < sorted.head ||
+                         (key.head == sorted.head && std::string_view(key.text) < fields[sorted.index].key))
+                {
+                    walk.Next();
+                }
+                else
+                {
+                    children[sorted.index] = nullptr;
+                    ++place;
+                }
             }
-            if (isBefore)
-            {
-                walk.Next();
-            }
-            else
-            {
-                children[key->index] = nullptr;
-                ++key;
-            }
-        }
-        rest = key;
-    };
-    PropertyTreeMapWalk::Through(source, merge);
-    for (; rest != end; ++rest)
+        });
+    for (; place != count; ++place)
     {
-        children[rest->index] = nullptr;
+        children[sortedKeys[place].index] = nullptr;
     }
 }
 
@@ -125,7 +156,10 @@ WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, s
     std::size_t added = others;
     for (const FieldBits word : words)
     {
-        added += static_cast<std::size_t>(std::popcount(word));
+        for (FieldBits rest = word; rest != 0; rest &= rest - 1) // no processor of this kind must have a count of bits
+        {
+            ++added;
+        }
     }
     if (!wasEmpty)
     {
@@ -133,13 +167,13 @@ WriteTargets::WriteTargets(const RecordSchema& schema, PropertyTree::Map& map, s
         ForEach(words, [&](std::size_t place) { children[place] = &map[fields[sortedKeys[place].index].key]; });
         return;
     }
+    const KnownKeys knownKeys(schema);
     PropertyTreeMapFiller filler(map, added);
     ForEach(words,
             [&](std::size_t place)
             {
-                const SortedKey& key = sortedKeys[place];
-                children[place] = key.size <= SHORT_KEY ? &filler.AppendShort(key.beginning, key.size, key.head)
-                                                        : &filler.Append(fields[key.index].key, key.head);
+                const PropertyTreeKey* known = knownKeys[place];
+                children[place] = known ? &filler.AppendKnown(*known) : &filler.Append(fields[sortedKeys[place].index].key);
             });
 }
 

@@ -5,12 +5,18 @@
 #include "Proc/Reflection/Context.h"
 #include "PropertyTree/KeyHead.h"
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
 #include <string_view>
 #include <utility>
+
+namespace Ombrel
+{
+struct PropertyTreeKey;
+}
 
 namespace Ombrel::Proc
 {
@@ -46,7 +52,7 @@ struct ValueSchema
     ValueKind kind;
     const EnumNameTable* names = nullptr;      // of an enumeration
     const RecordSchema& (*record)() = nullptr; // of a record
-    const ValueSchema* element = nullptr;      // of a list or set
+    const ValueSchema* element = nullptr;      // of a list, a set or a colour map
 };
 
 /// The description of a value whose codec has none.
@@ -68,16 +74,11 @@ struct SortedKey
     constexpr SortedKey(std::string_view key, std::size_t place)
         : head(HeadOf(key)), size(static_cast<std::uint32_t>(key.size())), index(static_cast<std::uint16_t>(place))
     {
-        for (std::size_t i = 0; i != key.size() && i != SHORT_KEY; ++i)
-        {
-            beginning[i] = key[i];
-        }
     }
 
     std::uint64_t head = 0;
     std::uint32_t size = 0;
     std::uint16_t index = 0;
-    char beginning[SHORT_KEY] = {}; // the first characters, and zeros if there are not so many
 };
 
 /// The description of a record type: its fields, and the folds over them. The folds take a record of this type by `void*`. An
@@ -87,6 +88,11 @@ struct RecordSchema
     std::string_view name;               // of the type, without its namespace; "pair" for every pair
     std::span<const FieldSchema> fields; // in declaration order, which is the order of reading
     const SortedKey* sortedKeys;         // of the fields, in byte order
+
+    // In the same order the library's own texts for these keys, which entries of maps refer to, or null for other keys. They
+    // are found on first use.
+    std::atomic<const PropertyTreeKey*>* knownKeys;
+    std::atomic<bool>* areKeysFound;
 
     const void* (*defaults)(); // the record that missing keys are reset to; made on first use
     void (*read)(void* record, const PropertyTree::Map& source, const ReadFlags* flags);

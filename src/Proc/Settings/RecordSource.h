@@ -1,8 +1,8 @@
 #ifndef OMBREL_PROC_SETTINGS_RECORD_SOURCE_H
 #define OMBREL_PROC_SETTINGS_RECORD_SOURCE_H
 
+#include "OmbrelLasting.h"
 #include "Proc/EarlyInit.h"
-#include "Proc/Lasting.h"
 #include "Proc/Reflection/Folds.h"
 
 #include <string>

@@ -1,14 +1,14 @@
 #include "Proc/Settings/RgbaColorCodec.h"
 
+#include "Proc/Reflection/Folds.h"
+
 namespace Ombrel::Proc
 {
-namespace
+
+const RecordSchema& StoredColor::Schema() noexcept
 {
-
-constexpr std::string_view KEY = "key";
-constexpr std::string_view VALUE = "value";
-
-} // namespace
+    return Describe<StoredColor, FieldList<FieldDescriptor<&StoredColor::m_key>, FieldDescriptor<&StoredColor::m_value>>>();
+}
 
 void WriteColor(PropertyTree& child, const RgbaColor& color)
 {
@@ -22,12 +22,11 @@ RgbaColor ReadColor(const PropertyTree& child)
 
 void Codec<std::map<std::uint8_t, RgbaColor>>::Write(PropertyTree& child, const Value& value, const WriteFlags*)
 {
+    constexpr WriteFlags whole{.resetTargets = true, .omitDefaults = false};
     auto target = WriteList(child, value.size()).begin();
     for (const auto& [key, color] : value)
     {
-        PropertyTree& element = *target++;
-        WriteInteger(element[KEY], key);
-        WriteColor(element[VALUE], color);
+        Codec<StoredColor>::Write(*target++, {key, color}, &whole);
     }
 }
 
@@ -39,8 +38,8 @@ void Codec<std::map<std::uint8_t, RgbaColor>>::Read(const PropertyTree& child, V
     }
     for (const PropertyTree& element : child.getList())
     {
-        const auto key = static_cast<std::uint8_t>(ReadInteger(element[KEY]));
-        value.insert_or_assign(key, ReadColor(element[VALUE]));
+        const auto key = static_cast<std::uint8_t>(ReadInteger(element["key"]));
+        value.insert_or_assign(key, ReadColor(element["value"]));
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "OmbrelExport.h"
 #include "Proc/Reflection/Codec.h"
+#include "Proc/Reflection/Reflected.h"
 #include "Proc/Settings/RgbaColor.h"
 
 #include <cstdint>
@@ -22,13 +23,22 @@ template <> struct Codec<RgbaColor>
     static void Read(const PropertyTree& child, RgbaColor& value, const ReadFlags*) { value = ReadColor(child); }
 };
 
+/// An element of a stored colour map. It is always written whole.
+struct StoredColor
+{
+    OMBREL_API static const RecordSchema& Schema() noexcept;
+
+    std::uint8_t m_key = 0;
+    RgbaColor m_value;
+};
+
 /// As a list of maps with "key" and "value", in ascending order of the keys. On reading, entries that the list does not name
 /// stay, and a key that stands twice takes the later colour.
 template <> struct OMBREL_API Codec<std::map<std::uint8_t, RgbaColor>>
 {
     using Value = std::map<std::uint8_t, RgbaColor>;
 
-    static constexpr ValueSchema SCHEMA{ValueKind::ColorMap};
+    static constexpr ValueSchema SCHEMA{.kind = ValueKind::ColorMap, .element = &SCHEMA_OF<StoredColor>};
 
     static void Write(PropertyTree& child, const Value& value, const WriteFlags* flags);
     static void Read(const PropertyTree& child, Value& value, const ReadFlags* flags);

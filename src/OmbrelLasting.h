@@ -1,5 +1,5 @@
-#ifndef OMBREL_PROC_LASTING_H
-#define OMBREL_PROC_LASTING_H
+#ifndef OMBREL_LASTING_H
+#define OMBREL_LASTING_H
 
 #include "OmbrelExport.h"
 
@@ -8,7 +8,7 @@
 
 // Constants that are made on first use and that no exit destroys. While a process exits, destructors, exit handlers and other
 // threads may still ask for them; so only unloading the library frees them.
-namespace Ombrel::Proc
+namespace Ombrel
 {
 
 // Hidden: every library and program that makes such constants keeps a list of its own, which goes when it goes.
@@ -25,6 +25,15 @@ struct Constant
 
 inline constinit std::atomic<Constant*> g_made = nullptr;
 inline constinit bool g_isUnloading = false;
+inline constinit bool g_isUnloaded = false;
+
+inline void DestroyMade() noexcept
+{
+    for (Constant* constant = g_made.exchange(nullptr); constant; constant = constant->next)
+    {
+        constant->destroy(constant->value.exchange(nullptr));
+    }
+}
 
 #ifdef __GNUC__
 // The system runs exit handlers before such functions when the process exits, and after them when the library is unloaded.
@@ -32,16 +41,24 @@ inline constinit bool g_isUnloading = false;
 {
     g_isUnloading = true;
 }
-#endif
 
 // The exit handler.
-inline void DestroyMade() noexcept
+inline void NoteUnloaded() noexcept
 {
-    for (Constant* constant = g_isUnloading ? g_made.exchange(nullptr) : nullptr; constant; constant = constant->next)
+    g_isUnloaded = g_isUnloading;
+}
+
+// With this priority it runs behind the exit handlers, which destroy the variables of the same library: a tree may be one.
+[[gnu::destructor(101)]] inline void DestroyIfUnloaded() noexcept
+{
+    if (g_isUnloaded)
     {
-        constant->destroy(constant->value.exchange(nullptr));
+        DestroyMade();
     }
 }
+#else
+inline void NoteUnloaded() noexcept {}
+#endif
 
 // Two threads that come here at once both make the value; the first to store it wins.
 [[gnu::noinline]] inline const void* Make(Constant& constant)
@@ -59,7 +76,7 @@ inline void DestroyMade() noexcept
     }
     if (!constant.next)
     {
-        std::atexit(&DestroyMade);
+        std::atexit(&NoteUnloaded);
     }
     return made;
 }
@@ -85,6 +102,13 @@ template <auto MakeValue> const auto& Lasting()
     return *static_cast<const Value*>(value ? value : LastingDetail::Make(constant));
 }
 
-} // namespace Ombrel::Proc
+/// The same if it has been made, else null.
+template <auto MakeValue> const auto* LastingIfMade() noexcept
+{
+    using Value = decltype(MakeValue());
+    return static_cast<const Value*>(LastingDetail::Of<Value, MakeValue>::s_constant.value.load(std::memory_order_acquire));
+}
+
+} // namespace Ombrel
 
 #endif
