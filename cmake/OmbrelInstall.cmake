@@ -66,13 +66,14 @@ function(ombrel_install_library name)
   install(FILES ${PROJECT_BINARY_DIR}/${OMBREL_PC_NAME}.pc DESTINATION ${OMBREL_PKGCONFIG_DIR})
 endfunction()
 
-install(FILES ${PROJECT_SOURCE_DIR}/src/OmbrelExport.h ${PROJECT_SOURCE_DIR}/src/OmbrelVersion.h
+install(FILES ${PROJECT_SOURCE_DIR}/src/OmbrelExport.h ${PROJECT_SOURCE_DIR}/src/OmbrelLasting.h
+              ${PROJECT_SOURCE_DIR}/src/OmbrelVersion.h
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Ombrel)
 ombrel_install_library(EffectSettings
   DESCRIPTION "${PROJECT_DESCRIPTION}"
   FOLDERS Conf Exception PhotoUtil Proc PropertyTree
-  PRIVATE_HEADERS Characters.h KindNames.h PropertyTreeMapFiller.h PropertyTreeMapIndex.h PropertyTreeMapInternals.h
-                  RegisteredFactories.h ScaledInteger.h WrappingArithmetic.h)
+  PRIVATE_HEADERS Characters.h KindNames.h KnownTexts.h PropertyTreeKey.h PropertyTreeMapFiller.h PropertyTreeMapIndex.h
+                  PropertyTreeMapInternals.h RegisteredFactories.h ScaledInteger.h StoredTexts.h WrappingArithmetic.h)
 install(FILES ${PROJECT_SOURCE_DIR}/debugger/ombrel_gdb.py ${PROJECT_SOURCE_DIR}/debugger/ombrel.natvis
         DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrel-effect-settings)
 if(TARGET ombrel_PropertyTreeJson)
