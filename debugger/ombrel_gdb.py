@@ -56,8 +56,9 @@ def scalar_text(scalar):
 def entries(tree_map):
     """The keys and children of a map in key order.
 
-    A program that never looks at an entry has no type for it. So entries are found by the size of their two parts. With an
-    index they are in any order in the blocks, and free slots are marked as the gaps are.
+    A program that never looks at an entry or at the header of a block has no type for it. So entries are found by the size of
+    their two parts, and headers are read as words: the next block, and how many slots follow. With an index the entries are in
+    any order in the blocks, and free slots are marked as the gaps are.
     """
     root = tree_map["m_root"]
     if not root:
@@ -78,10 +79,12 @@ def entries(tree_map):
     if not root["index"]:
         return list(entries_in(first_slots, root["used"]))
     found = list(entries_in(first_slots, root["capacity"]))
-    block = root["index"]["next"]
+    word_type = root["size"].type
+    block = int(gdb.Value(int(root["index"])).cast(word_type.pointer())[0])
     while block:
-        found += entries_in(int(block) + block.type.target().sizeof, block["capacity"])
-        block = block["next"]
+        header = gdb.Value(block).cast(word_type.pointer())
+        found += entries_in(block + 2 * word_type.sizeof, header[1])
+        block = int(header[0])
     return sorted(found, key=lambda entry: text_of(entry[0]).encode("utf-8", "surrogateescape"))
 
 
