@@ -132,8 +132,7 @@ private:
         {
             for (; areEqual && !left.IsAtEnd(); left.Next(), right.Next())
             {
-                areEqual = (&left.Key() == &right.Key() || left.Key().text == right.Key().text) &&
-                           AreEqual(left.entry->second, right.entry->second, depth + 1);
+                areEqual = left.Key() == right.Key() && AreEqual(left.entry->second, right.entry->second, depth + 1);
             }
         };
         PropertyTreeMapWalk::Through(a.getMap(), [&](auto left)

@@ -311,8 +311,8 @@ template <std::input_iterator It, std::sentinel_for<It> End> void PropertyTreeMa
 {
     for (; first != last; ++first)
     {
-        const auto& [key, value] = *first;
-        try_emplace(key, value);
+        auto&& entry = *first;
+        try_emplace(entry.first, std::forward<decltype(entry)>(entry).second); // moved from where the iterator allows it
     }
 }
 

@@ -16,6 +16,8 @@ namespace Ombrel
 /// either a known text, which many entries share, or belongs to its entry alone.
 struct PropertyTreeKey
 {
+    friend bool operator==(const PropertyTreeKey& a, const PropertyTreeKey& b) noexcept { return &a == &b || a.text == b.text; }
+
     std::string text;
     std::uint64_t head; // `HeadOf(text)`
 };

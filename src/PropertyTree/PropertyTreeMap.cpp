@@ -161,10 +161,10 @@ PropertyTreeMap::size_type PropertyTreeMap::erase(std::string_view key) noexcept
 
 bool operator==(const PropertyTreeMap& a, const PropertyTreeMap& b)
 {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(),
-                      [](const auto& left, const auto& right)
-                      { return (&left.first == &right.first || left.first == right.first) && left.second == right.second; });
+    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
+                                              [](const auto& left, const auto& right) {
+                                                  return KeyOf(left.first) == KeyOf(right.first) && left.second == right.second;
+                                              });
 }
 
 PropertyTreeMap::Position PropertyTreeMap::Find(std::string_view key) const noexcept

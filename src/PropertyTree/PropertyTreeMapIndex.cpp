@@ -32,14 +32,15 @@ PropertyTreeMap::Index& PropertyTreeMap::Index::Of(Root& root)
         for (value_type* slot = root.Slots() + root.capacity; slot-- != root.Slots();)
         {
             const bool isUsed = slot < root.End<value_type>();
-            if (isUsed && Internals::IsGap(*slot))
+            if (isUsed && !Internals::IsGap(*slot))
+            {
+                continue;
+            }
+            if (isUsed)
             {
                 drop(&Internals::KeyOf(*slot));
             }
-            if (!isUsed || Internals::IsGap(*slot))
-            {
-                index->Free(slot);
-            }
+            index->Free(slot);
         }
         root.used = 0;
         root.index = index.release();

@@ -43,7 +43,6 @@ public:
 private:
     explicit Index(Root& root);
 
-    void AddSlots(size_type count);
     void Free(value_type* slot) noexcept;
 
     static constexpr size_type SLOTS_MAX = 512; // of a further block

@@ -41,17 +41,6 @@ public:
     /// Steps over the byte that `Next` has found.
     void Skip() noexcept { ++m_next; }
 
-    /// Steps over the byte that `Next` finds if it is `byte`.
-    bool SkipIf(char byte) noexcept
-    {
-        if (Next() != byte)
-        {
-            return false;
-        }
-        ++m_next;
-        return true;
-    }
-
     /// Steps over `literal`, whose first byte `Next` has found.
     void ReadLiteral(std::string_view literal);
 

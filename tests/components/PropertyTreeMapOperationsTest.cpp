@@ -93,6 +93,23 @@ TEST(PropertyTreeMapOperations, ARangeIsInserted)
     EXPECT_EQ(TextOf(other), "a=1 b=7 c=3 ");
 }
 
+TEST(PropertyTreeMapOperations, ARangeIsMovedFromIfItsIteratorsMove)
+{
+    std::map<std::string, PropertyTree> source;
+    source["a"].setString("text");
+    source["b"].setString("kept");
+    Map map;
+    map["b"] = 1;
+    map.insert(std::make_move_iterator(source.begin()), std::make_move_iterator(source.end()));
+    EXPECT_EQ(TextOf(map), "a=\"text\" b=1 ");
+    EXPECT_TRUE(source["a"].isNull());
+    EXPECT_EQ(source["b"].toString(), "kept");
+    Map other;
+    other.insert(std::make_move_iterator(map.begin()), std::make_move_iterator(map.end()));
+    EXPECT_EQ(TextOf(other), "a=\"text\" b=1 ");
+    EXPECT_TRUE(map["a"].isNull());
+}
+
 TEST(PropertyTreeMapOperations, ARangeIsErased)
 {
     Map map;

@@ -4,10 +4,17 @@
 
 namespace Ombrel::Proc
 {
+namespace
+{
+
+using KeyField = FieldDescriptor<&StoredColor::m_key>;
+using ValueField = FieldDescriptor<&StoredColor::m_value>;
+
+} // namespace
 
 const RecordSchema& StoredColor::Schema() noexcept
 {
-    return Describe<StoredColor, FieldList<FieldDescriptor<&StoredColor::m_key>, FieldDescriptor<&StoredColor::m_value>>>();
+    return Describe<StoredColor, FieldList<KeyField, ValueField>>();
 }
 
 void WriteColor(PropertyTree& child, const RgbaColor& color)
@@ -38,8 +45,8 @@ void Codec<std::map<std::uint8_t, RgbaColor>>::Read(const PropertyTree& child, V
     }
     for (const PropertyTree& element : child.getList())
     {
-        const auto key = static_cast<std::uint8_t>(ReadInteger(element["key"]));
-        value.insert_or_assign(key, ReadColor(element["value"]));
+        const auto key = static_cast<std::uint8_t>(ReadInteger(element[KeyField::KEY]));
+        value.insert_or_assign(key, ReadColor(element[ValueField::KEY]));
     }
 }
 
