@@ -3,9 +3,7 @@
 
 #include "OmbrelExport.h"
 
-#include <array>
 #include <cstddef>
-#include <initializer_list>
 #include <string_view>
 
 namespace Ombrel::Proc
@@ -30,19 +28,19 @@ constexpr bool IsNameCharacter(char c)
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
 }
 
-constexpr std::string_view LastName(std::string_view spelling)
+constexpr std::string_view LastName(const char* spelling)
 {
-    std::size_t end = spelling.size();
-    while (!IsNameCharacter(spelling[end - 1]))
+    const char* end = spelling + __builtin_strlen(spelling);
+    while (!IsNameCharacter(end[-1]))
     {
         --end;
     }
-    std::size_t begin = end;
-    while (IsNameCharacter(spelling[begin - 1]))
+    const char* begin = end;
+    while (IsNameCharacter(begin[-1]))
     {
         --begin;
     }
-    return spelling.substr(begin, end - begin);
+    return {begin, static_cast<std::size_t>(end - begin)};
 }
 
 constexpr std::string_view WithoutPrefix(std::string_view name)
@@ -61,46 +59,39 @@ static_assert(LastName(Spelling<&Probe::m_member>()) == "m_member", "this compil
 static_assert(LastName(Spelling<&Probe::Function>()) == "Function", "this compiler spells member functions in another way");
 static_assert(LastName(Spelling<Probe>()) == "Probe", "this compiler spells types in another way");
 
-template <std::size_t Size> consteval std::array<char, Size> CopyOf(std::string_view text)
+constexpr char* Append(char* end, std::string_view part)
 {
-    std::array<char, Size> copy{};
-    for (std::size_t i = 0; i != Size; ++i)
+    const char* const text = part.data();
+    const std::size_t size = part.size();
+    for (std::size_t i = 0; i != size; ++i)
     {
-        copy[i] = text[i];
+        end[i] = text[i];
     }
-    return copy;
+    return end + size;
 }
 
 // The copy keeps the long name of the function out of the binary.
+template <std::size_t Size> struct Copy
+{
+    consteval explicit Copy(std::string_view name) { Append(value, name); }
+    consteval Copy(std::string_view first, std::string_view second) { Append(Append(Append(value, first), ", "), second); }
+
+    char value[Size]{};
+};
+
 template <const char* (*Spelled)()> struct Name
 {
     static constexpr std::string_view SOURCE = LastName(Spelled());
-    static constexpr auto TEXT = CopyOf<SOURCE.size()>(SOURCE);
-    static constexpr std::string_view VIEW{TEXT.data(), TEXT.size()};
+    static constexpr Copy<SOURCE.size()> TEXT{SOURCE};
+    static constexpr std::string_view VIEW{TEXT.value, SOURCE.size()};
 };
 
 template <auto First, auto Second> struct Pair
 {
     static constexpr std::string_view FIRST = LastName(Spelling<First>());
     static constexpr std::string_view SECOND = LastName(Spelling<Second>());
-    static constexpr std::string_view SEPARATOR = ", ";
-    static constexpr std::size_t SIZE = FIRST.size() + SEPARATOR.size() + SECOND.size();
-
-    static constexpr std::array<char, SIZE> TEXT = []
-    {
-        std::array<char, SIZE> text{};
-        std::size_t end = 0;
-        for (const std::string_view part : {FIRST, SEPARATOR, SECOND})
-        {
-            for (const char c : part)
-            {
-                text[end++] = c;
-            }
-        }
-        return text;
-    }();
-
-    static constexpr std::string_view VIEW{TEXT.data(), TEXT.size()};
+    static constexpr Copy<FIRST.size() + 2 + SECOND.size()> TEXT{FIRST, SECOND};
+    static constexpr std::string_view VIEW{TEXT.value, sizeof(TEXT.value)};
 };
 
 } // namespace SpelledNameDetail
