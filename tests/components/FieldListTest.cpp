@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string_view>
+#include <vector>
+
 namespace Somewhere
 {
 
@@ -85,6 +88,19 @@ TEST(FieldList, KeepsTheOrderOfItsFields)
     EXPECT_EQ(List::KEYS, (std::array<std::string_view, 2>{"plain", "inherited"}));
     static_assert(List::HasKey("plain") && !List::HasKey("radius"));
     static_assert(FieldList<>::KEYS.empty());
+}
+
+template <KeyText Key> using Hue = AccessorDescriptor<Key, &Record::SetHue, &Record::GetHue>;
+
+TEST(FieldList, SortsKeysByAllTheirBytes)
+{
+    using List = FieldList<Hue<"thresholdB">, Hue<"thresholdA">, Hue<"threshol">, Hue<"threshold">, Hue<"\xc3\xa4">, Hue<"a">>;
+    std::vector<std::string_view> keys;
+    for (const SortedKey& key : List::SORTED_KEYS)
+    {
+        keys.push_back(List::KEYS[key.index]);
+    }
+    EXPECT_EQ(keys, (std::vector<std::string_view>{"a", "threshol", "threshold", "thresholdA", "thresholdB", "\xc3\xa4"}));
 }
 
 TEST(TypeName, IsTheClassWithoutItsNamespace)

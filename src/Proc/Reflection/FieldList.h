@@ -86,7 +86,7 @@ template <KeyText Key, auto Setter, auto Getter> struct AccessorDescriptor
         }
     }();
 
-    template <class Record> using Value = std::remove_cvref_t<std::invoke_result_t<decltype(Getter), const Record&>>;
+    template <class Record> using Value = std::remove_cvref_t<decltype(Invoke(Getter, std::declval<const Record&>()))>;
 
     template <class Record> static void Read(const PropertyTree& child, Record& record, const ReadFlags* flags)
     {
@@ -111,50 +111,65 @@ template <KeyText Key, auto Setter, auto Getter> struct AccessorDescriptor
     }
 };
 
+namespace FieldListDetail
+{
+
+// Sorting is no template and compares heads, because the compiler runs it for each record. For the algorithms of the standard
+// library it would take longer than for the rest of a record.
+constexpr void SortKeys(const std::string_view* keys, std::size_t size, SortedKey* sorted)
+{
+    for (std::size_t index = 0; index != size; ++index)
+    {
+        const SortedKey key(keys[index], index);
+        std::size_t place = index;
+        for (; place != 0; --place)
+        {
+            const SortedKey& before = sorted[place - 1];
+            if (before.head < key.head || (before.head == key.head && keys[before.index] <= keys[index]))
+            {
+                break;
+            }
+            sorted[place] = before;
+        }
+        sorted[place] = key;
+    }
+}
+
+consteval bool AreUnique(const std::string_view* keys, std::size_t size, const SortedKey* sorted)
+{
+    for (std::size_t place = 1; place < size; ++place)
+    {
+        const SortedKey& key = sorted[place];
+        const SortedKey& before = sorted[place - 1];
+        if (key.head == before.head && keys[key.index] == keys[before.index])
+        {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace FieldListDetail
+
 /// The fields of a record in declaration order, each a descriptor.
 template <class... Descriptors> struct FieldList
 {
     static constexpr std::size_t SIZE = sizeof...(Descriptors);
     static constexpr std::array<std::string_view, SIZE> KEYS{Descriptors::KEY...};
 
-    /// The fields in the byte order of their keys. The algorithms of the standard library are not used here: the compiler would
-    /// take longer for them than for the rest of a record.
+    /// The fields in the byte order of their keys.
     static constexpr std::array<SortedKey, SIZE> SORTED_KEYS = []
     {
-        std::array<std::uint16_t, SIZE> order{};
-        for (std::size_t index = 0; index != SIZE; ++index)
-        {
-            std::size_t place = index;
-            for (; place != 0 && KEYS[index] < KEYS[order[place - 1]]; --place)
-            {
-                order[place] = order[place - 1];
-            }
-            order[place] = static_cast<std::uint16_t>(index);
-        }
-        std::array<SortedKey, SIZE> keys;
-        for (std::size_t place = 0; place != SIZE; ++place)
-        {
-            keys[place] = SortedKey(KEYS[order[place]], order[place]);
-        }
-        return keys;
+        std::array<SortedKey, SIZE> sorted;
+        FieldListDetail::SortKeys(KEYS.data(), SIZE, sorted.data());
+        return sorted;
     }();
 
     static consteval bool HasKey([[maybe_unused]] std::string_view key) { return ((Descriptors::KEY == key) || ...); }
 
-    static consteval bool HasUniqueKeys()
-    {
-        for (std::size_t place = 1; place < SIZE; ++place)
-        {
-            if (KEYS[SORTED_KEYS[place - 1].index] == KEYS[SORTED_KEYS[place].index])
-            {
-                return false;
-            }
-        }
-        return true;
-    }
-
     static_assert(SIZE <= std::numeric_limits<std::uint16_t>::max());
-    static_assert(HasUniqueKeys(), "two fields of one list have the same key");
+    static_assert(FieldListDetail::AreUnique(KEYS.data(), SIZE, SORTED_KEYS.data()),
+                  "two fields of one list have the same key");
 };
 
 template <class First, class Second> struct Fields<std::pair<First, Second>>
