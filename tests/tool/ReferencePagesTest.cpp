@@ -43,7 +43,7 @@ const RecordSchema& Frame()
     {
         RecordSchema record{};
         record.name = "Frame";
-        record.fields = fields;
+        record.fields = {fields.data(), fields.size()};
         record.defaults = &NoDefaults;
         record.write = [](const void*, PropertyTree::Map& target, auto...) { target["width"] = 0; };
         return record;
@@ -60,7 +60,7 @@ const RecordSchema* Turn() noexcept
     {
         RecordSchema record{};
         record.name = "Turn";
-        record.fields = fields;
+        record.fields = {fields.data(), fields.size()};
         record.defaults = &NoDefaults;
         record.write = [](const void*, PropertyTree::Map& target, auto...)
         {

@@ -57,19 +57,6 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
     static const Record& Default() { return Lasting<&MakeDefaultRecord<Record>>(); }
     static const void* ErasedDefault() { return &Default(); }
 
-    template <class Descriptor>
-    static void ReadOrReset(const PropertyTree* child, Record& record, const ReadFlags* flags, const Record& defaults)
-    {
-        if (child)
-        {
-            Descriptor::Read(*child, record, flags);
-        }
-        else if (flags->resetMissing)
-        {
-            Descriptor::Reset(record, defaults);
-        }
-    }
-
     // Each field tests the flag. If it were tested once, before the fields, the compiler would make two copies of this code.
     static void Read([[maybe_unused]] void* subject, const PropertyTree::Map& source, [[maybe_unused]] const ReadFlags* flags)
     {
@@ -77,7 +64,10 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         FindChildren(SCHEMA, source, children.data());
         [[maybe_unused]] Record& record = *static_cast<Record*>(subject);
         [[maybe_unused]] const Record& defaults = Default();
-        (ReadOrReset<Descriptors>(children[Index], record, flags, defaults), ...);
+        ((children[Index]       ? Descriptors::Read(*children[Index], record, flags)
+          : flags->resetMissing ? Descriptors::Reset(record, defaults)
+                                : void()),
+         ...);
     }
 
     // Where the fields stand in the byte order of their keys.
@@ -91,20 +81,7 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         return places;
     }();
 
-    // The bit of a field in this word, set if the field differs from its default.
-    template <class Descriptor, std::size_t Word, std::size_t Place>
-    static FieldBits ChangedBit([[maybe_unused]] const Record& record, [[maybe_unused]] const Record& defaults)
-    {
-        if constexpr (Place / FIELDS_OF_A_WORD == Word)
-        {
-            return FieldBits{!Descriptor::Equal(record, defaults)} << Place % FIELDS_OF_A_WORD;
-        }
-        else
-        {
-            return 0;
-        }
-    }
-
+    // The bits of the fields that are written. A bit is set if the field differs from its default.
     template <std::size_t Word> static FieldBits WordOf(const Record& record, bool omitDefaults)
     {
         if (!omitDefaults)
@@ -114,7 +91,10 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
             return ~FieldBits{0} >> (FIELDS_OF_A_WORD - fields);
         }
         const Record& defaults = Default();
-        return (ChangedBit<Descriptors, Word, PLACES[Index]>(record, defaults) | ...);
+        return ((PLACES[Index] / FIELDS_OF_A_WORD == Word
+                     ? FieldBits{!Descriptors::Equal(record, defaults)} << PLACES[Index] % FIELDS_OF_A_WORD
+                     : 0) |
+                ...);
     }
 
     // `written` is never passed on, so that it stays in a register.
@@ -130,15 +110,11 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         std::array<FieldBits, sizeof...(Words)> isNew = written;
         std::array<PropertyTree*, List::SIZE> children;
         WriteTargets targets(SCHEMA, target, others, isNew.data(), children.data());
-        const auto writeOrOmit = [&]<class Descriptor, std::size_t Field, std::size_t Place>()
-        {
-            if ((written[Place / FIELDS_OF_A_WORD] >> Place % FIELDS_OF_A_WORD & 1) != 0)
-            {
-                targets.Come(Field);
-                Descriptor::Write(*children[Place], record, flags);
-            }
-        };
-        (writeOrOmit.template operator()<Descriptors, Index, PLACES[Index]>(), ...);
+        // Without the expectation each field would be encoded out of line, with a jump there and back.
+        ((__builtin_expect(written[PLACES[Index] / FIELDS_OF_A_WORD] >> PLACES[Index] % FIELDS_OF_A_WORD & 1, 1) != 0
+              ? (targets.Come(Index), Descriptors::Write(*children[PLACES[Index]], record, flags))
+              : void()),
+         ...);
         targets.Finish();
     }
 
@@ -177,7 +153,7 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
 
     static constexpr RecordSchema SCHEMA{
         .name = TYPE_NAME<Record>,
-        .fields = FIELDS,
+        .fields = {FIELDS.data(), List::SIZE},
         .sortedKeys = List::SORTED_KEYS.data(),
         .knownKeys = s_knownKeys.data(),
         .areKeysFound = &s_areKeysFound,

@@ -1,5 +1,7 @@
 #include "Proc/Reflection/PropertyAccess.h"
 
+#include <span>
+
 namespace Ombrel::Proc
 {
 

@@ -9,7 +9,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string_view>
 #include <utility>
 
@@ -66,6 +65,20 @@ struct FieldSchema
     std::string_view access; // how C++ reaches it: "m_radius", or "SetHue, GetHue" for a setter and a getter
 };
 
+/// The fields of a record in declaration order. Not a `std::span`: the compiler would take longer for the constraints of its
+/// constructors than for any of the folds.
+struct FieldSchemas
+{
+    constexpr const FieldSchema* begin() const noexcept { return first; }
+    constexpr const FieldSchema* end() const noexcept { return first + count; }
+    constexpr const FieldSchema* data() const noexcept { return first; }
+    constexpr std::size_t size() const noexcept { return count; }
+    constexpr const FieldSchema& operator[](std::size_t index) const noexcept { return first[index]; }
+
+    const FieldSchema* first;
+    std::size_t count;
+};
+
 /// A key in the form that searches use, with the place of its field in the list. Constant data.
 struct SortedKey
 {
@@ -85,9 +98,9 @@ struct SortedKey
 /// index is a place in `fields`. Constant data.
 struct RecordSchema
 {
-    std::string_view name;               // of the type, without its namespace; "pair" for every pair
-    std::span<const FieldSchema> fields; // in declaration order, which is the order of reading
-    const SortedKey* sortedKeys;         // of the fields, in byte order
+    std::string_view name;       // of the type, without its namespace; "pair" for every pair
+    FieldSchemas fields;         // in declaration order, which is the order of reading
+    const SortedKey* sortedKeys; // of the fields, in byte order
 
     // In the same order the library's own texts for these keys, which entries of maps refer to, or null for other keys. They
     // are found on first use.
