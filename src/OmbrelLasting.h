@@ -27,7 +27,7 @@ inline constinit std::atomic<Constant*> g_made = nullptr;
 inline constinit bool g_isUnloading = false;
 inline constinit bool g_isUnloaded = false;
 
-inline void DestroyMade() noexcept
+[[gnu::cold]] inline void DestroyMade() noexcept
 {
     for (Constant* constant = g_made.exchange(nullptr); constant; constant = constant->next)
     {
@@ -49,7 +49,7 @@ inline void NoteUnloaded() noexcept
 }
 
 // With this priority it runs behind the exit handlers, which destroy the variables of the same library: a tree may be one.
-[[gnu::destructor(101)]] inline void DestroyIfUnloaded() noexcept
+[[gnu::destructor(101), gnu::cold]] inline void DestroyIfUnloaded() noexcept
 {
     if (g_isUnloaded)
     {
@@ -61,7 +61,7 @@ inline void NoteUnloaded() noexcept {}
 #endif
 
 // Two threads that come here at once both make the value; the first to store it wins.
-[[gnu::noinline]] inline const void* Make(Constant& constant)
+[[gnu::noinline, gnu::cold]] inline const void* Make(Constant& constant)
 {
     const void* made = constant.make();
     const void* stored = nullptr;
@@ -81,32 +81,46 @@ inline void NoteUnloaded() noexcept {}
     return made;
 }
 
-template <class Value, Value (*MakeValue)()> struct Of
+template <auto MakeValue> [[gnu::cold]] const void* New()
 {
-    static const void* Make() { return new Value(MakeValue()); }
-    static void Destroy(const void* value) noexcept { delete static_cast<const Value*>(value); }
+    return new decltype(MakeValue())(MakeValue());
+}
 
-    static inline constinit Constant s_constant{&Make, &Destroy};
-};
+template <class Value> [[gnu::cold]] void Delete(const void* value) noexcept
+{
+    delete static_cast<const Value*>(value);
+}
+
+template <const void* (*NewValue)(), void (*DeleteValue)(const void*) noexcept>
+inline constinit Constant g_constant{NewValue, DeleteValue};
 
 } // namespace gnu::visibility("hidden")]]LastingDetail
 
-/// What `MakeValue` returns, made by the first call. The reference is good before the initialisers of a program and after its
-/// destructors, until the library or program that this is compiled into is unloaded. Any number of threads may call it at once.
+/// What `NewValue` allocates on the first call, and `DeleteValue` frees. The reference is good before the initialisers of a
+/// program and after its destructors, until the library or program that this is compiled into is unloaded. Any number of
+/// threads may call it at once.
+/// @throws what `NewValue` throws; the next call then tries again
+template <class Value, const void* (*NewValue)(), void (*DeleteValue)(const void*) noexcept> const Value& LastingOf()
+{
+    LastingDetail::Constant& constant = LastingDetail::g_constant<NewValue, DeleteValue>;
+    const void* value = constant.value.load(std::memory_order_acquire);
+    return *static_cast<const Value*>(value ? value : LastingDetail::Make(constant));
+}
+
+/// The same of what `MakeValue` returns.
 /// @throws what `MakeValue` throws, and std::bad_alloc; the next call then tries again
 template <auto MakeValue> const auto& Lasting()
 {
     using Value = decltype(MakeValue());
-    LastingDetail::Constant& constant = LastingDetail::Of<Value, MakeValue>::s_constant;
-    const void* value = constant.value.load(std::memory_order_acquire);
-    return *static_cast<const Value*>(value ? value : LastingDetail::Make(constant));
+    return LastingOf<Value, &LastingDetail::New<MakeValue>, &LastingDetail::Delete<Value>>();
 }
 
 /// The same if it has been made, else null.
 template <auto MakeValue> const auto* LastingIfMade() noexcept
 {
     using Value = decltype(MakeValue());
-    return static_cast<const Value*>(LastingDetail::Of<Value, MakeValue>::s_constant.value.load(std::memory_order_acquire));
+    constexpr auto& constant = LastingDetail::g_constant<&LastingDetail::New<MakeValue>, &LastingDetail::Delete<Value>>;
+    return static_cast<const Value*>(constant.value.load(std::memory_order_acquire));
 }
 
 } // namespace Ombrel

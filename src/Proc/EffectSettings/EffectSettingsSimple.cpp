@@ -33,7 +33,7 @@ NoRecord MakeNoRecord()
 
 } // namespace
 
-OMBREL_EARLY_INIT const std::string EffectSettingsSimple::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string EffectSettingsSimple::CLASS_ID = Proc::ClassIdText(CLASS_NAME);
 
 EffectSettingsSimple::EffectSettingsSimple() : EffectSettingsSimple(InputType::One) {}
 

@@ -48,7 +48,7 @@ bool FaceItem::operator==(const FaceItem& other) const
     return face == other.face && IEffectSettings::Equals(effect, other.effect);
 }
 
-OMBREL_EARLY_INIT const std::string SettingsEffectFacePackage::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectFacePackage::CLASS_ID = Proc::ClassIdText(CLASS_NAME);
 
 const std::string& SettingsEffectFacePackage::GetClassId() const
 {

@@ -46,7 +46,7 @@ bool AreRecordsEmpty(const EffectList& effects)
 
 } // namespace
 
-OMBREL_EARLY_INIT const std::string SettingsEffectMaskBlender::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectMaskBlender::CLASS_ID = Proc::ClassIdText(CLASS_NAME);
 
 const std::string& SettingsEffectMaskBlender::GetClassId() const
 {

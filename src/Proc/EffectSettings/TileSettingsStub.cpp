@@ -5,7 +5,7 @@
 namespace Ombrel::PhotoCore
 {
 
-OMBREL_EARLY_INIT const std::string TileSettingsStub::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string TileSettingsStub::CLASS_ID = Proc::ClassIdText(CLASS_NAME);
 
 const std::string& TileSettingsStub::GetClassId() const
 {

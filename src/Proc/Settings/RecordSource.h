@@ -11,16 +11,21 @@
 namespace Ombrel::Proc
 {
 
-template <class Class> std::string MakeClassId()
+// These are compiled once. A `std::string` that is made in place would be a tenth of what the compiler does for a small record.
+OMBREL_API std::string ClassIdText(const char* name);
+OMBREL_API const void* NewClassId(const char* name); // a std::string
+OMBREL_API void DeleteClassId(const void* id) noexcept;
+
+template <class Class> const void* NewClassIdOf()
 {
-    return Class::CLASS_NAME;
+    return NewClassId(Class::CLASS_NAME);
 }
 
 /// What `GetClassId` of a record or settings class returns. It is there before the initialisers of a program and after its
 /// destructors, unlike the public `CLASS_ID`.
 template <class Class> const std::string& ClassIdOf()
 {
-    return Lasting<&MakeClassId<Class>>();
+    return LastingOf<std::string, &NewClassIdOf<Class>, &DeleteClassId>();
 }
 
 } // namespace Ombrel::Proc

@@ -48,7 +48,7 @@ struct ConverterFields
 
 } // namespace
 
-OMBREL_EARLY_INIT const std::string SettingsColorspaceConverter::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsColorspaceConverter::CLASS_ID = ClassIdText(CLASS_NAME);
 
 const std::string& SettingsColorspaceConverter::GetClassId() const
 {

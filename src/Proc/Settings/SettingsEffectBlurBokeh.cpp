@@ -5,7 +5,7 @@
 namespace Ombrel::Proc
 {
 
-OMBREL_EARLY_INIT const std::string SettingsEffectBlurBokeh::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectBlurBokeh::CLASS_ID = ClassIdText(CLASS_NAME);
 
 const std::string& SettingsEffectBlurBokeh::GetClassId() const
 {

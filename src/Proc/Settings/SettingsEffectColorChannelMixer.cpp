@@ -36,7 +36,7 @@ struct ChannelMixerFields
 
 } // namespace
 
-OMBREL_EARLY_INIT const std::string SettingsEffectColorChannelMixer::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectColorChannelMixer::CLASS_ID = ClassIdText(CLASS_NAME);
 
 const std::string& SettingsEffectColorChannelMixer::GetClassId() const
 {

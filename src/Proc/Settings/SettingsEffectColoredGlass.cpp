@@ -6,7 +6,7 @@
 namespace Ombrel::Proc
 {
 
-OMBREL_EARLY_INIT const std::string SettingsEffectColoredGlass::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectColoredGlass::CLASS_ID = ClassIdText(CLASS_NAME);
 
 const std::string& SettingsEffectColoredGlass::GetClassId() const
 {

@@ -29,7 +29,7 @@ struct HueSaturationFields
 
 } // namespace
 
-OMBREL_EARLY_INIT const std::string SettingsEffectGIMPHueSaturation::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectGIMPHueSaturation::CLASS_ID = ClassIdText(CLASS_NAME);
 
 const std::string& SettingsEffectGIMPHueSaturation::GetClassId() const
 {

@@ -6,7 +6,7 @@
 namespace Ombrel::Proc
 {
 
-OMBREL_EARLY_INIT const std::string SettingsEffectHalfTone::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectHalfTone::CLASS_ID = ClassIdText(CLASS_NAME);
 
 const std::string& SettingsEffectHalfTone::GetClassId() const
 {

@@ -6,7 +6,7 @@
 namespace Ombrel::Proc
 {
 
-OMBREL_EARLY_INIT const std::string SettingsEffectHistogram::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectHistogram::CLASS_ID = ClassIdText(CLASS_NAME);
 
 const std::string& SettingsEffectHistogram::GetClassId() const
 {

@@ -22,7 +22,7 @@ void SetFromBlendingMode(SettingsEffectImageBlender& record, Blender::BlendingMo
 
 } // namespace
 
-OMBREL_EARLY_INIT const std::string SettingsEffectImageBlender::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectImageBlender::CLASS_ID = ClassIdText(CLASS_NAME);
 
 SettingsEffectImageBlender::SettingsEffectImageBlender() = default;
 SettingsEffectImageBlender::SettingsEffectImageBlender(const SettingsEffectImageBlender&) = default;

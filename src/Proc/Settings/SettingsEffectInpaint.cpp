@@ -7,7 +7,7 @@
 namespace Ombrel::Proc
 {
 
-OMBREL_EARLY_INIT const std::string SettingsEffectInpaint::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectInpaint::CLASS_ID = ClassIdText(CLASS_NAME);
 
 const std::string& SettingsEffectInpaint::GetClassId() const
 {

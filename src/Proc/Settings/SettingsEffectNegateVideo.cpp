@@ -5,7 +5,7 @@
 namespace Ombrel::Proc
 {
 
-OMBREL_EARLY_INIT const std::string SettingsEffectNegateVideo::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectNegateVideo::CLASS_ID = ClassIdText(CLASS_NAME);
 
 const std::string& SettingsEffectNegateVideo::GetClassId() const
 {

@@ -13,7 +13,7 @@ constexpr double TOLERANCE = 1e-5;
 
 } // namespace
 
-OMBREL_EARLY_INIT const std::string SettingsEffectPixelate::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectPixelate::CLASS_ID = ClassIdText(CLASS_NAME);
 
 const std::string& SettingsEffectPixelate::GetClassId() const
 {

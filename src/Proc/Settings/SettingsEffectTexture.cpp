@@ -5,7 +5,7 @@
 namespace Ombrel::Proc
 {
 
-OMBREL_EARLY_INIT const std::string SettingsEffectTexture::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectTexture::CLASS_ID = ClassIdText(CLASS_NAME);
 
 const std::string& SettingsEffectTexture::GetClassId() const
 {

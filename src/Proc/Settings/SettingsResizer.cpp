@@ -5,7 +5,7 @@
 namespace Ombrel::Proc
 {
 
-OMBREL_EARLY_INIT const std::string SettingsResizer::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsResizer::CLASS_ID = ClassIdText(CLASS_NAME);
 
 const std::string& SettingsResizer::GetClassId() const
 {
