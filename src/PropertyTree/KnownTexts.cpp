@@ -48,7 +48,7 @@ const KnownTexts* KnownTexts::GetIfMade() noexcept
     return LastingIfMade<&Make>();
 }
 
-KnownTexts::KnownTexts(const std::vector<std::string_view>& texts)
+[[gnu::cold]] KnownTexts::KnownTexts(const std::vector<std::string_view>& texts)
 {
     std::vector<std::string_view> sorted(texts);
     std::ranges::sort(sorted);

@@ -103,7 +103,8 @@ public:
     }
 
 private:
-    bool AreEqual(const PropertyTree& a, const PropertyTree& b, int depth)
+    // The compiler would otherwise put it into itself several times.
+    [[gnu::noinline]] bool AreEqual(const PropertyTree& a, const PropertyTree& b, int depth)
     {
         if (a.isScalar())
         {

@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
 # Prints what a caller of a shared library may depend on: exported-names.sh NM LIBRARY. Fails on a name that is none of ours.
 #
-# Left out is what a compiler may emit or not, so that any build gives the same list: inline functions, thunks, and templates but
-# those that the library instantiates for its callers.
+# Left out is what a compiler may emit or not, so that any build gives the same list: inline functions, thunks and templates.
 set -euo pipefail
 export LC_ALL=C
 nm=$1 library=$2
@@ -37,19 +36,6 @@ classes() {
         done | sort
 }
 
-# The members of the layer that each settings class has compiled for it, and how many have them.
-instantiations() {
-    sed -nE 's/^W ([0-9a-f]+ )?Ombrel::PhotoCore::EffectSettingsImpl<([A-Za-z:]*), ([A-Za-z:]*)>(.*)$/\2 \3 \4/p' |
-        sort -u | awk '{
-            record = $1; derived = $2; member = $0
-            sub(/^[^ ]* [^ ]* /, "", member)
-            gsub(record "[^A-Za-z]", "Record&", member); gsub("Record" record, "Record", member)
-            gsub(derived "[^A-Za-z]", "Derived&", member); gsub("Derived" derived, "Derived", member)
-            print "Ombrel::PhotoCore::EffectSettingsImpl<Record, Derived>" member
-        }' | sort | uniq -c | awk '{ count = $1; sub(/^ *[0-9]* /, ""); print "instantiations " count " of " $0 }'
-}
-
 all=$(names)
 strong <<<"$all"
 classes <<<"$all"
-instantiations <<<"$all"

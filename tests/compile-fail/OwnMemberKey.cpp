@@ -2,7 +2,8 @@
 
 #include "Record.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
+#include "Proc/Reflection/Folds.h"
 
 class OwnSettings : public Ombrel::PhotoCore::EffectSettingsOneInputReflection<Record, OwnSettings>
 {

@@ -18,7 +18,7 @@ template <> struct EnumNames<SettingsEffectExample::Shape>
     static constexpr EnumNameTable TABLE{.rows = ROWS, .fallback = 0};
 };
 
-OMBREL_EARLY_INIT const std::string SettingsEffectExample::CLASS_ID{CLASS_NAME};
+OMBREL_EARLY_INIT const std::string SettingsEffectExample::CLASS_ID = ClassIdText(CLASS_NAME);
 
 const std::string& SettingsEffectExample::GetClassId() const
 {

@@ -96,14 +96,14 @@ TEST(PropertyTreeMapOperations, ARangeIsInserted)
 TEST(PropertyTreeMapOperations, ARangeIsMovedFromIfItsIteratorsMove)
 {
     std::map<std::string, PropertyTree> source;
-    source["a"].setString("text");
-    source["b"].setString("kept");
+    source["a"] = "text";
+    source["b"] = "kept";
     Map map;
     map["b"] = 1;
     map.insert(std::make_move_iterator(source.begin()), std::make_move_iterator(source.end()));
     EXPECT_EQ(TextOf(map), "a=\"text\" b=1 ");
     EXPECT_TRUE(source["a"].isNull());
-    EXPECT_EQ(source["b"].toString(), "kept");
+    EXPECT_EQ(source["b"].getScalar().toString(), "kept");
     Map other;
     other.insert(std::make_move_iterator(map.begin()), std::make_move_iterator(map.end()));
     EXPECT_EQ(TextOf(other), "a=\"text\" b=1 ");

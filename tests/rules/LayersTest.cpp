@@ -1,4 +1,4 @@
-#include "Proc/EffectSettings/EffectSettingsBody.h"
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
 #include "Proc/Reflection/Folds.h"
 #include "Proc/Settings/SettingsRecord.h"
 #include "support/StoredForm.h"
@@ -21,6 +21,11 @@ using Support::StoredForm;
 struct Record : Proc::SettingsRecord<Record>
 {
     static const std::string CLASS_ID;
+
+    static const Proc::RecordSchema& Schema() noexcept
+    {
+        return Proc::Describe<Record, Proc::FieldList<Proc::FieldDescriptor<&Record::m_value>>>();
+    }
 
     bool operator==(const Record& other) const { return m_value == other.m_value; }
 
@@ -68,6 +73,11 @@ struct Bare : Proc::Settings
 
     static Bare MakeDefault() { return Bare(4); }
 
+    static const Proc::RecordSchema& Schema() noexcept
+    {
+        return Proc::Describe<Bare, Proc::FieldList<Proc::FieldDescriptor<&Bare::m_value>>>();
+    }
+
     const std::string& GetClassId() const override { return CLASS_ID; }
     Settings* Clone() const override { return new Bare(*this); }
     bool IsEqualTo(const Settings&) const override { return false; }
@@ -90,26 +100,6 @@ class Impostor : public EffectSettingsOneInput<Record, Impostor>
 public:
     using EffectSettingsInput::EffectSettingsInput;
 };
-
-} // namespace
-
-namespace Ombrel::Proc
-{
-
-template <> struct Fields<Record>
-{
-    using List = FieldList<FieldDescriptor<&Record::m_value>>;
-};
-
-template <> struct Fields<Bare>
-{
-    using List = FieldList<FieldDescriptor<&Bare::m_value>>;
-};
-
-} // namespace Ombrel::Proc
-
-namespace
-{
 
 TEST(Layers, TellTheInput)
 {

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/AdjusterSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectAdjuster, AdjusterSettings>;
 
 const std::string& AdjusterSettings::GetClassId() const
 {

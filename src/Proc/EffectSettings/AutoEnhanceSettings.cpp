@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/AutoEnhanceSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectAutoEnhance, AutoEnhanceSettings>;
 
 const std::string& AutoEnhanceSettings::GetClassId() const
 {

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/AutoGlareRemoveSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectAutoGlareRemove, AutoGlareRemoveSettings>;
 
 AutoGlareRemoveSettings::AutoGlareRemoveSettings() = default;
 AutoGlareRemoveSettings::AutoGlareRemoveSettings(const AutoGlareRemoveSettings&) = default;

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/BalanceLumaSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectBalanceLuma, BalanceLumaSettings>;
 
 const std::string& BalanceLumaSettings::GetClassId() const
 {

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/BiColorToningSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectBiColorToning, BiColorToningSettings>;
 
 const std::string& BiColorToningSettings::GetClassId() const
 {

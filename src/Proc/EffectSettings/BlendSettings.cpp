@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/BlendSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectImageBlender, BlendSettings>;
 
 BlendSettings::BlendSettings() = default;
 BlendSettings::BlendSettings(const BlendSettings&) = default;

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/BlurRadialSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectBlurRadial, BlurRadialSettings>;
 
 BlurRadialSettings::BlurRadialSettings() = default;
 BlurRadialSettings::BlurRadialSettings(const BlurRadialSettings&) = default;

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/BlurSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectBlur, BlurSettings>;
 
 const std::string& BlurSettings::GetClassId() const
 {

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/CharcoalSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectCharcoal, CharcoalSettings>;
 
 const std::string& CharcoalSettings::GetClassId() const
 {

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/ColorBalanceAutoSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectColorBalanceAuto, ColorBalanceAutoSettings>;
 
 const std::string& ColorBalanceAutoSettings::GetClassId() const
 {

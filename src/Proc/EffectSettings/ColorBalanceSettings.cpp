@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/ColorBalanceSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectColorBalance, ColorBalanceSettings>;
 
 const std::string& ColorBalanceSettings::GetClassId() const
 {

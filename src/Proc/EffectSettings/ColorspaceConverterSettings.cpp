@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/ColorspaceConverterSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsColorspaceConverter, ColorspaceConverterSettings>;
 
 const std::string& ColorspaceConverterSettings::GetClassId() const
 {

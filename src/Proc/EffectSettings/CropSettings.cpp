@@ -1,14 +1,11 @@
 #include "Proc/EffectSettings/CropSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
 #include "Proc/EffectSettings/WrappingArithmetic.h"
 
 #include <cstdint>
 
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectCrop, CropSettings>;
 
 const std::string& CropSettings::GetClassId() const
 {

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/DeepAdjusterSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectDeepAdjuster, DeepAdjusterSettings>;
 
 const std::string& DeepAdjusterSettings::GetClassId() const
 {

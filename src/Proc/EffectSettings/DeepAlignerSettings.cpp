@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/DeepAlignerSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectDeepAligner, DeepAlignerSettings>;
 
 const std::string& DeepAlignerSettings::GetClassId() const
 {

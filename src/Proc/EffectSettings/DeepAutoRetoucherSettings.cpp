@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/DeepAutoRetoucherSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectDeepAutoRetoucher, DeepAutoRetoucherSettings>;
 
 const std::string& DeepAutoRetoucherSettings::GetClassId() const
 {

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/DeepRestorerSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectDeepRestorer, DeepRestorerSettings>;
 
 const std::string& DeepRestorerSettings::GetClassId() const
 {

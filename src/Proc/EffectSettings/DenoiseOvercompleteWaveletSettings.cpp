@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/DenoiseOvercompleteWaveletSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectDenoiseOvercompleteWavelet, DenoiseOvercompleteWaveletSettings>;
 
 const std::string& DenoiseOvercompleteWaveletSettings::GetClassId() const
 {

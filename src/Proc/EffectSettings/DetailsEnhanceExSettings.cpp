@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/DetailsEnhanceExSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectDetailsEnhanceEx, DetailsEnhanceExSettings>;
 
 const std::string& DetailsEnhanceExSettings::GetClassId() const
 {

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/DetailsEnhanceSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectDetailsEnhance, DetailsEnhanceSettings>;
 
 const std::string& DetailsEnhanceSettings::GetClassId() const
 {

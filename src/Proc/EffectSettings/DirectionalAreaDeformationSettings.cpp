@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/DirectionalAreaDeformationSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectDirectionalAreaDeformation, DirectionalAreaDeformationSettings>;
 
 const std::string& DirectionalAreaDeformationSettings::GetClassId() const
 {

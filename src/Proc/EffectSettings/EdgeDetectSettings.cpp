@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/EdgeDetectSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectEdgeDetect, EdgeDetectSettings>;
 
 const std::string& EdgeDetectSettings::GetClassId() const
 {

@@ -1,10 +1,13 @@
 #include "Proc/EffectSettings/EffectSettings.h"
 
 #include "Proc/ImplNames.h"
+#include "Proc/Reflection/PropertyAccess.h"
 #include "Proc/Reflection/Reflected.h"
+#include "Proc/Settings/Settings.h"
 #include "Proc/Settings/StoredKeys.h"
 #include "PropertyTree/PropertyTreeMapFiller.h"
 
+#include <cstddef>
 #include <stdexcept>
 #include <utility>
 
@@ -107,6 +110,47 @@ void EffectSettings::Deserialize(const PropertyTree& tree)
     {
         Proc::Codec<HelperSettings>::Read(found->second, m_helperSettings, &flags);
     }
+}
+
+void EffectSettings::SerializeWith(PropertyTree& tree, SchemaSource* getSchema, const void* object) const
+{
+    EffectSettings::Serialize(tree);
+    if (const Proc::RecordSchema* schema = getSchema())
+    {
+        constexpr Proc::WriteFlags flags{.resetTargets = false, .omitDefaults = true};
+        constexpr std::size_t others = 1; // the class id, where it is added
+        schema->write(object, tree.getMap(), &flags, others);
+    }
+}
+
+void EffectSettings::DeserializeWith(const PropertyTree& tree, SchemaSource* getSchema, void* object)
+{
+    EffectSettings::Deserialize(tree);
+    if (const Proc::RecordSchema* schema = getSchema())
+    {
+        constexpr Proc::ReadFlags flags{.resetMissing = true};
+        schema->read(object, tree.getMap(), &flags);
+    }
+}
+
+std::unique_ptr<PhotoUtil::ISerializableBase::IPropertyAccess> EffectSettings::MakePropertyAccess(SchemaSource* getSchema,
+                                                                                                  void* record)
+{
+    const Proc::RecordSchema* schema = getSchema ? getSchema() : nullptr;
+    return schema ? std::make_unique<Proc::PropertyAccess>(*schema, record) : nullptr;
+}
+
+std::unique_ptr<const PhotoUtil::ISerializableBase::IPropertyAccess> EffectSettings::MakePropertyAccess(SchemaSource* getSchema,
+                                                                                                        const void* record)
+{
+    // The access object promises nothing about const: what is handed out can only be read through.
+    return MakePropertyAccess(getSchema, const_cast<void*>(record));
+}
+
+bool EffectSettings::HasClassId(const IEffectSettings& effect, const std::string& id)
+{
+    const std::string& other = effect.GetEffectSettings().GetClassId();
+    return &other == &id || other == id;
 }
 
 const std::string& EffectSettings::GetImplName() const

@@ -8,6 +8,11 @@
 #include <memory>
 #include <string>
 
+namespace Ombrel::Proc
+{
+struct RecordSchema;
+}
+
 namespace Ombrel::PhotoCore
 {
 
@@ -52,6 +57,19 @@ public:
 
 protected:
     EffectSettings();
+
+    using SchemaSource = const Proc::RecordSchema*() noexcept;
+
+    /// Also the fields of `object`, which the schema describes; none without a schema.
+    void SerializeWith(PropertyTree& tree, SchemaSource* getSchema, const void* object) const;
+    void DeserializeWith(const PropertyTree& tree, SchemaSource* getSchema, void* object);
+
+    /// Access to the fields of `record`; an empty pointer without a source or a schema.
+    static std::unique_ptr<IPropertyAccess> MakePropertyAccess(SchemaSource* getSchema, void* record);
+    static std::unique_ptr<const IPropertyAccess> MakePropertyAccess(SchemaSource* getSchema, const void* record);
+
+    /// Whether the record of `effect` has the class id.
+    static bool HasClassId(const IEffectSettings& effect, const std::string& id);
 
     std::string m_implName;
     HelperSettings m_helperSettings;

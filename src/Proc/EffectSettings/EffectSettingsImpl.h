@@ -3,22 +3,26 @@
 
 #include "Proc/EffectSettings/EffectSettings.h"
 #include "Proc/Reflection/DefaultRecord.h"
-#include "Proc/Settings/Settings.h"
+#include "Proc/Settings/SettingsRecord.h"
 
+#include <concepts>
 #include <memory>
 #include <string>
-
-namespace Ombrel::Proc
-{
-struct RecordSchema;
-}
 
 namespace Ombrel::PhotoCore
 {
 
-/// The settings class `Derived` around a record held by value. This and the layers below are declared here; their bodies stand
-/// in `EffectSettingsBody.h`, for the one file of each settings class that compiles them. What is inline here is compiled by
-/// everyone who calls it, and not exported.
+/// A settings class that stores its own members in place of its record's.
+template <class Class>
+concept StoresItself = requires
+{
+    {
+        Class::Schema()
+        } -> std::same_as<const Proc::RecordSchema&>;
+};
+
+/// The settings class `Derived` around a record held by value. Everything here is compiled by whoever calls it, and not
+/// exported.
 template <class Record, class Derived> class OMBREL_API EffectSettingsImpl : public EffectSettings
 {
 public:
@@ -33,17 +37,43 @@ public:
     OMBREL_LOCAL static std::shared_ptr<IEffectSettings> CreateBase() { return std::make_shared<Derived>(); }
 
     /// What stands in the class's trees beside what every effect has there, or nothing if that does not come from a field list.
-    static const Proc::RecordSchema* GetSchema() noexcept;
+    OMBREL_LOCAL static const Proc::RecordSchema* GetSchema() noexcept
+    {
+        if constexpr (!Derived::UsesFieldList())
+        {
+            return nullptr;
+        }
+        else if constexpr (StoresItself<Derived>)
+        {
+            return &Derived::Schema();
+        }
+        else
+        {
+            return &Record::Schema();
+        }
+    }
 
     OMBREL_LOCAL Record& GetTypedSettings() noexcept { return settings; }
     OMBREL_LOCAL const Record& GetTypedSettings() const noexcept { return settings; }
 
     OMBREL_LOCAL const std::string& GetClassId() const override { return settings.Record::GetClassId(); }
 
-    void Serialize(PropertyTree& tree) const override;
-    void Deserialize(const PropertyTree& tree) override;
-    std::unique_ptr<const IPropertyAccess> GetPropertyAccess() const override;
-    std::unique_ptr<IPropertyAccess> GetPropertyAccess() override;
+    OMBREL_LOCAL void Serialize(PropertyTree& tree) const override { SerializeWith(tree, &GetSchema, GetStored()); }
+
+    OMBREL_LOCAL void Deserialize(const PropertyTree& tree) override
+    {
+        DeserializeWith(tree, &GetSchema, const_cast<void*>(GetStored()));
+    }
+
+    OMBREL_LOCAL std::unique_ptr<const IPropertyAccess> GetPropertyAccess() const override
+    {
+        return MakePropertyAccess(StoresItself<Derived> ? nullptr : &GetSchema, &settings);
+    }
+
+    OMBREL_LOCAL std::unique_ptr<IPropertyAccess> GetPropertyAccess() override
+    {
+        return MakePropertyAccess(StoresItself<Derived> ? nullptr : &GetSchema, &settings);
+    }
 
     OMBREL_LOCAL std::shared_ptr<IEffectSettings> Clone() const override
     {
@@ -53,19 +83,30 @@ public:
     OMBREL_LOCAL const Proc::Settings& GetEffectSettings() const override { return settings; }
     OMBREL_LOCAL Proc::Settings& GetEffectSettingsRef() override { return settings; }
 
-    OMBREL_LOCAL void SetEffectSettings(const Proc::Settings& other) override { settings = dynamic_cast<const Record&>(other); }
+    [[gnu::cold]] OMBREL_LOCAL void SetEffectSettings(const Proc::Settings& other) override
+    {
+        settings = dynamic_cast<const Record&>(other);
+    }
 
-    OMBREL_LOCAL void Add(const IEffectSettings& other) override { Add(dynamic_cast<const Derived&>(other)); }
+    [[gnu::cold]] OMBREL_LOCAL void Add(const IEffectSettings& other) override { Add(dynamic_cast<const Derived&>(other)); }
 
     OMBREL_LOCAL bool operator==(const IEffectSettings& other) const override
     {
-        const std::string& id = settings.Record::GetClassId();
-        const std::string& otherId = other.GetEffectSettings().GetClassId();
-        return (&otherId == &id || otherId == id) && operator==(dynamic_cast<const Derived&>(other));
+        return HasClassId(other, settings.Record::GetClassId()) && operator==(dynamic_cast<const Derived&>(other));
     }
 
     /// Compares the records and nothing else.
-    virtual bool operator==(const Derived& other) const;
+    OMBREL_LOCAL virtual bool operator==(const Derived& other) const
+    {
+        if constexpr (requires { settings == settings; })
+        {
+            return settings == other.GetTypedSettings();
+        }
+        else
+        {
+            return Proc::AreFieldsEqual(Record::Schema(), &settings, &other.GetTypedSettings());
+        }
+    }
 
     /// Does nothing, but for the effects that are additive.
     OMBREL_LOCAL virtual void Add(const Derived&) {}
@@ -75,6 +116,20 @@ protected:
     static consteval bool UsesFieldList() { return false; }
 
     Record settings;
+
+private:
+    // The object whose fields the schema describes.
+    OMBREL_LOCAL const void* GetStored() const noexcept
+    {
+        if constexpr (StoresItself<Derived>)
+        {
+            return static_cast<const Derived*>(this);
+        }
+        else
+        {
+            return &settings;
+        }
+    }
 };
 
 /// Adds how many input images the effect takes.
@@ -84,7 +139,7 @@ class OMBREL_API EffectSettingsInput : public EffectSettingsImpl<Record, Derived
 public:
     using EffectSettingsImpl<Record, Derived>::EffectSettingsImpl;
 
-    IEffectSettings::InputType GetInputType() override { return Input; }
+    OMBREL_LOCAL IEffectSettings::InputType GetInputType() override { return Input; }
 };
 
 /// Marks a class whose stored form comes from a field list: the record's, or the class's own where it has one. The former also

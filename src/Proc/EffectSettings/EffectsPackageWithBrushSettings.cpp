@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/EffectsPackageWithBrushSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<SettingsEffectMaskBlender, EffectsPackageWithBrushSettings>;
 
 EffectsPackageWithBrushSettings::EffectsPackageWithBrushSettings() = default;
 EffectsPackageWithBrushSettings::EffectsPackageWithBrushSettings(const EffectsPackageWithBrushSettings&) = default;

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/EmptySettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectEmpty, EmptySettings>;
 
 EmptySettings::EmptySettings() = default;
 EmptySettings::EmptySettings(const EmptySettings&) = default;

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/FaceDetectionSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectFaceDetection, FaceDetectionSettings>;
 
 const std::string& FaceDetectionSettings::GetClassId() const
 {

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/FacePackageSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<SettingsEffectFacePackage, FacePackageSettings>;
 
 FacePackageSettings::FacePackageSettings() = default;
 FacePackageSettings::FacePackageSettings(const FacePackageSettings&) = default;

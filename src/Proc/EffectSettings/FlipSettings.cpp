@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/FlipSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectFlip, FlipSettings>;
 
 const std::string& FlipSettings::GetClassId() const
 {

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/GIMPColorTemperatureSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectGIMPColorTemperature, GIMPColorTemperatureSettings>;
 
 const std::string& GIMPColorTemperatureSettings::GetClassId() const
 {

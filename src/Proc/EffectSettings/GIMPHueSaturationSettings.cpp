@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/GIMPHueSaturationSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectGIMPHueSaturation, GIMPHueSaturationSettings>;
 
 const std::string& GIMPHueSaturationSettings::GetClassId() const
 {

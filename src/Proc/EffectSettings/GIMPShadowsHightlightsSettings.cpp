@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/GIMPShadowsHightlightsSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectGIMPShadowsHightlights, GIMPShadowsHightlightsSettings>;
 
 const std::string& GIMPShadowsHightlightsSettings::GetClassId() const
 {

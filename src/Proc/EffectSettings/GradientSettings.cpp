@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/GradientSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectGradient, GradientSettings>;
 
 GradientSettings::GradientSettings() = default;
 GradientSettings::GradientSettings(const GradientSettings&) = default;

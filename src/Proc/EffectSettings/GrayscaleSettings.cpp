@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/GrayscaleSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectGrayscale, GrayscaleSettings>;
 
 const std::string& GrayscaleSettings::GetClassId() const
 {

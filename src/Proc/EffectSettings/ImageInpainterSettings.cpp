@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/ImageInpainterSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectImageInpainter, ImageInpainterSettings>;
 
 const std::string& ImageInpainterSettings::GetClassId() const
 {

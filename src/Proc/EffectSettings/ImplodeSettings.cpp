@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/ImplodeSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectImplode, ImplodeSettings>;
 
 const std::string& ImplodeSettings::GetClassId() const
 {

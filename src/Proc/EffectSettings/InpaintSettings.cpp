@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/InpaintSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectInpaint, InpaintSettings>;
 
 const std::string& InpaintSettings::GetClassId() const
 {

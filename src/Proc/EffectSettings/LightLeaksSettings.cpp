@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/LightLeaksSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectLightLeaks, LightLeaksSettings>;
 
 const std::string& LightLeaksSettings::GetClassId() const
 {

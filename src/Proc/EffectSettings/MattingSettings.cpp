@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/MattingSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectMatting, MattingSettings>;
 
 const std::string& MattingSettings::GetClassId() const
 {

@@ -2,7 +2,7 @@
 #define OMBREL_PROC_EFFECT_SETTINGS_OWN_EFFECT_H
 
 #include "Proc/EffectSettings/EffectPointerCodec.h"
-#include "Proc/EffectSettings/EffectSettingsBody.h"
+#include "Proc/Reflection/PropertyAccess.h"
 #include "Proc/Settings/RecordSource.h"
 #include "Proc/Settings/RgbaColorCodec.h"
 
@@ -10,7 +10,6 @@
 //
 // - For the record, in its source file: `Describe`, `FieldList`, `FieldDescriptor`, `AccessorDescriptor`, `EnumNames`,
 //   `EnumNameRow`, `EnumNameTable`, `Fields` for a type that cannot have a `Schema` function, `ClassIdOf`, `OMBREL_EARLY_INIT`.
-// - For the settings class, in its source file: the explicit instantiation of `EffectSettingsImpl<Record, Class>`.
 // - To read and write a record without its effect: `Reflected`, `ReadContext`, `WriteContext`, `PropertyAccessImpl`.
 //
 // Everything else in `Proc/Reflection` is detail and may change.

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/PopArtSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectPopArt, PopArtSettings>;
 
 const std::string& PopArtSettings::GetClassId() const
 {

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/RemoveBackgroundSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectRemoveBackground, RemoveBackgroundSettings>;
 
 RemoveBackgroundSettings::RemoveBackgroundSettings() = default;
 RemoveBackgroundSettings::RemoveBackgroundSettings(const RemoveBackgroundSettings&) = default;

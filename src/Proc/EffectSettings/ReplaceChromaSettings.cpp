@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/ReplaceChromaSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectReplaceChroma, ReplaceChromaSettings>;
 
 const std::string& ReplaceChromaSettings::GetClassId() const
 {

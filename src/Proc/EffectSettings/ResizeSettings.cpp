@@ -3,7 +3,6 @@
 #include "Exception/Exception.h"
 #include "OmbrelLasting.h"
 #include "Proc/EarlyInit.h"
-#include "Proc/EffectSettings/EffectSettingsBody.h"
 #include "Proc/ImplNames.h"
 #include "Proc/Reflection/Folds.h"
 
@@ -50,8 +49,6 @@ std::string MakeImplName()
 }
 
 } // namespace
-
-template class EffectSettingsImpl<Proc::SettingsResizer, ResizeSettings>;
 
 OMBREL_EARLY_INIT const std::string ResizeSettings::FRAME_SIZE_MODE{"frameSize"};
 OMBREL_EARLY_INIT const std::string ResizeSettings::SCALE_FACTOR{"scaleFactor"};

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/RotateSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectRotate, RotateSettings>;
 
 const std::string& RotateSettings::GetClassId() const
 {

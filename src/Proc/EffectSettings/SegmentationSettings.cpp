@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/SegmentationSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectSegmentation, SegmentationSettings>;
 
 const std::string& SegmentationSettings::GetClassId() const
 {

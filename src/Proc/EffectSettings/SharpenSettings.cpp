@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/SharpenSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectSharpen, SharpenSettings>;
 
 const std::string& SharpenSettings::GetClassId() const
 {

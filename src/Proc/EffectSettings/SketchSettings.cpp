@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/SketchSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectSketch, SketchSettings>;
 
 SketchSettings::SketchSettings() = default;
 SketchSettings::SketchSettings(const SketchSettings&) = default;

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/SmartBlurSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectSmartBlur, SmartBlurSettings>;
 
 const std::string& SmartBlurSettings::GetClassId() const
 {

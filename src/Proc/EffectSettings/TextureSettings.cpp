@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/TextureSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectTexture, TextureSettings>;
 
 TextureSettings::TextureSettings() = default;
 TextureSettings::TextureSettings(const TextureSettings&) = default;

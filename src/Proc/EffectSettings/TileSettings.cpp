@@ -1,7 +1,6 @@
 #include "Proc/EffectSettings/TileSettings.h"
 
 #include "Proc/EffectSettings/EffectPointerCodec.h"
-#include "Proc/EffectSettings/EffectSettingsBody.h"
 #include "Proc/Reflection/Folds.h"
 
 #include <algorithm>
@@ -11,8 +10,6 @@
 
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<TileSettingsStub, TileSettings>;
 
 namespace
 {

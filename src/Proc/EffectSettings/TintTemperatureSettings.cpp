@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/TintTemperatureSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectTintTemperature, TintTemperatureSettings>;
 
 const std::string& TintTemperatureSettings::GetClassId() const
 {

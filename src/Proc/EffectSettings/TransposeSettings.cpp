@@ -1,13 +1,9 @@
 #include "Proc/EffectSettings/TransposeSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 #include <cstdint>
 
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectTranspose, TransposeSettings>;
 
 TransposeSettings::TransposeSettings() = default;
 TransposeSettings::TransposeSettings(const TransposeSettings&) = default;

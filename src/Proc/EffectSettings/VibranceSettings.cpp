@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/VibranceSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectVibrance, VibranceSettings>;
 
 const std::string& VibranceSettings::GetClassId() const
 {

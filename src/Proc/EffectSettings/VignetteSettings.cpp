@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/VignetteSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectVignette, VignetteSettings>;
 
 const std::string& VignetteSettings::GetClassId() const
 {

@@ -1,11 +1,7 @@
 #include "Proc/EffectSettings/WhiteBalanceSettings.h"
 
-#include "Proc/EffectSettings/EffectSettingsBody.h"
-
 namespace Ombrel::PhotoCore
 {
-
-template class EffectSettingsImpl<Proc::SettingsEffectWhiteBalance, WhiteBalanceSettings>;
 
 const std::string& WhiteBalanceSettings::GetClassId() const
 {

@@ -11,26 +11,25 @@
 namespace Ombrel::Proc
 {
 
-/// Key-by-key access to a record of the described type. The results are those of reading or writing the whole record, but only
+/// Key-by-key access to a record. The results are those of reading or writing the whole record, but only
 /// the one field is read or written. It has a plain pointer to the record, which must outlive it.
 class OMBREL_API PropertyAccess : public PhotoUtil::ISerializableBase::IPropertyAccess
 {
 public:
+    /// Access to the `record` that `schema` describes.
+    PropertyAccess(const RecordSchema& schema, void* record) noexcept;
     ~PropertyAccess() override;
 
     PropertyTree GetProperty(const std::string& key) const override;
     void SetProperty(const std::string& key, const PropertyTree& value) override;
     std::vector<std::string> ListProperties() const override;
 
-protected:
-    PropertyAccess(const RecordSchema& schema, void* record) noexcept;
-
 private:
     const RecordSchema& m_schema;
     void* m_record;
 };
 
-/// Key-by-key access to a reflected record.
+/// The same for a caller who knows the record's type.
 template <class Record> class PropertyAccessImpl final : public PropertyAccess
 {
 public:

@@ -1,9 +1,5 @@
 #include "FrameSettings.h"
 
-#include "Proc/EffectSettings/OwnEffect.h"
-
-template class Ombrel::PhotoCore::EffectSettingsImpl<Studio::SettingsEffectFrame, Studio::FrameSettings>;
-
 namespace Studio
 {
 

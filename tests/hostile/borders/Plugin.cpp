@@ -1,8 +1,8 @@
 #include "Plugin.h"
 
 #include "../../consumer/own-effect/FrameSettings.h"
-#include "Proc/EffectSettings/EffectSettingsBody.h"
 #include "Proc/EffectSettings/EffectSettingsExport.h"
+#include "Proc/EffectSettings/EffectSettingsImpl.h"
 #include "Proc/EffectSettings/VibranceSettings.h"
 #include "PropertyTree/PropertyTree.h"
 
