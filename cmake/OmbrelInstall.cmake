@@ -73,7 +73,7 @@ ombrel_install_library(EffectSettings
   DESCRIPTION "${PROJECT_DESCRIPTION}"
   FOLDERS Conf Exception PhotoUtil Proc PropertyTree
   PRIVATE_HEADERS Characters.h KindNames.h KnownTexts.h PropertyTreeKey.h PropertyTreeMapFiller.h PropertyTreeMapIndex.h
-                  PropertyTreeMapInternals.h RegisteredFactories.h ScaledInteger.h StoredTexts.h WrappingArithmetic.h)
+                  PropertyTreeMapInternals.h RegisteredClasses.h ScaledInteger.h StoredTexts.h WrappingArithmetic.h)
 install(FILES ${PROJECT_SOURCE_DIR}/debugger/ombrel_gdb.py ${PROJECT_SOURCE_DIR}/debugger/ombrel.natvis
         DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrel-effect-settings)
 if(TARGET ombrel_PropertyTreeJson)

@@ -23,7 +23,7 @@ expect "libraries" "$expected" "$(find "$libdir" -mindepth 1 -maxdepth 1 -name '
 # Every header of the library is there but the private ones, and needs no other folder.
 expected=$(cd "$SOURCE_DIR/src" &&
     find OmbrelExport.h OmbrelLasting.h OmbrelVersion.h Conf Exception PhotoUtil Proc PropertyTree PropertyTreeJson -name '*.h' |
-    grep -vxF -e Proc/EffectSettings/WrappingArithmetic.h -e Proc/EffectSettings/RegisteredFactories.h -e Proc/Settings/ScaledInteger.h \
+    grep -vxF -e Proc/EffectSettings/WrappingArithmetic.h -e Proc/EffectSettings/RegisteredClasses.h -e Proc/Settings/ScaledInteger.h \
         -e Proc/EffectSettings/StoredTexts.h -e PropertyTree/Characters.h -e PropertyTree/KindNames.h \
         -e PropertyTree/KnownTexts.h -e PropertyTree/PropertyTreeKey.h -e PropertyTree/PropertyTreeMapFiller.h \
         -e PropertyTree/PropertyTreeMapIndex.h -e PropertyTree/PropertyTreeMapInternals.h \

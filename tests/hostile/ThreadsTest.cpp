@@ -276,5 +276,39 @@ TEST(Threads, FindWhatAnotherRegisters)
             }
         });
 }
+TEST(Threads, FindTheClassesThatAnotherRegisters)
+{
+    constexpr int count = 100;
+    std::atomic<int> registered = 0;
+    OnAllThreads(
+        [&registered](std::size_t number)
+        {
+            const auto idOf = [](int index) { return "EFFECT_CLASS_OF_A_THREAD_" + std::to_string(index); };
+            if (number == 0)
+            {
+                for (int index = 0; index < count; ++index)
+                {
+                    const std::string id = idOf(index);
+                    EffectClass effectClass = EffectClasses()[0];
+                    effectClass.classId = id.c_str();
+                    RegisterEffectClass(effectClass);
+                    registered = index + 1;
+                }
+                return;
+            }
+            for (int known = 0; known < count;)
+            {
+                known = registered;
+                if (known != 0)
+                {
+                    const std::string last = idOf(known - 1);
+                    EXPECT_TRUE(IEffectSettings::CreateEffectSettings(last));
+                    EXPECT_EQ(Ombrel::PhotoCore::FindEffectClass(last)->classId, last);
+                    EXPECT_GE(Ombrel::PhotoCore::RegisteredClassIds().size(), static_cast<std::size_t>(known));
+                }
+                EXPECT_EQ(Ombrel::PhotoCore::FindEffectClass("EFFECT_VIBRANCE")->className, "VibranceSettings");
+            }
+        });
+}
 
 } // namespace Catalogue

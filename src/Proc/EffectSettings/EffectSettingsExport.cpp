@@ -75,7 +75,7 @@
 #include "Proc/EffectSettings/PopArtSettings.h"
 #include "Proc/EffectSettings/PosterizeSettings.h"
 #include "Proc/EffectSettings/ReduceLocalLumaSettings.h"
-#include "Proc/EffectSettings/RegisteredFactories.h"
+#include "Proc/EffectSettings/RegisteredClasses.h"
 #include "Proc/EffectSettings/RemoveBackgroundSettings.h"
 #include "Proc/EffectSettings/ReplaceChromaSettings.h"
 #include "Proc/EffectSettings/ResizeSettings.h"
@@ -99,7 +99,6 @@
 #include "Proc/EffectSettings/VignetteFilterSettings.h"
 #include "Proc/EffectSettings/VignetteSettings.h"
 #include "Proc/EffectSettings/WhiteBalanceSettings.h"
-#include "Proc/Reflection/SpelledName.h"
 #include "PropertyTree/KeyHead.h"
 #include "PropertyTree/KnownTexts.h"
 
@@ -268,8 +267,7 @@ static_assert(
 // The start-up list first and whole: a class that is added here without a thought for it would change what is registered.
 static_assert(std::ranges::is_sorted(CLASSES, {}, &EffectClass::registration));
 
-// The ids that the library registers, in a constant hash table: each is at the place that its hash names, or at the next free
-// one.
+// The library's ids in a constant hash table: each is at the place that its hash names, or at the next free one.
 class OwnClasses
 {
 public:
@@ -277,10 +275,6 @@ public:
     {
         for (std::size_t index = 0; index != CLASSES.size(); ++index)
         {
-            if (CLASSES[index].registration == Registration::None)
-            {
-                continue;
-            }
             std::size_t place = PlaceOf(CLASSES[index].classId);
             while (m_numbers[place] != 0)
             {
@@ -325,6 +319,17 @@ private:
 
 constexpr OwnClasses OWN_CLASSES;
 
+// Whether the library makes the class by its id.
+bool IsCreated(const EffectClass* own) noexcept
+{
+    return own && own->registration != Registration::None;
+}
+
+[[noreturn]] void ThrowDuplicate(const std::string& id)
+{
+    ThrowException("Duplicate class id (" + id + ")!", REGISTER_FACTORY_LOCATION);
+}
+
 // Only says where the texts are; they are listed on first use.
 [[maybe_unused]] const bool g_hasTexts = (KnownTexts::SetSource(&ListStoredTexts), true);
 
@@ -335,26 +340,73 @@ std::span<const EffectClass> EffectClasses() noexcept
     return CLASSES;
 }
 
+const EffectClass* FindEffectClass(std::string_view id) noexcept
+{
+    const EffectClass* own = OWN_CLASSES.Find(id);
+    if (IsCreated(own))
+    {
+        return own;
+    }
+    const RegisteredClasses::Entry* entry = RegisteredClasses::Find(id);
+    if (!entry)
+    {
+        return own;
+    }
+    return entry->effectClass ? &*entry->effectClass : nullptr;
+}
+
+bool IsRegistered(std::string_view id) noexcept
+{
+    return IsCreated(OWN_CLASSES.Find(id)) || RegisteredClasses::Find(id);
+}
+
+std::vector<std::string> RegisteredClassIds()
+{
+    std::vector<std::string> ids;
+    for (const EffectClass& effectClass : CLASSES)
+    {
+        if (IsCreated(&effectClass))
+        {
+            ids.emplace_back(effectClass.classId);
+        }
+    }
+    for (const RegisteredClasses::Entry* entry : RegisteredClasses::Get().All())
+    {
+        ids.push_back(entry->id);
+    }
+    std::ranges::sort(ids);
+    return ids;
+}
+
+void RegisterEffectClass(const EffectClass& effectClass)
+{
+    if (IsCreated(OWN_CLASSES.Find(effectClass.classId)) || !RegisteredClasses::Get().Add(effectClass))
+    {
+        ThrowDuplicate(effectClass.classId);
+    }
+}
+
 void IEffectSettings::RegisterFactory(const std::string& id, Factory factory)
 {
-    if (OWN_CLASSES.Find(id) || !RegisteredFactories::Get().Add(id, std::move(factory)))
+    if (IsCreated(OWN_CLASSES.Find(id)) || !RegisteredClasses::Get().Add(id, std::move(factory)))
     {
-        ThrowException("Duplicate class id (" + id + ")!", REGISTER_FACTORY_LOCATION);
+        ThrowDuplicate(id);
     }
 }
 
 std::shared_ptr<IEffectSettings> IEffectSettings::CreateEffectSettings(const std::string& id)
 {
-    if (const EffectClass* own = OWN_CLASSES.Find(id))
+    const EffectClass* own = OWN_CLASSES.Find(id);
+    if (IsCreated(own))
     {
         return own->create();
     }
-    const Factory* create = RegisteredFactories::Get().Find(id);
-    if (!create)
+    const RegisteredClasses::Entry* registered = RegisteredClasses::Find(id);
+    if (!registered)
     {
         ThrowException("Unknown Effect Setting type (" + id + ")!", CREATE_EFFECT_SETTINGS_LOCATION);
     }
-    return (*create)();
+    return registered->factory();
 }
 
 } // namespace Ombrel::PhotoCore

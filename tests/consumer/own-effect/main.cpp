@@ -5,6 +5,7 @@
 
 #include "Exception/Exception.h"
 #include "Proc/EffectSettings/EffectSettings.h"
+#include "Proc/EffectSettings/EffectSettingsExport.h"
 #include "Proc/Settings/SettingsEffectColorBalanceAuto.h"
 #include "PropertyTree/PropertyTree.h"
 
@@ -41,10 +42,11 @@ void TestRegistry()
     Expect("before registration", ErrorOf([] { IEffectSettings::CreateEffectSettings("EFFECT_FRAME"); }),
            "Unknown Effect Setting type (EFFECT_FRAME)!");
 
-    IEffectSettings::RegisterFactory("EFFECT_FRAME", &FrameSettings::CreateBase);
+    Ombrel::PhotoCore::RegisterEffectClass<FrameSettings>();
     Expect("second registration", ErrorOf([] { IEffectSettings::RegisterFactory("EFFECT_FRAME", &FrameSettings::CreateBase); }),
            "Duplicate class id (EFFECT_FRAME)!");
 
+    Expect("class", Ombrel::PhotoCore::FindEffectClass("EFFECT_FRAME")->className, "FrameSettings");
     const auto effect = IEffectSettings::CreateEffectSettings("EFFECT_FRAME");
     Expect("class id", effect->GetClassId(), "EFFECT_FRAME");
     Expect("made by the own class", dynamic_cast<FrameSettings*>(effect.get()) != nullptr, true);

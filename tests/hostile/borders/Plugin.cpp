@@ -54,7 +54,7 @@ std::int32_t WidthOf(const IEffectSettings& effect)
 
 void RegisterFrame()
 {
-    IEffectSettings::RegisterFactory("EFFECT_FRAME", &FrameSettings::CreateBase);
+    RegisterEffectClass<FrameSettings>();
 }
 
 std::int32_t StrengthOf(const IEffectSettings& effect)
@@ -111,8 +111,6 @@ std::string Exercise()
 
 } // namespace
 } // namespace Borders
-
-template class Ombrel::PhotoCore::EffectSettingsImpl<Borders::ImpostorRecord, Borders::ImpostorSettings>;
 
 const Borders::Plugin* BordersPlugin()
 {
