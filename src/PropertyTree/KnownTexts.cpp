@@ -3,10 +3,9 @@
 #include "OmbrelLasting.h"
 #include "PropertyTree/KeyHead.h"
 
-#include <algorithm>
 #include <atomic>
 #include <bit>
-#include <limits>
+#include <set>
 #include <string>
 
 namespace Ombrel
@@ -50,10 +49,7 @@ const KnownTexts* KnownTexts::GetIfMade() noexcept
 
 [[gnu::cold]] KnownTexts::KnownTexts(const std::vector<std::string_view>& texts)
 {
-    std::vector<std::string_view> sorted(texts);
-    std::ranges::sort(sorted);
-    sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
-    sorted.resize(std::min<std::size_t>(sorted.size(), std::numeric_limits<std::uint16_t>::max()));
+    const std::set<std::string_view> sorted(texts.begin(), texts.end());
     m_numbers.resize(std::bit_ceil(4 * sorted.size() + 1));
     m_keys.reserve(sorted.size());
     for (const std::string_view text : sorted)

@@ -17,11 +17,11 @@ public:
     /// For a caller's record that is not used before its `CLASS_ID` is constructed. This library's records override it.
     const std::string& GetClassId() const override { return Record::CLASS_ID; }
 
-    Settings* Clone() const override { return new Record(static_cast<const Record&>(*this)); }
+    [[gnu::cold]] Settings* Clone() const override { return new Record(static_cast<const Record&>(*this)); }
 
     /// Evaluates `other == *this`.
     /// @throws std::bad_cast if `other` is a record of another type
-    bool IsEqualTo(const Settings& other) const override
+    [[gnu::cold]] bool IsEqualTo(const Settings& other) const override
     {
         return dynamic_cast<const Record&>(other) == static_cast<const Record&>(*this);
     }
