@@ -83,6 +83,13 @@ if(TARGET ombrel_PropertyTreeJson)
     PRIVATE_HEADERS JsonFault.h JsonNumber.h JsonOutput.h JsonScanner.h JsonText.h JsonTreeBuilder.h MessageText.h
     REQUIRES ombrel-effect-settings)
 endif()
+if(TARGET ombrel_EffectInspection)
+  ombrel_install_library(EffectInspection
+    DESCRIPTION "What stored effects hold, and what is wrong with them"
+    FOLDERS Inspection
+    PRIVATE_HEADERS EffectCheck.h Findings.h Nearest.h Place.h RecordInfo.h ValueCheck.h Values.h
+    REQUIRES ombrel-effect-settings)
+endif()
 if(TARGET ombrel-effects) # its own rule installs it
   file(RELATIVE_PATH toLibraries "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
   set_target_properties(ombrel-effects PROPERTIES INSTALL_RPATH "$ORIGIN/${toLibraries}")
@@ -91,6 +98,9 @@ endif()
 set(OMBREL_COMPONENTS EffectSettings)
 if(TARGET ombrel_PropertyTreeJson)
   list(APPEND OMBREL_COMPONENTS PropertyTreeJson)
+endif()
+if(TARGET ombrel_EffectInspection)
+  list(APPEND OMBREL_COMPONENTS EffectInspection)
 endif()
 configure_package_config_file(
   ${PROJECT_SOURCE_DIR}/cmake/OmbrelEffectSettingsConfig.cmake.in ${PROJECT_BINARY_DIR}/OmbrelEffectSettingsConfig.cmake

@@ -36,8 +36,8 @@ build_layout() {
         -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O0 -g1" \
         -DCMAKE_UNITY_BUILD=ON \
         -DCMAKE_INSTALL_PREFIX=/opt/ombrel -DCMAKE_INSTALL_LIBDIR="$(libdir_of "$3")" -DBUILD_SHARED_LIBS=$shared \
-        -DOMBREL_BUILD_JSON=ON -DOMBREL_BUILD_TOOLS=ON -DOMBREL_BUILD_TESTS=OFF -DOMBREL_BUILD_BENCHMARKS=OFF
-    "$CMAKE" --build "$2" --target ombrel-effects
+        -DOMBREL_BUILD_JSON=ON -DOMBREL_BUILD_INSPECTION=ON -DOMBREL_BUILD_TOOLS=ON -DOMBREL_BUILD_TESTS=OFF -DOMBREL_BUILD_BENCHMARKS=OFF
+    "$CMAKE" --build "$2" --target ombrel-effects ombrel_EffectInspection
 }
 
 # A copy of the consumers' sources outside the project, so that nothing is found by standing near it.

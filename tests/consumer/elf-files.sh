@@ -9,7 +9,7 @@ mapfile -t files < <(cd "$prefix" && find . -type f -not -name '*.a' -printf '%P
     while read -r file; do if readelf -h "$file" >/dev/null 2>&1; then echo "$file"; fi; done)
 expected=bin/ombrel-effects
 [[ $LAYOUT == static-* ]] ||
-    expected=$(printf '%s\n' bin/ombrel-effects "$libdir"/libombrel-{effect-settings,property-tree-json}.so."$VERSION")
+    expected=$(printf '%s\n' bin/ombrel-effects "$libdir"/libombrel-{effect-inspection,effect-settings,property-tree-json}.so."$VERSION")
 expect "ELF files" "$expected" "$(printf '%s\n' "${files[@]}")"
 
 for file in "${files[@]}"; do

@@ -14,22 +14,23 @@ done
 
 # The libraries of this layout and no others.
 if [[ $LAYOUT == shared-* ]]; then
-    expected=$(printf '%s\n' libombrel-{effect-settings,property-tree-json}.so{,."${VERSION%.*}",."$VERSION"} | sort)
+    expected=$(printf '%s\n' libombrel-{effect-inspection,effect-settings,property-tree-json}.so{,."${VERSION%.*}",."$VERSION"} | sort)
 else
-    expected=$(printf '%s\n' libombrel-{effect-settings,property-tree-json}.a)
+    expected=$(printf '%s\n' libombrel-{effect-inspection,effect-settings,property-tree-json}.a)
 fi
 expect "libraries" "$expected" "$(find "$libdir" -mindepth 1 -maxdepth 1 -name 'lib*' -printf '%f\n' | sort)"
 
 # Every header of the library is there but the private ones, and needs no other folder.
 expected=$(cd "$SOURCE_DIR/src" &&
-    find OmbrelExport.h OmbrelLasting.h OmbrelVersion.h Conf Exception PhotoUtil Proc PropertyTree PropertyTreeJson -name '*.h' |
+    find OmbrelExport.h OmbrelLasting.h OmbrelVersion.h Conf Exception Inspection PhotoUtil Proc PropertyTree PropertyTreeJson -name '*.h' |
     grep -vxF -e Proc/EffectSettings/WrappingArithmetic.h -e Proc/EffectSettings/RegisteredClasses.h -e Proc/Settings/ScaledInteger.h \
         -e Proc/EffectSettings/StoredTexts.h -e PropertyTree/Characters.h -e PropertyTree/KindNames.h \
         -e PropertyTree/KnownTexts.h -e PropertyTree/PropertyTreeKey.h -e PropertyTree/PropertyTreeMapFiller.h \
         -e PropertyTree/PropertyTreeMapIndex.h -e PropertyTree/PropertyTreeMapInternals.h \
         -e PropertyTreeJson/JsonFault.h -e PropertyTreeJson/JsonNumber.h -e PropertyTreeJson/JsonOutput.h \
         -e PropertyTreeJson/JsonScanner.h -e PropertyTreeJson/JsonText.h -e PropertyTreeJson/JsonTreeBuilder.h \
-        -e PropertyTreeJson/MessageText.h |
+        -e PropertyTreeJson/MessageText.h -e Inspection/EffectCheck.h -e Inspection/Findings.h -e Inspection/Nearest.h \
+        -e Inspection/Place.h -e Inspection/RecordInfo.h -e Inspection/ValueCheck.h -e Inspection/Values.h |
     sort)
 expect "headers" "$expected" "$(cd "$include" && find . -name '*.h' -printf '%P\n' | sort)"
 sed 's/.*/#include "&"/' <<<"$expected" | "$CXX" -std=c++20 -fsyntax-only -I "$include" -x c++ - ||

@@ -9,7 +9,7 @@ work=$WORK_DIR/pkg-config-$LAYOUT
 copy_consumer "$work"
 cd "$work"
 
-for package in ombrel-effect-settings ombrel-property-tree-json; do
+for package in ombrel-effect-settings ombrel-property-tree-json ombrel-effect-inspection; do
     expect "version of $package" "$VERSION" "$(pkg-config --modversion $package)"
     expect "includes of $package" "$prefix/include/Ombrel" "$(realpath "$(pkg-config --variable=includedir $package)")"
     expect "libraries of $package" "$libdir" "$(realpath "$(pkg-config --variable=libdir $package)")"

@@ -16,7 +16,7 @@ mkdir -p "$work"
 run_program "$work/version" "$VERSION, as numbers $VERSION, library $VERSION"
 
 expect "version of the tool" "ombrel-effects $VERSION" "$("$prefix/bin/ombrel-effects" --version)"
-for package in ombrel-effect-settings ombrel-property-tree-json; do
+for package in ombrel-effect-settings ombrel-property-tree-json ombrel-effect-inspection; do
     expect "version of $package for pkg-config" "$VERSION" "$(pkg-config --modversion $package)"
 done
 cat >"$work/package.cmake" <<'END'
@@ -35,7 +35,7 @@ if [[ $LAYOUT == shared-* ]]; then
     0.*) compatible=${VERSION%.*} ;;
     *) compatible=${VERSION%%.*} ;;
     esac
-    for library in libombrel-effect-settings libombrel-property-tree-json; do
+    for library in libombrel-effect-settings libombrel-property-tree-json libombrel-effect-inspection; do
         soname=$(readelf -dW "$libdir/$library.so" | sed -n 's/.*(SONAME).*\[\(.*\)\]/\1/p')
         expect "name of $library for the loader" "$library.so.$compatible" "$soname"
     done

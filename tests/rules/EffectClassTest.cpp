@@ -70,7 +70,8 @@ std::string RefusalOf(const EffectClass& effectClass)
 
 EffectClass GrainAs(const char* id)
 {
-    return {"GrainSettings", id, &GrainSettings::CreateBase, &GrainSettings::GetSchema, Registration::Factory};
+    return {"GrainSettings",      id, &GrainSettings::CreateBase, &GrainSettings::GetSchema, &GrainSettings::StoredOf,
+            Registration::Factory};
 }
 
 TEST(EffectClass, TheLibrarysOwnAreFound)
@@ -85,7 +86,9 @@ TEST(EffectClass, TheLibrarysOwnAreFound)
         }
     }
     EXPECT_EQ(FindEffectClass("EFFECT_VIBRANCE")->getSchema(), &Proc::SettingsEffectVibrance::Schema());
-    EXPECT_EQ(FindEffectClass(ResizeSettings().GetClassId())->getSchema(), &ResizeSettings::Schema());
+    ResizeSettings resize; // stores itself
+    EXPECT_EQ(FindEffectClass(resize.GetClassId())->getSchema(), &ResizeSettings::Schema());
+    EXPECT_EQ(FindEffectClass(resize.GetClassId())->getStored(resize), &resize);
 }
 
 TEST(EffectClass, OneOfTheLibraryWithoutAFactoryIsFound)
@@ -124,6 +127,7 @@ TEST(EffectClass, ACallersIsFoundAndCreatedByItsId)
     EffectSettings::DeserializePtr(Map({{"name", "EFFECT_GRAIN"}, {"size", 4}}), effect);
     EXPECT_EQ(dynamic_cast<const GrainSettings&>(*effect).GetTypedSettings().m_size, 4);
     EXPECT_EQ(FindEffectClass(effect->GetClassId()), found);
+    EXPECT_EQ(found->getStored(*effect), &dynamic_cast<GrainSettings&>(*effect).GetTypedSettings());
 }
 
 TEST(EffectClass, ItsTextsAreCopied)
@@ -131,7 +135,8 @@ TEST(EffectClass, ItsTextsAreCopied)
     {
         const std::string name = "OtherGrainSettings of a library that goes";
         const std::string id = "EFFECT_GRAIN_WITH_A_LONG_NAME";
-        RegisterEffectClass({name, id.c_str(), &GrainSettings::CreateBase, &GrainSettings::GetSchema, Registration::None});
+        RegisterEffectClass({name, id.c_str(), &GrainSettings::CreateBase, &GrainSettings::GetSchema, &GrainSettings::StoredOf,
+                             Registration::None});
     }
     const EffectClass* found = FindEffectClass("EFFECT_GRAIN_WITH_A_LONG_NAME");
     EXPECT_EQ(found->className, "OtherGrainSettings of a library that goes");

@@ -146,9 +146,26 @@ template <class Effect> consteval auto SchemaOf()
     }
 }
 
+void* GetNothing(IEffectSettings&) noexcept
+{
+    return nullptr;
+}
+
+template <class Effect> consteval auto StoredOf()
+{
+    if constexpr (requires { &Effect::StoredOf; })
+    {
+        return &Effect::StoredOf;
+    }
+    else
+    {
+        return &GetNothing;
+    }
+}
+
 template <class Effect> consteval EffectClass Entry(Registration registration = Registration::StartUpList)
 {
-    return {Proc::TYPE_NAME<Effect>, IdOf<Effect>(), &Effect::CreateBase, SchemaOf<Effect>(), registration};
+    return {Proc::TYPE_NAME<Effect>, IdOf<Effect>(), &Effect::CreateBase, SchemaOf<Effect>(), StoredOf<Effect>(), registration};
 }
 
 // The order of the start-up list is fixed.
@@ -363,18 +380,18 @@ bool IsRegistered(std::string_view id) noexcept
 std::vector<std::string> RegisteredClassIds()
 {
     std::vector<std::string> ids;
+    const auto add = [&ids](std::string_view id) { ids.emplace(std::ranges::upper_bound(ids, id), id); };
     for (const EffectClass& effectClass : CLASSES)
     {
         if (IsCreated(&effectClass))
         {
-            ids.emplace_back(effectClass.classId);
+            add(effectClass.classId);
         }
     }
     for (const RegisteredClasses::Entry* entry : RegisteredClasses::Get().All())
     {
-        ids.push_back(entry->id);
+        add(entry->id);
     }
-    std::ranges::sort(ids);
     return ids;
 }
 

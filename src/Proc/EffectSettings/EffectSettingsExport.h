@@ -34,8 +34,9 @@ struct EffectClass
 {
     std::string_view className;
     const char* classId;
-    std::shared_ptr<IEffectSettings> (*create)();      // the class's `CreateBase`
-    const Proc::RecordSchema* (*getSchema)() noexcept; // what its trees hold of its own; nothing for a class without keys
+    std::shared_ptr<IEffectSettings> (*create)();         // the class's `CreateBase`
+    const Proc::RecordSchema* (*getSchema)() noexcept;    // what its trees hold of its own; nothing for a class without keys
+    void* (*getStored)(IEffectSettings& effect) noexcept; // the object of an effect of this class that the schema describes
     Registration registration;
 };
 
@@ -56,6 +57,7 @@ template <class Effect> void RegisterEffectClass()
                          .classId = Effect::RecordType::CLASS_NAME,
                          .create = &Effect::CreateBase,
                          .getSchema = &Effect::GetSchema,
+                         .getStored = &Effect::StoredOf,
                          .registration = Registration::Factory});
 }
 

@@ -53,6 +53,12 @@ public:
         }
     }
 
+    /// The object whose fields the schema describes: the record, or the effect where it stores itself.
+    OMBREL_LOCAL static void* StoredOf(IEffectSettings& effect) noexcept
+    {
+        return const_cast<void*>(static_cast<const EffectSettingsImpl&>(effect).GetStored());
+    }
+
     OMBREL_LOCAL Record& GetTypedSettings() noexcept { return settings; }
     OMBREL_LOCAL const Record& GetTypedSettings() const noexcept { return settings; }
 
@@ -65,12 +71,12 @@ public:
         DeserializeWith(tree, &GetSchema, const_cast<void*>(GetStored()));
     }
 
-    OMBREL_LOCAL std::unique_ptr<const IPropertyAccess> GetPropertyAccess() const override
+    [[gnu::cold]] OMBREL_LOCAL std::unique_ptr<const IPropertyAccess> GetPropertyAccess() const override
     {
         return MakePropertyAccess(StoresItself<Derived> ? nullptr : &GetSchema, &settings);
     }
 
-    OMBREL_LOCAL std::unique_ptr<IPropertyAccess> GetPropertyAccess() override
+    [[gnu::cold]] OMBREL_LOCAL std::unique_ptr<IPropertyAccess> GetPropertyAccess() override
     {
         return MakePropertyAccess(StoresItself<Derived> ? nullptr : &GetSchema, &settings);
     }
@@ -118,7 +124,6 @@ protected:
     Record settings;
 
 private:
-    // The object whose fields the schema describes.
     OMBREL_LOCAL const void* GetStored() const noexcept
     {
         if constexpr (StoresItself<Derived>)

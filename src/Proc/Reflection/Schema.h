@@ -52,6 +52,7 @@ struct ValueSchema
     const EnumNameTable* names = nullptr;      // of an enumeration
     const RecordSchema& (*record)() = nullptr; // of a record
     const ValueSchema* element = nullptr;      // of a list, a set or a colour map
+    bool takesNumbers = false;                 // of an enumeration: an integer is read too, as the number of a value
 };
 
 /// The description of a value whose codec has none.
@@ -73,6 +74,7 @@ struct FieldSchemas
     constexpr const FieldSchema* end() const noexcept { return first + count; }
     constexpr const FieldSchema* data() const noexcept { return first; }
     constexpr std::size_t size() const noexcept { return count; }
+    constexpr bool empty() const noexcept { return count == 0; }
     constexpr const FieldSchema& operator[](std::size_t index) const noexcept { return first[index]; }
 
     const FieldSchema* first;

@@ -30,7 +30,7 @@ template <> struct Codec<SettingsEffectTranspose::TransposeAngle>
 {
     using Value = SettingsEffectTranspose::TransposeAngle;
 
-    static constexpr ValueSchema SCHEMA{.kind = ValueKind::Enum, .names = &EnumNames<Value>::TABLE};
+    static constexpr ValueSchema SCHEMA{.kind = ValueKind::Enum, .names = &EnumNames<Value>::TABLE, .takesNumbers = true};
 
     static void Write(PropertyTree& child, Value value, const WriteFlags*)
     {

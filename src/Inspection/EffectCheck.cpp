@@ -1,0 +1,616 @@
+#include "Inspection/EffectCheck.h"
+
+#include "Exception/Exception.h"
+#include "Inspection/Nearest.h"
+#include "Inspection/Values.h"
+#include "Proc/EffectSettings/HelperSettings.h"
+#include "Proc/EffectSettings/SettingsEffectFacePackage.h"
+#include "Proc/EffectSettings/TileSettings.h"
+#include "Proc/ImplNames.h"
+#include "Proc/Settings/StoredKeys.h"
+
+#include <algorithm>
+#include <exception>
+#include <map>
+#include <new>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace Ombrel::Inspection
+{
+namespace
+{
+
+using PhotoCore::HelperSettings;
+using Proc::FieldSchema;
+using Proc::RecordSchema;
+using Proc::ValueKind;
+using Proc::ValueSchema;
+
+namespace StoredKeys = Proc::StoredKeys;
+
+constexpr std::size_t DEEPEST = 512; // how many effects may stand in each other, as `SerializePtr` says
+constexpr Proc::ReadFlags READ{.resetMissing = true};
+constexpr Proc::WriteFlags WRITE{.resetTargets = false, .omitDefaults = true};
+
+const ValueSchema TEXT{ValueKind::String};
+const ValueSchema HELPER_SETTINGS{.kind = ValueKind::Record, .record = &HelperSettings::Schema};
+
+bool IsOwn(const PhotoCore::EffectClass& effectClass)
+{
+    const auto own = PhotoCore::EffectClasses();
+    return std::ranges::any_of(own, [&](const PhotoCore::EffectClass& one) { return &one == &effectClass; });
+}
+
+// Whether reading and writing can only be known by doing it.
+bool HasSetters(const RecordSchema& schema)
+{
+    return std::ranges::any_of(
+        schema.fields, [](const FieldSchema& field)
+        { return field.value->kind == ValueKind::Other || field.access.find(',') != std::string_view::npos; });
+}
+
+// Whether an effect stands in the value, other than null.
+bool HasEffect(const PropertyTree& value, const ValueSchema& schema)
+{
+    if (schema.kind == ValueKind::Effect)
+    {
+        return !value.isNull();
+    }
+    if (value.isList() && schema.element)
+    {
+        return std::ranges::any_of(value.getList(),
+                                   [&](const PropertyTree& element) { return HasEffect(element, *schema.element); });
+    }
+    if (value.isMap() && schema.kind == ValueKind::Record)
+    {
+        return std::ranges::any_of(schema.record().fields,
+                                   [&](const FieldSchema& field)
+                                   {
+                                       const auto found = value.getMap().find(field.key);
+                                       return found != value.getMap().end() && HasEffect(found->second, *field.value);
+                                   });
+    }
+    return false;
+}
+
+} // namespace
+
+// Failures of a caller's code are findings.
+template <class Action> bool EffectCheck::Try(const Place& place, const PropertyTree* at, Action action)
+{
+    std::string reason = "an unknown failure";
+    try
+    {
+        action();
+        return true;
+    }
+    catch (const std::bad_alloc&)
+    {
+        throw;
+    }
+    catch (const std::exception& failure)
+    {
+        reason = DescribeFailure(failure);
+    }
+    catch (...)
+    {
+    }
+    m_findings.Add(FindingCode::Refused, place, at, "the class refuses it: " + reason);
+    return false;
+}
+
+std::deque<Findings::Item>& EffectCheck::Run()
+{
+    const PropertyTree& tree = *m_node.tree;
+    if (m_node.depth > DEEPEST && !tree.isNull())
+    {
+        m_findings.Add(FindingCode::TooDeep, *m_node.place, &tree, "effects stand in effects more than 512 levels deep");
+    }
+    else if (tree.isNull())
+    {
+        m_findings.Add(FindingCode::NullEffect, *m_node.place, &tree, "no effect stands here");
+    }
+    else if (!tree.isMap())
+    {
+        m_findings.Add(FindingCode::NotAnEffect, *m_node.place, &tree, "expected an effect, found " + Shown(tree)).expected =
+            "a map with \"name\"";
+    }
+    else if (FindClass(tree.getMap()))
+    {
+        CheckEffect(tree.getMap());
+    }
+
+    const bool isFacePackage = m_schema == &PhotoCore::SettingsEffectFacePackage::Schema();
+    const bool isTile = m_schema == &PhotoCore::TileSettings::Schema();
+    for (Findings::Item& item : m_findings.Items())
+    {
+        if (EffectNode* inner = std::get_if<EffectNode>(&item))
+        {
+            inner->depth = m_node.depth + 1;
+            inner->isCopied = isFacePackage || (isTile && m_node.isCopied);
+        }
+    }
+    return m_findings.Items();
+}
+
+// Whether there is anything below to look at.
+bool EffectCheck::FindClass(const Map& map)
+{
+    const auto name = map.find(StoredKeys::NAME);
+    if (name == map.end())
+    {
+        m_findings.Add(FindingCode::NoName, *m_node.place, nullptr, "the effect has no \"name\"").expected = "a class id";
+        return false;
+    }
+    const Place place{.parent = m_node.place, .key = StoredKeys::NAME};
+    if (!name->second.isScalar() || name->second.getScalar().kind() != PropertyTreeScalar::Kind::String)
+    {
+        m_values.Check(name->second, TEXT, place);
+        return false;
+    }
+    const std::string& id = name->second.getScalar().toString();
+    m_class = PhotoCore::FindEffectClass(id);
+    if (!m_class)
+    {
+        if (PhotoCore::IsRegistered(id))
+        {
+            m_findings.Add(FindingCode::NoSchema, *m_node.place, nullptr,
+                           "the class has a factory alone, so its keys are not known");
+            return false;
+        }
+        NearestName nearest(id);
+        for (const std::string& known : PhotoCore::RegisteredClassIds())
+        {
+            nearest.Try(known);
+        }
+        Finding& finding = m_findings.Add(FindingCode::UnknownEffect, place, &name->second, Quoted(id) + " is no known effect");
+        finding.expected = "a class id";
+        finding.nearest = nearest.Get();
+        return false;
+    }
+    if (m_class->registration == PhotoCore::Registration::None)
+    {
+        m_findings.Add(FindingCode::NotRegistered, place, &name->second, Quoted(id) + " cannot be made by its class id");
+        return false;
+    }
+    m_schema = m_class->getSchema();
+    if (!m_schema && !IsOwn(*m_class))
+    {
+        m_findings.Add(FindingCode::NoSchema, *m_node.place, nullptr, "the class has no field list, so its keys are not known");
+        return false;
+    }
+    return true;
+}
+
+void EffectCheck::CheckEffect(const Map& map)
+{
+    const bool isOwn = IsOwn(*m_class);
+    const bool isTried = m_schema && (HasSetters(*m_schema) || HasParts(map));
+    if ((isTried || !isOwn) && !Make())
+    {
+        return;
+    }
+    CheckBaseMembers(map);
+    if (m_schema)
+    {
+        for (std::size_t index = 0; index != m_schema->fields.size(); ++index)
+        {
+            CheckField(map, index);
+        }
+        if (m_schema == &PhotoCore::TileSettings::Schema())
+        {
+            CheckRows(map);
+        }
+    }
+    for (const auto& [key, child] : map)
+    {
+        if (std::ranges::find(StoredKeys::RESERVED, std::string_view(key)) == StoredKeys::RESERVED.end() &&
+            !ValueCheck::IsField(m_schema, key))
+        {
+            m_values.AddUnknownKey(key, child, m_schema, *m_node.place);
+        }
+    }
+    if (m_schema)
+    {
+        CompareWithWritten(map);
+    }
+}
+
+// A copy without what no read takes, and with null for each effect.
+void EffectCheck::CopyUsable(const PropertyTree& from, PropertyTree& to, const ValueSchema& schema, Copies* copies)
+{
+    if (copies)
+    {
+        copies->emplace(&from, &to);
+    }
+    if (from.isList() && schema.element)
+    {
+        PropertyTree::List& list = to.makeList(from.getList().size());
+        for (const PropertyTree& element : from.getList())
+        {
+            if (!IsUnusable(element, schema))
+            {
+                CopyUsable(element, list.emplace_back(), *schema.element, copies);
+            }
+        }
+    }
+    else if (from.isMap() && schema.kind == ValueKind::Record)
+    {
+        PropertyTree::Map& map = to.makeMap(from.getMap().size());
+        const RecordSchema& record = schema.record();
+        for (const auto& [key, child] : from.getMap())
+        {
+            const auto field = Proc::FindField(record, key);
+            if (field && !m_findings.HasError(child))
+            {
+                CopyUsable(child, map[key], *record.fields[*field].value, copies);
+            }
+        }
+    }
+    else if (schema.kind != ValueKind::Effect)
+    {
+        to = from;
+    }
+}
+
+// An element of a colour map counts as a whole.
+bool EffectCheck::IsUnusable(const PropertyTree& element, const ValueSchema& list)
+{
+    return m_findings.HasError(element) ||
+           (list.kind == ValueKind::ColorMap && element.isMap() &&
+            std::ranges::any_of(element.getMap(), [this](const auto& entry) { return m_findings.HasError(entry.second); }));
+}
+
+bool EffectCheck::HasParts(const Map& map) const
+{
+    return std::ranges::any_of(m_schema->fields,
+                               [&](const FieldSchema& field) { return !IsPlain(field) && map.contains(field.key); });
+}
+
+bool EffectCheck::Make()
+{
+    return Try(*m_node.place, m_node.tree,
+               [&]
+               {
+                   m_effect = m_class->create();
+                   if (!m_effect)
+                   {
+                       throw std::logic_error("its factory made no effect");
+                   }
+                   m_object = m_class->getStored(*m_effect);
+               });
+}
+
+void EffectCheck::CheckBaseMembers(const Map& map)
+{
+    const bool isLost = m_node.isCopied && m_schema == &PhotoCore::TileSettings::Schema();
+    if (const auto found = map.find(StoredKeys::IMPL_NAME); found != map.end())
+    {
+        const Place place{.parent = m_node.place, .key = StoredKeys::IMPL_NAME};
+        const std::size_t errors = m_findings.ErrorCount();
+        m_values.Check(found->second, TEXT, place);
+        if (m_findings.ErrorCount() == errors)
+        {
+            EndBaseMember(found->second, found->second.getScalar().toString() == Proc::ImplNames::DEFAULT_NAME, isLost, place);
+        }
+    }
+    if (const auto found = map.find(StoredKeys::HELPER_SETTINGS); found != map.end())
+    {
+        const Place place{.parent = m_node.place, .key = StoredKeys::HELPER_SETTINGS};
+        m_values.Check(found->second, HELPER_SETTINGS, place);
+        if (m_findings.HasError(found->second))
+        {
+            return;
+        }
+        const RecordSchema& schema = HelperSettings::Schema();
+        HelperSettings helper;
+        PropertyTree usable;
+        CopyUsable(found->second, usable, HELPER_SETTINGS, nullptr);
+        schema.read(&helper, usable.getMap(), &READ);
+        const bool isDefault = schema.equal(&helper, schema.defaults());
+        EndBaseMember(found->second, isDefault, isLost, place);
+        if (!isDefault && !isLost)
+        {
+            PropertyTree written;
+            schema.write(&helper, written.makeMap(), &WRITE, 0);
+            CompareMembers(found->second.getMap(), written.getMap(), schema, place);
+        }
+    }
+}
+
+void EffectCheck::EndBaseMember(const PropertyTree& value, bool isDefault, bool isLost, const Place& place)
+{
+    if (isDefault || isLost)
+    {
+        Finding& finding = m_findings.Add(isDefault ? FindingCode::DefaultWritten : FindingCode::LostByCopy, place, &value,
+                                          isDefault ? "it has its default and is not written again"
+                                                    : "a face package copies the tile, and copies of tiles do not have it");
+        finding.mend = Mend::Remove;
+    }
+}
+
+void EffectCheck::CheckField(const Map& map, std::size_t index)
+{
+    const FieldSchema& field = m_schema->fields[index];
+    const auto found = map.find(field.key);
+    if (found == map.end())
+    {
+        return;
+    }
+    const Place place{.parent = m_node.place, .key = found->first};
+    const PropertyTree& value = found->second;
+    const std::size_t errors = m_findings.ErrorCount();
+    m_values.Check(value, *field.value, place);
+    if (!m_object || m_findings.HasError(value))
+    {
+        return;
+    }
+    if (m_findings.ErrorCount() == errors && !HoldsEffects(*field.value))
+    {
+        Try(place, &value, [&] { m_schema->readField(index, m_object, value, &READ); });
+        return;
+    }
+    PropertyTree usable;
+    CopyUsable(value, usable, *field.value, nullptr);
+    Try(place, &value, [&] { m_schema->readField(index, m_object, usable, &READ); });
+}
+
+// A row with another number of cells than the first.
+void EffectCheck::CheckRows(const Map& map)
+{
+    const auto rows = map.find("effectRows");
+    if (rows == map.end() || !rows->second.isList())
+    {
+        return;
+    }
+    const Place grid{.parent = m_node.place, .key = rows->first};
+    const auto cellsOf = [](const PropertyTree& row) -> std::size_t
+    { return row.contains("cols") && row["cols"].isList() ? row["cols"].getList().size() : 0; };
+    const PropertyTree::List& list = rows->second.getList();
+    for (std::size_t index = 1; index < list.size(); ++index)
+    {
+        if (cellsOf(list[index]) != cellsOf(list.front()))
+        {
+            m_findings.Add(FindingCode::RaggedRows, Place{.parent = &grid, .key = {}, .index = index}, nullptr,
+                           "the row has " + std::to_string(cellsOf(list[index])) + " cells, the first has " +
+                               std::to_string(cellsOf(list.front())));
+        }
+    }
+}
+
+void EffectCheck::CompareWithWritten(const Map& map)
+{
+    if (!m_object)
+    {
+        for (std::size_t index = 0; index != m_schema->fields.size(); ++index)
+        {
+            const FieldSchema& field = m_schema->fields[index];
+            const auto found = map.find(field.key);
+            if (found != map.end() && !m_findings.HasError(found->second))
+            {
+                const PropertyTree& byDefault = m_infos.Of(*m_schema).defaults[field.key];
+                if (AreSame(ReadAs(found->second), byDefault))
+                {
+                    Omitted(found->second, byDefault, *field.value, Place{.parent = m_node.place, .key = found->first});
+                }
+            }
+        }
+        return;
+    }
+    PropertyTree written;
+    const bool isWritten = Try(*m_node.place, m_node.tree, [&] { m_schema->write(m_object, written.makeMap(), &WRITE, 0); });
+    if (isWritten)
+    {
+        CompareMembers(map, written.getMap(), *m_schema, *m_node.place);
+        FindMends(map);
+    }
+}
+
+// What the value becomes when it is read, as far as its kind tells.
+const PropertyTree& EffectCheck::ReadAs(const PropertyTree& given)
+{
+    const Finding* finding = m_findings.About(given);
+    return finding && SeverityOf(finding->code) == Severity::Warning ? finding->becomes : given;
+}
+
+void EffectCheck::CompareMembers(const Map& given, const Map& written, const RecordSchema& schema, const Place& place)
+{
+    for (std::size_t index = 0; index != schema.fields.size(); ++index)
+    {
+        const FieldSchema& field = schema.fields[index];
+        const auto there = given.find(field.key);
+        const auto again = written.find(field.key);
+        if (there != given.end() && m_findings.HasError(there->second))
+        {
+            continue;
+        }
+        const Place at{.parent = &place, .key = field.key};
+        if (there != given.end() && again != written.end())
+        {
+            Compare(there->second, again->second, *field.value, at);
+        }
+        else if (there != given.end() && !HasEffect(there->second, *field.value))
+        {
+            Omitted(there->second, m_infos.Of(schema).defaults[field.key], *field.value, at);
+        }
+        else if (again != written.end() && !(again->second.isMap() && again->second.getMap().empty()))
+        {
+            Finding& finding = m_findings.Add(FindingCode::ChangesOnWrite, at, nullptr,
+                                              "it is not there and is written as " + Shown(again->second));
+            finding.becomes = again->second;
+        }
+    }
+}
+
+void EffectCheck::Compare(const PropertyTree& given, const PropertyTree& written, const ValueSchema& schema, const Place& place)
+{
+    switch (schema.kind)
+    {
+    case ValueKind::Effect:
+        return;
+    case ValueKind::Record:
+        return CompareMembers(given.getMap(), written.getMap(), schema.record(), place);
+    case ValueKind::List:
+        if (given.isList())
+        {
+            CompareLists(given, written, schema, place);
+        }
+        return;
+    case ValueKind::Set:
+    case ValueKind::ColorMap:
+        if (given.isList())
+        {
+            CompareUnordered(given, written, schema, place);
+        }
+        return;
+    default:
+        if (!AreSame(ReadAs(given), written))
+        {
+            Changed(given, written, place);
+        }
+    }
+}
+
+void EffectCheck::CompareLists(const PropertyTree& given, const PropertyTree& written, const ValueSchema& schema,
+                               const Place& place)
+{
+    const PropertyTree::List& list = given.getList();
+    const auto usable = std::ranges::count_if(list, [&](const PropertyTree& element) { return !IsUnusable(element, schema); });
+    if (static_cast<std::size_t>(usable) != written.getList().size())
+    {
+        return Changed(given, written, place);
+    }
+    auto again = written.getList().begin();
+    for (std::size_t index = 0; index != list.size(); ++index)
+    {
+        if (!IsUnusable(list[index], schema))
+        {
+            Compare(list[index], *again++, *schema.element, Place{.parent = &place, .key = {}, .index = index});
+        }
+    }
+}
+
+// Each element must be written again, and no other.
+void EffectCheck::CompareUnordered(const PropertyTree& given, const PropertyTree& written, const ValueSchema& schema,
+                                   const Place& place)
+{
+    std::map<std::string, std::size_t> left; // written elements that no given one stands for
+    for (const PropertyTree& element : written.getList())
+    {
+        ++left[KeyOf(element)];
+    }
+    for (std::size_t index = 0; index != given.getList().size(); ++index)
+    {
+        const PropertyTree& element = given.getList()[index];
+        Finding* finding = m_findings.About(element);
+        if (IsUnusable(element, schema) || (finding && finding->mend == Mend::Remove))
+        {
+            continue; // it is told already that it goes
+        }
+        const auto found = left.find(KeyOf(ElementRead(element)));
+        if (found != left.end() && found->second != 0)
+        {
+            --found->second;
+            continue;
+        }
+        if (!finding)
+        {
+            finding = &m_findings.Add(FindingCode::ChangesOnWrite, Place{.parent = &place, .key = {}, .index = index}, &element,
+                                      "it is not written again");
+        }
+        finding->mend = Mend::Remove;
+    }
+    if (std::ranges::any_of(left, [](const auto& entry) { return entry.second != 0; }))
+    {
+        Changed(given, written, place);
+    }
+}
+
+// An element of a colour map is read field by field.
+PropertyTree EffectCheck::ElementRead(const PropertyTree& element)
+{
+    if (!element.isMap())
+    {
+        return ReadAs(element);
+    }
+    PropertyTree read;
+    for (const char* key : {"key", "value"})
+    {
+        if (element.contains(key))
+        {
+            read[key] = ReadAs(element[key]);
+        }
+    }
+    return read;
+}
+
+void EffectCheck::Changed(const PropertyTree& given, const PropertyTree& written, const Place& place)
+{
+    Finding* finding = m_findings.About(given);
+    if (!finding || SeverityOf(finding->code) == Severity::Note)
+    {
+        finding =
+            &m_findings.Add(FindingCode::ChangesOnWrite, place, &given, Shown(given) + " is written as " + Shown(written));
+    }
+    finding->becomes = written;
+    finding->mend = Mend::None;
+    m_changed.emplace_back(finding, &given);
+}
+
+void EffectCheck::Omitted(const PropertyTree& given, const PropertyTree& byDefault, const ValueSchema& schema,
+                          const Place& place)
+{
+    Finding* finding = m_findings.About(given);
+    const bool isTold = finding && SeverityOf(finding->code) == Severity::Warning;
+    const bool isScalar = schema.kind <= ValueKind::Color || schema.kind == ValueKind::Other;
+    const bool isDefault = !isScalar || AreSame(ReadAs(given), byDefault);
+    if (!isTold)
+    {
+        finding = &m_findings.Add(isDefault ? FindingCode::DefaultWritten : FindingCode::ChangesOnWrite, place, &given,
+                                  isDefault ? "it has its default and is not written again" : "it is not written again");
+    }
+    finding->mend = Mend::Remove;
+}
+
+// A changed value can be replaced by what it becomes if it then stays as it is.
+void EffectCheck::FindMends(const Map& map)
+{
+    if (m_changed.empty() || m_isAgain)
+    {
+        return;
+    }
+    PropertyTree mended;
+    Copies copies;
+    PropertyTree::Map& fields = mended.makeMap(map.size());
+    fields[StoredKeys::NAME] = map.at(StoredKeys::NAME);
+    for (const auto& [key, child] : map)
+    {
+        const auto field = Proc::FindField(*m_schema, key);
+        if (field && !m_findings.HasError(child))
+        {
+            CopyUsable(child, fields[key], *m_schema->fields[*field].value, &copies);
+        }
+    }
+    for (const auto& [finding, given] : m_changed)
+    {
+        *copies.at(given) = finding->becomes;
+    }
+    EffectNode node = m_node;
+    node.tree = &mended;
+    EffectCheck again(node, m_infos, m_places);
+    again.m_isAgain = true;
+    again.Run();
+    for (const auto& [finding, given] : m_changed)
+    {
+        const Finding* left = again.m_findings.About(*copies.at(given));
+        if (!left || left->code != FindingCode::ChangesOnWrite)
+        {
+            finding->mend = Mend::Replace;
+        }
+    }
+}
+
+} // namespace Ombrel::Inspection

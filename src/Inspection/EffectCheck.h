@@ -1,0 +1,79 @@
+#ifndef OMBREL_INSPECTION_EFFECT_CHECK_H
+#define OMBREL_INSPECTION_EFFECT_CHECK_H
+
+#include "Inspection/Findings.h"
+#include "Inspection/RecordInfo.h"
+#include "Inspection/ValueCheck.h"
+#include "Proc/EffectSettings/EffectSettingsExport.h"
+#include "PropertyTree/PropertyTree.h"
+
+#include <cstddef>
+#include <deque>
+#include <memory>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace Ombrel::Inspection
+{
+
+/// Checks one effect of a tree, without the effects in it, which it only names.
+class EffectCheck
+{
+public:
+    EffectCheck(const EffectNode& node, RecordInfos& infos, std::deque<Place>& places)
+        : m_node(node), m_infos(infos), m_places(places), m_values(m_findings, places)
+    {
+    }
+
+    /// What was found, with the effects within at their places.
+    std::deque<Findings::Item>& Run();
+
+private:
+    using Map = PropertyTree::Map;
+    using Copies = std::unordered_map<const PropertyTree*, PropertyTree*>; // by the originals
+
+    bool FindClass(const Map& map);
+    void CheckEffect(const Map& map);
+    bool HasParts(const Map& map) const;
+    void CopyUsable(const PropertyTree& from, PropertyTree& to, const Proc::ValueSchema& schema, Copies* copies);
+    bool IsUnusable(const PropertyTree& element, const Proc::ValueSchema& list);
+    bool Make();
+    template <class Action> bool Try(const Place& place, const PropertyTree* at, Action action);
+    void CheckBaseMembers(const Map& map);
+    void EndBaseMember(const PropertyTree& value, bool isDefault, bool isLost, const Place& place);
+    void CheckField(const Map& map, std::size_t index);
+    void CheckRows(const Map& map);
+
+    void CompareWithWritten(const Map& map);
+    void CompareMembers(const Map& given, const Map& written, const Proc::RecordSchema& schema, const Place& place);
+    void Compare(const PropertyTree& given, const PropertyTree& written, const Proc::ValueSchema& schema, const Place& place);
+    void CompareLists(const PropertyTree& given, const PropertyTree& written, const Proc::ValueSchema& schema,
+                      const Place& place);
+    void CompareUnordered(const PropertyTree& given, const PropertyTree& written, const Proc::ValueSchema& schema,
+                          const Place& place);
+    void Changed(const PropertyTree& given, const PropertyTree& written, const Place& place);
+    void Omitted(const PropertyTree& given, const PropertyTree& byDefault, const Proc::ValueSchema& schema, const Place& place);
+    void FindMends(const Map& map);
+    const PropertyTree& ReadAs(const PropertyTree& given);
+    PropertyTree ElementRead(const PropertyTree& element);
+
+    const EffectNode& m_node;
+    RecordInfos& m_infos;
+    std::deque<Place>& m_places;
+    Findings m_findings;
+    ValueCheck m_values;
+    const PhotoCore::EffectClass* m_class = nullptr;
+    const Proc::RecordSchema* m_schema = nullptr; // of the class; null if it has no keys of its own
+
+    // Where only reading and writing tell what they do: an effect that is read, without the effects in it.
+    std::shared_ptr<PhotoCore::IEffectSettings> m_effect;
+    void* m_object = nullptr; // that the schema describes
+
+    std::vector<std::pair<Finding*, const PropertyTree*>> m_changed; // with the values that they are about
+    bool m_isAgain = false;                                          // a second look, at what would be mended
+};
+
+} // namespace Ombrel::Inspection
+
+#endif

@@ -1,0 +1,39 @@
+#include "Inspection/Findings.h"
+
+#include <utility>
+
+namespace Ombrel::Inspection
+{
+
+Finding& Findings::Add(FindingCode code, const Place& place, const PropertyTree* at, std::string message)
+{
+    Finding& finding = std::get<Finding>(m_items.emplace_back(Finding()));
+    finding.path = place.ToPath();
+    finding.code = code;
+    finding.message = std::move(message);
+    if (at)
+    {
+        finding.found = *at;
+        Finding*& about = m_byValue[at];
+        if (!about || SeverityOf(code) < SeverityOf(about->code))
+        {
+            about = &finding;
+        }
+    }
+    m_errors += SeverityOf(code) == Severity::Error ? 1U : 0U;
+    return finding;
+}
+
+bool Findings::HasError(const PropertyTree& value)
+{
+    const Finding* finding = About(value);
+    return finding && SeverityOf(finding->code) == Severity::Error;
+}
+
+Finding* Findings::About(const PropertyTree& value)
+{
+    const auto found = m_byValue.find(&value);
+    return found == m_byValue.end() ? nullptr : found->second;
+}
+
+} // namespace Ombrel::Inspection

@@ -1,0 +1,52 @@
+#ifndef OMBREL_INSPECTION_FINDINGS_H
+#define OMBREL_INSPECTION_FINDINGS_H
+
+#include "Inspection/Finding.h"
+#include "Inspection/Place.h"
+
+#include <cstddef>
+#include <deque>
+#include <unordered_map>
+#include <variant>
+#include <vector>
+
+namespace Ombrel::Inspection
+{
+
+/// An effect that stands in a tree, still to be checked.
+struct EffectNode
+{
+    const PropertyTree* tree = nullptr;
+    const Place* place = nullptr;
+    std::size_t depth = 1; // in how many effects it stands, itself included
+    bool isCopied = false; // by a face package, which clones what it reads
+};
+
+/// What is found in one effect, in reading order, with the effects in it at their places.
+class Findings
+{
+public:
+    using Item = std::variant<Finding, EffectNode>;
+
+    /// `at` is the value that the finding is about; null for one that is missing.
+    Finding& Add(FindingCode code, const Place& place, const PropertyTree* at, std::string message);
+
+    void AddEffect(const EffectNode& node) { m_items.emplace_back(node); }
+
+    /// The first of the gravest findings about a value itself, or null.
+    Finding* About(const PropertyTree& value);
+    bool HasError(const PropertyTree& value);
+
+    std::size_t ErrorCount() const noexcept { return m_errors; }
+
+    std::deque<Item>& Items() noexcept { return m_items; }
+
+private:
+    std::deque<Item> m_items; // which stay where they are
+    std::unordered_map<const PropertyTree*, Finding*> m_byValue;
+    std::size_t m_errors = 0;
+};
+
+} // namespace Ombrel::Inspection
+
+#endif

@@ -1,0 +1,55 @@
+#ifndef OMBREL_INSPECTION_VALUE_CHECK_H
+#define OMBREL_INSPECTION_VALUE_CHECK_H
+
+#include "Inspection/Findings.h"
+#include "Proc/Reflection/Schema.h"
+#include "PropertyTree/PropertyTree.h"
+
+#include <cstddef>
+#include <deque>
+#include <string>
+#include <string_view>
+
+namespace Ombrel::Inspection
+{
+
+/// What the kinds of values alone say of a stored value: what no read takes, and what a read takes for another value. What
+/// setters make of it is not seen here.
+class ValueCheck
+{
+public:
+    /// @param places keeps the places of the effects that are found
+    ValueCheck(Findings& findings, std::deque<Place>& places) : m_findings(findings), m_places(places) {}
+
+    void Check(const PropertyTree& value, const Proc::ValueSchema& schema, const Place& place);
+
+    /// The fields of a record, whatever else its map has.
+    void CheckFields(const PropertyTree::Map& map, const Proc::RecordSchema& schema, const Place& place);
+
+    static bool IsField(const Proc::RecordSchema* schema, std::string_view key);
+
+    void AddUnknownKey(std::string_view key, const PropertyTree& value, const Proc::RecordSchema* schema, const Place& place);
+
+private:
+    void WrongKind(const PropertyTree& value, const Place& place, std::string_view expected);
+    void CheckInteger(const PropertyTree& value, const Proc::ValueSchema& schema, const Place& place);
+    void CheckFloat(const PropertyTree& value, const Proc::ValueSchema& schema, const Place& place);
+    void CheckEnum(const PropertyTree& value, const Proc::ValueSchema& schema, const Place& place);
+    void CheckColor(const PropertyTree& value, const Place& place);
+    void CheckSequence(const PropertyTree& value, const Proc::ValueSchema& schema, const Place& place);
+    void CheckColorElement(const PropertyTree& element, const Proc::ValueSchema& schema, const Place& place);
+    bool HasErrorInside(const PropertyTree& element);
+    void FindDuplicates(const PropertyTree::List& list, const Proc::ValueSchema& schema, const Place& place);
+    void AddEffect(const PropertyTree& value, const Place& place);
+    const Place* Kept(const Place& place);
+
+    Findings& m_findings;
+    std::deque<Place>& m_places;
+};
+
+/// What may stand where a value of this kind is read, for people: "an integer from 0 to 255".
+std::string ExpectedOf(const Proc::ValueSchema& schema);
+
+} // namespace Ombrel::Inspection
+
+#endif

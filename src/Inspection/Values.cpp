@@ -1,0 +1,157 @@
+#include "Inspection/Values.h"
+
+#include "PropertyTree/PropertyTreeOutput.h"
+
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <sstream>
+#include <utility>
+#include <vector>
+
+namespace Ombrel::Inspection
+{
+namespace
+{
+
+using Kind = PropertyTreeScalar::Kind;
+
+// -0.0 is no integer of its own. Both bounds are exact.
+bool IsInteger(double value, std::int64_t integer)
+{
+    return value >= -9223372036854775808.0 && value < 9223372036854775808.0 && static_cast<std::int64_t>(value) == integer &&
+           static_cast<double>(static_cast<std::int64_t>(value)) == value;
+}
+
+bool AreSameScalars(const PropertyTreeScalar& a, const PropertyTreeScalar& b)
+{
+    if (a.kind() == Kind::Float && b.kind() == Kind::Float)
+    {
+        return a.toDouble() == b.toDouble() || (std::isnan(a.toDouble()) && std::isnan(b.toDouble()));
+    }
+    if (a.kind() == Kind::Float && b.kind() == Kind::Integer)
+    {
+        return IsInteger(a.toDouble(), b.toInt());
+    }
+    if (a.kind() == Kind::Integer && b.kind() == Kind::Float)
+    {
+        return IsInteger(b.toDouble(), a.toInt());
+    }
+    return a == b;
+}
+
+} // namespace
+
+std::string Quoted(std::string_view text)
+{
+    constexpr std::size_t most = 80;
+    std::string quoted = "\"";
+    quoted += text.substr(0, most);
+    quoted += text.size() > most ? "...\"" : "\"";
+    return quoted;
+}
+
+std::string Shown(const PropertyTree& value)
+{
+    if (!value.isScalar())
+    {
+        return value.isMap() ? "a map" : value.isList() ? "a list" : "null";
+    }
+    const PropertyTreeScalar& scalar = value.getScalar();
+    switch (scalar.kind())
+    {
+    case Kind::Bool:
+    {
+        bool isTrue = false;
+        scalar.convertTo(isTrue);
+        return isTrue ? "true" : "false";
+    }
+    case Kind::Integer:
+        return std::to_string(scalar.toInt());
+    case Kind::Float:
+    {
+        std::ostringstream text;
+        text << scalar;
+        return text.str();
+    }
+    default:
+        return Quoted(scalar.toString());
+    }
+}
+
+std::string KeyOf(const PropertyTree& value)
+{
+    if (value.isScalar() && value.getScalar().kind() == Kind::Float)
+    {
+        const double number = value.getScalar().toDouble();
+        const std::int64_t integer = std::fabs(number) < 9e18 ? static_cast<std::int64_t>(number) : 0;
+        if (IsInteger(number, integer))
+        {
+            return std::to_string(integer);
+        }
+    }
+    if (value.isMap())
+    {
+        std::string key;
+        for (const auto& [name, child] : value.getMap())
+        {
+            key += name + ' ' + KeyOf(child) + ' ';
+        }
+        return key;
+    }
+    std::ostringstream text;
+    text << value;
+    return text.str();
+}
+
+bool AreSame(const PropertyTree& a, const PropertyTree& b)
+{
+    std::vector<std::pair<const PropertyTree*, const PropertyTree*>> pending{{&a, &b}};
+    while (!pending.empty())
+    {
+        const auto [left, right] = pending.back();
+        pending.pop_back();
+        if (left->isScalar() && right->isScalar())
+        {
+            if (!AreSameScalars(left->getScalar(), right->getScalar()))
+            {
+                return false;
+            }
+        }
+        else if (left->isList() && right->isList())
+        {
+            if (left->getList().size() != right->getList().size())
+            {
+                return false;
+            }
+            for (std::size_t index = 0; index != left->getList().size(); ++index)
+            {
+                pending.emplace_back(&left->getList()[index], &right->getList()[index]);
+            }
+        }
+        else if (left->isMap() && right->isMap())
+        {
+            if (left->getMap().size() != right->getMap().size())
+            {
+                return false;
+            }
+            auto other = right->getMap().begin();
+            for (const auto& [key, child] : left->getMap())
+            {
+                if (key != other->first)
+                {
+                    return false;
+                }
+                pending.emplace_back(&child, &other->second);
+                ++other;
+            }
+        }
+        else if (!left->isNull() || !right->isNull())
+        {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace Ombrel::Inspection
