@@ -11,8 +11,7 @@ namespace Ombrel::Inspection
 std::vector<Finding> Check(const PropertyTree& effectOrList, const CheckOptions& options)
 {
     static constexpr Place ROOT{};
-    RecordInfos infos;
-    std::deque<Place> places;
+    CheckContext context;
     std::vector<Finding> found;
     std::vector<Findings::Item> pending;
     if (effectOrList.isList())
@@ -20,8 +19,8 @@ std::vector<Finding> Check(const PropertyTree& effectOrList, const CheckOptions&
         const PropertyTree::List& list = effectOrList.getList();
         for (std::size_t index = list.size(); index-- != 0;)
         {
-            places.push_back({.parent = &ROOT, .key = {}, .index = index, .isKept = true});
-            pending.emplace_back(EffectNode{.tree = &list[index], .place = &places.back()});
+            context.places.push_back({.parent = &ROOT, .key = {}, .index = index, .isKept = true});
+            pending.emplace_back(EffectNode{.tree = &list[index], .place = &context.places.back()});
         }
     }
     else
@@ -38,11 +37,11 @@ std::vector<Finding> Check(const PropertyTree& effectOrList, const CheckOptions&
             continue;
         }
         const EffectNode node = std::get<EffectNode>(item);
-        EffectCheck check(node, infos, places);
-        std::deque<Findings::Item>& items = check.Run();
+        EffectCheck check(node, context);
+        auto& items = check.Run();
         for (auto next = items.rbegin(); next != items.rend(); ++next)
         {
-            pending.push_back(std::move(*next));
+            pending.push_back(std::move(**next));
         }
     }
     return found;

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <functional>
 #include <map>
 #include <new>
 #include <stdexcept>
@@ -41,15 +42,8 @@ const ValueSchema HELPER_SETTINGS{.kind = ValueKind::Record, .record = &HelperSe
 bool IsOwn(const PhotoCore::EffectClass& effectClass)
 {
     const auto own = PhotoCore::EffectClasses();
-    return std::ranges::any_of(own, [&](const PhotoCore::EffectClass& one) { return &one == &effectClass; });
-}
-
-// Whether reading and writing can only be known by doing it.
-bool HasSetters(const RecordSchema& schema)
-{
-    return std::ranges::any_of(
-        schema.fields, [](const FieldSchema& field)
-        { return field.value->kind == ValueKind::Other || field.access.find(',') != std::string_view::npos; });
+    const std::less<const PhotoCore::EffectClass*> isBefore;
+    return !isBefore(&effectClass, own.data()) && isBefore(&effectClass, own.data() + own.size());
 }
 
 // Whether an effect stands in the value, other than null.
@@ -102,7 +96,7 @@ template <class Action> bool EffectCheck::Try(const Place& place, const Property
     return false;
 }
 
-std::deque<Findings::Item>& EffectCheck::Run()
+std::vector<std::unique_ptr<Findings::Item>>& EffectCheck::Run()
 {
     const PropertyTree& tree = *m_node.tree;
     if (m_node.depth > DEEPEST && !tree.isNull())
@@ -125,9 +119,9 @@ std::deque<Findings::Item>& EffectCheck::Run()
 
     const bool isFacePackage = m_schema == &PhotoCore::SettingsEffectFacePackage::Schema();
     const bool isTile = m_schema == &PhotoCore::TileSettings::Schema();
-    for (Findings::Item& item : m_findings.Items())
+    for (const auto& item : m_findings.Items())
     {
-        if (EffectNode* inner = std::get_if<EffectNode>(&item))
+        if (EffectNode* inner = std::get_if<EffectNode>(item.get()))
         {
             inner->depth = m_node.depth + 1;
             inner->isCopied = isFacePackage || (isTile && m_node.isCopied);
@@ -162,9 +156,12 @@ bool EffectCheck::FindClass(const Map& map)
             return false;
         }
         NearestName nearest(id);
-        for (const std::string& known : PhotoCore::RegisteredClassIds())
+        if (m_context.MaySearch())
         {
-            nearest.Try(known);
+            for (const std::string& known : PhotoCore::RegisteredClassIds())
+            {
+                nearest.Try(known);
+            }
         }
         Finding& finding = m_findings.Add(FindingCode::UnknownEffect, place, &name->second, Quoted(id) + " is no known effect");
         finding.expected = "a class id";
@@ -188,22 +185,48 @@ bool EffectCheck::FindClass(const Map& map)
 void EffectCheck::CheckEffect(const Map& map)
 {
     const bool isOwn = IsOwn(*m_class);
-    const bool isTried = m_schema && (HasSetters(*m_schema) || HasParts(map));
-    if ((isTried || !isOwn) && !Make())
+    if (!m_schema)
+    {
+        CheckBaseMembers(map);
+        CheckKeys(map, 0);
+        return;
+    }
+    const Children children(*m_schema, map);
+    if ((!isOwn || MustTry(children)) && !Make())
     {
         return;
     }
     CheckBaseMembers(map);
-    if (m_schema)
+    CheckFields(children, isOwn);
+    if (m_schema == &PhotoCore::TileSettings::Schema())
     {
-        for (std::size_t index = 0; index != m_schema->fields.size(); ++index)
+        CheckRows(map);
+    }
+    CheckKeys(map, children.Count());
+    // What a caller's getters throw is found here too.
+    Try(*m_node.place, nullptr, [&] { CompareWithWritten(map, children); });
+}
+
+// Whether only reading and writing tell what they do.
+bool EffectCheck::MustTry(const Children& children)
+{
+    const RecordInfo& info = m_context.infos.Of(*m_schema);
+    for (std::size_t index = 0; index != m_schema->fields.size() && !info.hasSetters; ++index)
+    {
+        if (children[index] && !info.isPlain[index])
         {
-            CheckField(map, index);
+            return true;
         }
-        if (m_schema == &PhotoCore::TileSettings::Schema())
-        {
-            CheckRows(map);
-        }
+    }
+    return info.hasSetters;
+}
+
+// Keys that neither the effect nor its record has; `known` are of the record.
+void EffectCheck::CheckKeys(const Map& map, std::size_t known)
+{
+    if (known + m_baseMembers == map.size())
+    {
+        return;
     }
     for (const auto& [key, child] : map)
     {
@@ -212,10 +235,6 @@ void EffectCheck::CheckEffect(const Map& map)
         {
             m_values.AddUnknownKey(key, child, m_schema, *m_node.place);
         }
-    }
-    if (m_schema)
-    {
-        CompareWithWritten(map);
     }
 }
 
@@ -264,12 +283,6 @@ bool EffectCheck::IsUnusable(const PropertyTree& element, const ValueSchema& lis
             std::ranges::any_of(element.getMap(), [this](const auto& entry) { return m_findings.HasError(entry.second); }));
 }
 
-bool EffectCheck::HasParts(const Map& map) const
-{
-    return std::ranges::any_of(m_schema->fields,
-                               [&](const FieldSchema& field) { return !IsPlain(field) && map.contains(field.key); });
-}
-
 bool EffectCheck::Make()
 {
     return Try(*m_node.place, m_node.tree,
@@ -286,9 +299,11 @@ bool EffectCheck::Make()
 
 void EffectCheck::CheckBaseMembers(const Map& map)
 {
+    m_baseMembers = 1; // the name
     const bool isLost = m_node.isCopied && m_schema == &PhotoCore::TileSettings::Schema();
     if (const auto found = map.find(StoredKeys::IMPL_NAME); found != map.end())
     {
+        ++m_baseMembers;
         const Place place{.parent = m_node.place, .key = StoredKeys::IMPL_NAME};
         const std::size_t errors = m_findings.ErrorCount();
         m_values.Check(found->second, TEXT, place);
@@ -299,6 +314,7 @@ void EffectCheck::CheckBaseMembers(const Map& map)
     }
     if (const auto found = map.find(StoredKeys::HELPER_SETTINGS); found != map.end())
     {
+        ++m_baseMembers;
         const Place place{.parent = m_node.place, .key = StoredKeys::HELPER_SETTINGS};
         m_values.Check(found->second, HELPER_SETTINGS, place);
         if (m_findings.HasError(found->second))
@@ -332,30 +348,58 @@ void EffectCheck::EndBaseMember(const PropertyTree& value, bool isDefault, bool 
     }
 }
 
-void EffectCheck::CheckField(const Map& map, std::size_t index)
+// A caller's setters may refuse a value, so each is tried where it stands. The library's own may not, so they are tried at
+// once.
+void EffectCheck::CheckFields(const Children& children, bool isOwn)
 {
-    const FieldSchema& field = m_schema->fields[index];
-    const auto found = map.find(field.key);
-    if (found == map.end())
+    const std::vector<bool>& holdsEffects = m_context.infos.Of(*m_schema).holdsEffects;
+    const std::size_t before = m_findings.ErrorCount();
+    bool isWhole = true;
+    for (std::size_t index = 0; index != m_schema->fields.size(); ++index)
+    {
+        if (!children[index])
+        {
+            continue;
+        }
+        const FieldSchema& field = m_schema->fields[index];
+        const Place place{.parent = m_node.place, .key = field.key};
+        const std::size_t errors = m_findings.ErrorCount();
+        m_values.Check(*children[index], *field.value, place);
+        isWhole = isWhole && !holdsEffects[index];
+        if (!isOwn && !m_findings.HasError(*children[index]))
+        {
+            const bool isWholeField = m_findings.ErrorCount() == errors && !holdsEffects[index];
+            Try(place, children[index], [&] { ReadField(index, *children[index], isWholeField); });
+        }
+    }
+    if (!isOwn || !m_object)
     {
         return;
     }
-    const Place place{.parent = m_node.place, .key = found->first};
-    const PropertyTree& value = found->second;
-    const std::size_t errors = m_findings.ErrorCount();
-    m_values.Check(value, *field.value, place);
-    if (!m_object || m_findings.HasError(value))
+    if (isWhole && m_findings.ErrorCount() == before)
     {
+        m_schema->read(m_object, m_node.tree->getMap(), &READ);
         return;
     }
-    if (m_findings.ErrorCount() == errors && !HoldsEffects(*field.value))
+    for (std::size_t index = 0; index != m_schema->fields.size(); ++index)
     {
-        Try(place, &value, [&] { m_schema->readField(index, m_object, value, &READ); });
+        if (children[index] && !m_findings.HasError(*children[index]))
+        {
+            ReadField(index, *children[index], false);
+        }
+    }
+}
+
+void EffectCheck::ReadField(std::size_t index, const PropertyTree& value, bool isWhole)
+{
+    if (isWhole)
+    {
+        m_schema->readField(index, m_object, value, &READ);
         return;
     }
     PropertyTree usable;
-    CopyUsable(value, usable, *field.value, nullptr);
-    Try(place, &value, [&] { m_schema->readField(index, m_object, usable, &READ); });
+    CopyUsable(value, usable, *m_schema->fields[index].value, nullptr);
+    m_schema->readField(index, m_object, usable, &READ);
 }
 
 // A row with another number of cells than the first.
@@ -381,31 +425,28 @@ void EffectCheck::CheckRows(const Map& map)
     }
 }
 
-void EffectCheck::CompareWithWritten(const Map& map)
+void EffectCheck::CompareWithWritten(const Map& map, const Children& children)
 {
-    if (!m_object)
+    if (m_object)
     {
-        for (std::size_t index = 0; index != m_schema->fields.size(); ++index)
-        {
-            const FieldSchema& field = m_schema->fields[index];
-            const auto found = map.find(field.key);
-            if (found != map.end() && !m_findings.HasError(found->second))
-            {
-                const PropertyTree& byDefault = m_infos.Of(*m_schema).defaults[field.key];
-                if (AreSame(ReadAs(found->second), byDefault))
-                {
-                    Omitted(found->second, byDefault, *field.value, Place{.parent = m_node.place, .key = found->first});
-                }
-            }
-        }
-        return;
-    }
-    PropertyTree written;
-    const bool isWritten = Try(*m_node.place, m_node.tree, [&] { m_schema->write(m_object, written.makeMap(), &WRITE, 0); });
-    if (isWritten)
-    {
+        PropertyTree written;
+        m_schema->write(m_object, written.makeMap(), &WRITE, 0);
         CompareMembers(map, written.getMap(), *m_schema, *m_node.place);
         FindMends(map);
+        return;
+    }
+    for (std::size_t index = 0; index != m_schema->fields.size(); ++index)
+    {
+        if (!children[index] || m_findings.HasError(*children[index]))
+        {
+            continue;
+        }
+        const FieldSchema& field = m_schema->fields[index];
+        const PropertyTree& byDefault = m_context.infos.DefaultsOf(*m_schema)[index];
+        if (AreSame(ReadAs(*children[index]), byDefault))
+        {
+            Omitted(*children[index], byDefault, *field.value, Place{.parent = m_node.place, .key = field.key});
+        }
     }
 }
 
@@ -418,29 +459,32 @@ const PropertyTree& EffectCheck::ReadAs(const PropertyTree& given)
 
 void EffectCheck::CompareMembers(const Map& given, const Map& written, const RecordSchema& schema, const Place& place)
 {
+    const Children there(schema, given);
+    const Children again(schema, written);
     for (std::size_t index = 0; index != schema.fields.size(); ++index)
     {
         const FieldSchema& field = schema.fields[index];
-        const auto there = given.find(field.key);
-        const auto again = written.find(field.key);
-        if (there != given.end() && m_findings.HasError(there->second))
-        {
-            continue;
-        }
         const Place at{.parent = &place, .key = field.key};
-        if (there != given.end() && again != written.end())
+        if (there[index])
         {
-            Compare(there->second, again->second, *field.value, at);
+            if (m_findings.HasError(*there[index]))
+            {
+                continue;
+            }
+            if (again[index])
+            {
+                Compare(*there[index], *again[index], *field.value, at);
+            }
+            else if (!HasEffect(*there[index], *field.value))
+            {
+                Omitted(*there[index], m_context.infos.DefaultsOf(schema)[index], *field.value, at);
+            }
         }
-        else if (there != given.end() && !HasEffect(there->second, *field.value))
-        {
-            Omitted(there->second, m_infos.Of(schema).defaults[field.key], *field.value, at);
-        }
-        else if (again != written.end() && !(again->second.isMap() && again->second.getMap().empty()))
+        else if (again[index] && !(again[index]->isMap() && again[index]->getMap().empty()))
         {
             Finding& finding = m_findings.Add(FindingCode::ChangesOnWrite, at, nullptr,
-                                              "it is not there and is written as " + Shown(again->second));
-            finding.becomes = again->second;
+                                              "it is not there and is written as " + Shown(*again[index]));
+            finding.becomes = *again[index];
         }
     }
 }
@@ -493,10 +537,28 @@ void EffectCheck::CompareLists(const PropertyTree& given, const PropertyTree& wr
     }
 }
 
+// Elements of sets are scalars, those of colour maps have two scalars each.
+bool EffectCheck::AreSameElements(const PropertyTree& a, const PropertyTree& b)
+{
+    return a.isMap() && b.isMap() ? std::ranges::equal(a.getMap(), b.getMap(),
+                                                       [this](const auto& one, const auto& other) {
+                                                           return one.first == other.first && !m_findings.About(one.second) &&
+                                                                  AreSame(one.second, other.second);
+                                                       })
+                                  : AreSame(a, b);
+}
+
 // Each element must be written again, and no other.
 void EffectCheck::CompareUnordered(const PropertyTree& given, const PropertyTree& written, const ValueSchema& schema,
                                    const Place& place)
 {
+    const PropertyTree::List& list = given.getList();
+    if (std::ranges::equal(list, written.getList(),
+                           [this](const PropertyTree& element, const PropertyTree& again)
+                           { return !m_findings.About(element) && AreSameElements(element, again); }))
+    {
+        return;
+    }
     std::map<std::string, std::size_t> left; // written elements that no given one stands for
     for (const PropertyTree& element : written.getList())
     {
@@ -600,7 +662,7 @@ void EffectCheck::FindMends(const Map& map)
     }
     EffectNode node = m_node;
     node.tree = &mended;
-    EffectCheck again(node, m_infos, m_places);
+    EffectCheck again(node, m_context);
     again.m_isAgain = true;
     again.Run();
     for (const auto& [finding, given] : m_changed)

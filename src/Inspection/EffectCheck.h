@@ -1,14 +1,13 @@
 #ifndef OMBREL_INSPECTION_EFFECT_CHECK_H
 #define OMBREL_INSPECTION_EFFECT_CHECK_H
 
+#include "Inspection/CheckContext.h"
 #include "Inspection/Findings.h"
-#include "Inspection/RecordInfo.h"
 #include "Inspection/ValueCheck.h"
 #include "Proc/EffectSettings/EffectSettingsExport.h"
 #include "PropertyTree/PropertyTree.h"
 
 #include <cstddef>
-#include <deque>
 #include <memory>
 #include <unordered_map>
 #include <utility>
@@ -21,13 +20,12 @@ namespace Ombrel::Inspection
 class EffectCheck
 {
 public:
-    EffectCheck(const EffectNode& node, RecordInfos& infos, std::deque<Place>& places)
-        : m_node(node), m_infos(infos), m_places(places), m_values(m_findings, places)
+    EffectCheck(const EffectNode& node, CheckContext& context) : m_node(node), m_context(context), m_values(m_findings, context)
     {
     }
 
     /// What was found, with the effects within at their places.
-    std::deque<Findings::Item>& Run();
+    std::vector<std::unique_ptr<Findings::Item>>& Run();
 
 private:
     using Map = PropertyTree::Map;
@@ -35,17 +33,19 @@ private:
 
     bool FindClass(const Map& map);
     void CheckEffect(const Map& map);
-    bool HasParts(const Map& map) const;
     void CopyUsable(const PropertyTree& from, PropertyTree& to, const Proc::ValueSchema& schema, Copies* copies);
     bool IsUnusable(const PropertyTree& element, const Proc::ValueSchema& list);
+    bool MustTry(const Children& children);
     bool Make();
     template <class Action> bool Try(const Place& place, const PropertyTree* at, Action action);
     void CheckBaseMembers(const Map& map);
     void EndBaseMember(const PropertyTree& value, bool isDefault, bool isLost, const Place& place);
-    void CheckField(const Map& map, std::size_t index);
+    void CheckFields(const Children& children, bool isOwn);
+    void ReadField(std::size_t index, const PropertyTree& value, bool isWhole);
     void CheckRows(const Map& map);
 
-    void CompareWithWritten(const Map& map);
+    void CheckKeys(const Map& map, std::size_t known);
+    void CompareWithWritten(const Map& map, const Children& children);
     void CompareMembers(const Map& given, const Map& written, const Proc::RecordSchema& schema, const Place& place);
     void Compare(const PropertyTree& given, const PropertyTree& written, const Proc::ValueSchema& schema, const Place& place);
     void CompareLists(const PropertyTree& given, const PropertyTree& written, const Proc::ValueSchema& schema,
@@ -57,10 +57,10 @@ private:
     void FindMends(const Map& map);
     const PropertyTree& ReadAs(const PropertyTree& given);
     PropertyTree ElementRead(const PropertyTree& element);
+    bool AreSameElements(const PropertyTree& a, const PropertyTree& b);
 
     const EffectNode& m_node;
-    RecordInfos& m_infos;
-    std::deque<Place>& m_places;
+    CheckContext& m_context;
     Findings m_findings;
     ValueCheck m_values;
     const PhotoCore::EffectClass* m_class = nullptr;
@@ -71,6 +71,7 @@ private:
     void* m_object = nullptr; // that the schema describes
 
     std::vector<std::pair<Finding*, const PropertyTree*>> m_changed; // with the values that they are about
+    std::size_t m_baseMembers = 0;                                   // how many keys of its map belong to what every effect has
     bool m_isAgain = false;                                          // a second look, at what would be mended
 };
 

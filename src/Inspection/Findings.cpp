@@ -7,7 +7,7 @@ namespace Ombrel::Inspection
 
 Finding& Findings::Add(FindingCode code, const Place& place, const PropertyTree* at, std::string message)
 {
-    Finding& finding = std::get<Finding>(m_items.emplace_back(Finding()));
+    Finding& finding = std::get<Finding>(*m_items.emplace_back(std::make_unique<Item>(Finding())));
     finding.path = place.ToPath();
     finding.code = code;
     finding.message = std::move(message);
@@ -32,6 +32,10 @@ bool Findings::HasError(const PropertyTree& value)
 
 Finding* Findings::About(const PropertyTree& value)
 {
+    if (m_byValue.empty())
+    {
+        return nullptr;
+    }
     const auto found = m_byValue.find(&value);
     return found == m_byValue.end() ? nullptr : found->second;
 }

@@ -5,7 +5,8 @@
 #include "Inspection/Place.h"
 
 #include <cstddef>
-#include <deque>
+#include <memory>
+#include <string>
 #include <unordered_map>
 #include <variant>
 #include <vector>
@@ -31,7 +32,7 @@ public:
     /// `at` is the value that the finding is about; null for one that is missing.
     Finding& Add(FindingCode code, const Place& place, const PropertyTree* at, std::string message);
 
-    void AddEffect(const EffectNode& node) { m_items.emplace_back(node); }
+    void AddEffect(const EffectNode& node) { m_items.push_back(std::make_unique<Item>(node)); }
 
     /// The first of the gravest findings about a value itself, or null.
     Finding* About(const PropertyTree& value);
@@ -39,10 +40,10 @@ public:
 
     std::size_t ErrorCount() const noexcept { return m_errors; }
 
-    std::deque<Item>& Items() noexcept { return m_items; }
+    std::vector<std::unique_ptr<Item>>& Items() noexcept { return m_items; }
 
 private:
-    std::deque<Item> m_items; // which stay where they are
+    std::vector<std::unique_ptr<Item>> m_items; // which stay where they are
     std::unordered_map<const PropertyTree*, Finding*> m_byValue;
     std::size_t m_errors = 0;
 };

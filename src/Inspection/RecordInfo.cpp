@@ -1,6 +1,6 @@
 #include "Inspection/RecordInfo.h"
 
-#include <cstddef>
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -9,12 +9,35 @@ namespace Ombrel::Inspection
 
 using Proc::ValueKind;
 
-bool IsPlain(const Proc::FieldSchema& field) noexcept
+// A record is entered before its fields are looked at, so that one that holds itself ends the search.
+RecordInfo& RecordInfos::InfoOf(const Proc::RecordSchema& schema)
 {
-    return field.value->kind <= ValueKind::Color && field.access.find(',') == std::string_view::npos;
+    const auto [entry, isNew] = m_infos.try_emplace(&schema);
+    RecordInfo& info = entry->second;
+    if (!isNew)
+    {
+        return info;
+    }
+    for (const Proc::FieldSchema& field : schema.fields)
+    {
+        const bool isMember = field.access.find(',') == std::string_view::npos && field.value->kind != ValueKind::Other;
+        info.isPlain.push_back(isMember && field.value->kind <= ValueKind::Color);
+        info.hasSetters = info.hasSetters || !isMember;
+    }
+    info.holdsEffects.resize(schema.fields.size());
+    for (std::size_t index = 0; index != schema.fields.size(); ++index)
+    {
+        info.holdsEffects[index] = HoldsEffects(*schema.fields[index].value);
+    }
+    return info;
 }
 
-bool HoldsEffects(const Proc::ValueSchema& schema) noexcept
+const RecordInfo& RecordInfos::Of(const Proc::RecordSchema& schema)
+{
+    return InfoOf(schema);
+}
+
+bool RecordInfos::HoldsEffects(const Proc::ValueSchema& schema)
 {
     switch (schema.kind)
     {
@@ -24,34 +47,42 @@ bool HoldsEffects(const Proc::ValueSchema& schema) noexcept
     case ValueKind::Set:
         return HoldsEffects(*schema.element);
     case ValueKind::Record:
-        for (const Proc::FieldSchema& field : schema.record().fields)
-        {
-            if (HoldsEffects(*field.value))
-            {
-                return true;
-            }
-        }
-        return false;
+        return std::ranges::count(InfoOf(schema.record()).holdsEffects, true) != 0;
     default:
         return false;
     }
 }
 
-const RecordInfo& RecordInfos::Of(const Proc::RecordSchema& schema)
+const std::vector<PropertyTree>& RecordInfos::DefaultsOf(const Proc::RecordSchema& schema)
 {
-    const auto found = m_infos.find(&schema);
-    if (found != m_infos.end())
+    RecordInfo& info = InfoOf(schema);
+    if (info.defaults.empty())
     {
-        return found->second;
+        constexpr Proc::WriteFlags whole{.resetTargets = true, .omitDefaults = false};
+        std::vector<PropertyTree> defaults(schema.fields.size());
+        for (std::size_t index = 0; index != defaults.size(); ++index)
+        {
+            schema.writeField(index, schema.defaults(), defaults[index], &whole);
+        }
+        info.defaults = std::move(defaults);
     }
-    constexpr Proc::WriteFlags whole{.resetTargets = true, .omitDefaults = false};
-    RecordInfo info;
-    PropertyTree::Map& defaults = info.defaults.makeMap(schema.fields.size());
-    for (std::size_t index = 0; index != schema.fields.size(); ++index)
+    return info.defaults;
+}
+
+Children::Children(const Proc::RecordSchema& schema, const PropertyTree::Map& map)
+{
+    const std::size_t count = schema.fields.size();
+    if (count > m_few.size())
     {
-        schema.writeField(index, schema.defaults(), defaults[schema.fields[index].key], &whole);
+        m_many.resize(count);
     }
-    return m_infos.emplace(&schema, std::move(info)).first->second;
+    m_children = {count > m_few.size() ? m_many.data() : m_few.data(), count};
+    Proc::FindChildren(schema, map, m_children.data());
+}
+
+std::size_t Children::Count() const noexcept
+{
+    return m_children.size() - static_cast<std::size_t>(std::ranges::count(m_children, nullptr));
 }
 
 } // namespace Ombrel::Inspection

@@ -184,15 +184,7 @@ void ValueCheck::Check(const PropertyTree& value, const ValueSchema& schema, con
         {
             return WrongKind(value, place, ExpectedOf(schema));
         }
-        CheckFields(value.getMap(), schema.record(), place);
-        for (const auto& [key, child] : value.getMap())
-        {
-            if (!IsField(&schema.record(), key))
-            {
-                AddUnknownKey(key, child, &schema.record(), place);
-            }
-        }
-        return;
+        return CheckRecord(value.getMap(), schema.record(), place);
     case ValueKind::List:
     case ValueKind::Set:
     case ValueKind::ColorMap:
@@ -204,13 +196,26 @@ void ValueCheck::Check(const PropertyTree& value, const ValueSchema& schema, con
     }
 }
 
-void ValueCheck::CheckFields(const PropertyTree::Map& map, const Proc::RecordSchema& schema, const Place& place)
+void ValueCheck::CheckRecord(const PropertyTree::Map& map, const Proc::RecordSchema& schema, const Place& place)
 {
-    for (const Proc::FieldSchema& field : schema.fields)
+    const Children children(schema, map);
+    for (std::size_t index = 0; index != schema.fields.size(); ++index)
     {
-        if (const auto found = map.find(field.key); found != map.end())
+        if (children[index])
         {
-            Check(found->second, *field.value, Place{.parent = &place, .key = found->first});
+            const Proc::FieldSchema& field = schema.fields[index];
+            Check(*children[index], *field.value, Place{.parent = &place, .key = field.key});
+        }
+    }
+    if (children.Count() == map.size())
+    {
+        return;
+    }
+    for (const auto& [key, child] : map)
+    {
+        if (!IsField(&schema, key))
+        {
+            AddUnknownKey(key, child, &schema, place);
         }
     }
 }
@@ -224,7 +229,7 @@ void ValueCheck::AddUnknownKey(std::string_view key, const PropertyTree& value, 
                                const Place& place)
 {
     NearestName nearest(key);
-    if (schema)
+    if (schema && m_context.MaySearch())
     {
         for (const Proc::FieldSchema& field : schema->fields)
         {
@@ -317,7 +322,7 @@ void ValueCheck::CheckEnum(const PropertyTree& value, const ValueSchema& schema,
     if (code == FindingCode::UnknownName)
     {
         NearestName nearest(name);
-        for (const Proc::EnumNameRow& row : table.rows)
+        for (const Proc::EnumNameRow& row : m_context.MaySearch() ? table.rows : decltype(table.rows)())
         {
             nearest.Try(row.name);
         }
@@ -376,7 +381,7 @@ void ValueCheck::CheckSequence(const PropertyTree& value, const ValueSchema& sch
             Check(list[index], *schema.element, element);
         }
     }
-    if (schema.kind != ValueKind::List)
+    if (schema.kind != ValueKind::List && !IsAscending(list, schema))
     {
         FindDuplicates(list, schema, place);
     }
@@ -385,25 +390,73 @@ void ValueCheck::CheckSequence(const PropertyTree& value, const ValueSchema& sch
 // Both keys are read, and there is no default for either.
 void ValueCheck::CheckColorElement(const PropertyTree& element, const ValueSchema& schema, const Place& place)
 {
-    const Proc::RecordSchema& record = schema.record();
-    for (const Proc::FieldSchema& field : record.fields)
+    if (element.isMap())
     {
-        if (element.isMap() && !element.contains(field.key))
+        const Children children(schema.record(), element.getMap());
+        for (std::size_t index = 0; index != schema.record().fields.size(); ++index)
         {
-            Finding& finding = m_findings.Add(FindingCode::WrongKind, place, &element, "the map has no " + Quoted(field.key));
-            finding.expected = "a map with \"key\" and \"value\"";
-            finding.mend = Mend::Remove;
-            return;
+            if (!children[index])
+            {
+                Finding& finding = m_findings.Add(FindingCode::WrongKind, place, &element,
+                                                  "the map has no " + Quoted(schema.record().fields[index].key));
+                finding.expected = "a map with \"key\" and \"value\"";
+                finding.mend = Mend::Remove;
+                return;
+            }
         }
     }
+    const std::size_t errors = m_findings.ErrorCount();
     Check(element, schema, place);
-    for (const Proc::FieldSchema& field : record.fields)
+    if (m_findings.ErrorCount() == errors || !element.isMap())
     {
-        if (element.isMap() && m_findings.HasError(element[field.key]))
+        return;
+    }
+    for (const Proc::FieldSchema& field : schema.record().fields)
+    {
+        if (m_findings.HasError(element[field.key]))
         {
             m_findings.About(element[field.key])->mend = Mend::RemoveElement;
         }
     }
+}
+
+// As the library writes sets of numbers and names, and maps of colours: none is there twice.
+bool ValueCheck::IsAscending(const PropertyTree::List& list, const ValueSchema& schema)
+{
+    const bool isMap = schema.kind == ValueKind::ColorMap;
+    std::optional<std::int64_t> last;
+    for (const PropertyTree& element : list)
+    {
+        const PropertyTree* value = &element;
+        if (isMap)
+        {
+            const auto key = element.isMap() ? element.getMap().find("key") : PropertyTree::Map::const_iterator();
+            if (!element.isMap() || key == element.getMap().end())
+            {
+                return false;
+            }
+            value = &key->second;
+        }
+        std::int64_t number = 0;
+        if (!isMap && schema.element->kind == ValueKind::Enum && IsText(*value))
+        {
+            number = schema.element->names->ValueOf(value->getScalar().toString());
+        }
+        else if (isMap && value->isScalar() && value->getScalar().kind() == Kind::Integer)
+        {
+            number = CutTo(ValueKind::UInt8, value->getScalar().toInt());
+        }
+        else
+        {
+            return false;
+        }
+        if (last && number <= *last)
+        {
+            return false;
+        }
+        last = number;
+    }
+    return true;
 }
 
 bool ValueCheck::HasErrorInside(const PropertyTree& element)
@@ -465,7 +518,7 @@ const Place* ValueCheck::Kept(const Place& place)
         Place copy = **step;
         copy.parent = kept;
         copy.isKept = true;
-        kept = &m_places.emplace_back(copy);
+        kept = &m_context.places.emplace_back(copy);
     }
     return kept;
 }

@@ -1,12 +1,12 @@
 #ifndef OMBREL_INSPECTION_VALUE_CHECK_H
 #define OMBREL_INSPECTION_VALUE_CHECK_H
 
+#include "Inspection/CheckContext.h"
 #include "Inspection/Findings.h"
 #include "Proc/Reflection/Schema.h"
 #include "PropertyTree/PropertyTree.h"
 
 #include <cstddef>
-#include <deque>
 #include <string>
 #include <string_view>
 
@@ -18,13 +18,12 @@ namespace Ombrel::Inspection
 class ValueCheck
 {
 public:
-    /// @param places keeps the places of the effects that are found
-    ValueCheck(Findings& findings, std::deque<Place>& places) : m_findings(findings), m_places(places) {}
+    ValueCheck(Findings& findings, CheckContext& context) : m_findings(findings), m_context(context) {}
 
     void Check(const PropertyTree& value, const Proc::ValueSchema& schema, const Place& place);
 
-    /// The fields of a record, whatever else its map has.
-    void CheckFields(const PropertyTree::Map& map, const Proc::RecordSchema& schema, const Place& place);
+    /// The fields of a record, and the keys of its map that are no fields.
+    void CheckRecord(const PropertyTree::Map& map, const Proc::RecordSchema& schema, const Place& place);
 
     static bool IsField(const Proc::RecordSchema* schema, std::string_view key);
 
@@ -39,12 +38,13 @@ private:
     void CheckSequence(const PropertyTree& value, const Proc::ValueSchema& schema, const Place& place);
     void CheckColorElement(const PropertyTree& element, const Proc::ValueSchema& schema, const Place& place);
     bool HasErrorInside(const PropertyTree& element);
+    static bool IsAscending(const PropertyTree::List& list, const Proc::ValueSchema& schema);
     void FindDuplicates(const PropertyTree::List& list, const Proc::ValueSchema& schema, const Place& place);
     void AddEffect(const PropertyTree& value, const Place& place);
     const Place* Kept(const Place& place);
 
     Findings& m_findings;
-    std::deque<Place>& m_places;
+    CheckContext& m_context;
 };
 
 /// What may stand where a value of this kind is read, for people: "an integer from 0 to 255".

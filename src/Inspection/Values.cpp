@@ -106,6 +106,10 @@ std::string KeyOf(const PropertyTree& value)
 
 bool AreSame(const PropertyTree& a, const PropertyTree& b)
 {
+    if (a.isScalar() && b.isScalar())
+    {
+        return AreSameScalars(a.getScalar(), b.getScalar());
+    }
     std::vector<std::pair<const PropertyTree*, const PropertyTree*>> pending{{&a, &b}};
     while (!pending.empty())
     {

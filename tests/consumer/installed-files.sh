@@ -29,7 +29,7 @@ expected=$(cd "$SOURCE_DIR/src" &&
         -e PropertyTree/PropertyTreeMapIndex.h -e PropertyTree/PropertyTreeMapInternals.h \
         -e PropertyTreeJson/JsonFault.h -e PropertyTreeJson/JsonNumber.h -e PropertyTreeJson/JsonOutput.h \
         -e PropertyTreeJson/JsonScanner.h -e PropertyTreeJson/JsonText.h -e PropertyTreeJson/JsonTreeBuilder.h \
-        -e PropertyTreeJson/MessageText.h -e Inspection/EffectCheck.h -e Inspection/Findings.h -e Inspection/Nearest.h \
+        -e PropertyTreeJson/MessageText.h -e Inspection/CheckContext.h -e Inspection/EffectCheck.h -e Inspection/Findings.h -e Inspection/Nearest.h \
         -e Inspection/Place.h -e Inspection/RecordInfo.h -e Inspection/ValueCheck.h -e Inspection/Values.h |
     sort)
 expect "headers" "$expected" "$(cd "$include" && find . -name '*.h' -printf '%P\n' | sort)"
