@@ -2,6 +2,7 @@
 
 #include "Exception/Exception.h"
 #include "Inspection/Nearest.h"
+#include "Inspection/Usable.h"
 #include "Inspection/Values.h"
 #include "Proc/EffectSettings/HelperSettings.h"
 #include "Proc/EffectSettings/SettingsEffectFacePackage.h"
@@ -12,7 +13,6 @@
 #include <algorithm>
 #include <exception>
 #include <functional>
-#include <map>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -46,34 +46,10 @@ bool IsOwn(const PhotoCore::EffectClass& effectClass)
     return !isBefore(&effectClass, own.data()) && isBefore(&effectClass, own.data() + own.size());
 }
 
-// Whether an effect stands in the value, other than null.
-bool HasEffect(const PropertyTree& value, const ValueSchema& schema)
-{
-    if (schema.kind == ValueKind::Effect)
-    {
-        return !value.isNull();
-    }
-    if (value.isList() && schema.element)
-    {
-        return std::ranges::any_of(value.getList(),
-                                   [&](const PropertyTree& element) { return HasEffect(element, *schema.element); });
-    }
-    if (value.isMap() && schema.kind == ValueKind::Record)
-    {
-        return std::ranges::any_of(schema.record().fields,
-                                   [&](const FieldSchema& field)
-                                   {
-                                       const auto found = value.getMap().find(field.key);
-                                       return found != value.getMap().end() && HasEffect(found->second, *field.value);
-                                   });
-    }
-    return false;
-}
-
 } // namespace
 
 // Failures of a caller's code are findings.
-template <class Action> bool EffectCheck::Try(const Place& place, const PropertyTree* at, Action action)
+template <class Action> bool EffectCheck::Try(FindingCode code, const Place& place, const PropertyTree* at, Action action)
 {
     std::string reason = "an unknown failure";
     try
@@ -92,7 +68,7 @@ template <class Action> bool EffectCheck::Try(const Place& place, const Property
     catch (...)
     {
     }
-    m_findings.Add(FindingCode::Refused, place, at, "the class refuses it: " + reason);
+    m_findings.Add(code, place, at, "the class refuses it: " + reason);
     return false;
 }
 
@@ -203,8 +179,8 @@ void EffectCheck::CheckEffect(const Map& map)
         CheckRows(map);
     }
     CheckKeys(map, children.Count());
-    // What a caller's getters throw is found here too.
-    Try(*m_node.place, nullptr, [&] { CompareWithWritten(map, children); });
+    // A caller's getter may throw.
+    Try(FindingCode::ChangesOnWrite, *m_node.place, nullptr, [&] { CompareWithWritten(map, children); });
 }
 
 // Whether only reading and writing tell what they do.
@@ -238,54 +214,9 @@ void EffectCheck::CheckKeys(const Map& map, std::size_t known)
     }
 }
 
-// A copy without what no read takes, and with null for each effect.
-void EffectCheck::CopyUsable(const PropertyTree& from, PropertyTree& to, const ValueSchema& schema, Copies* copies)
-{
-    if (copies)
-    {
-        copies->emplace(&from, &to);
-    }
-    if (from.isList() && schema.element)
-    {
-        PropertyTree::List& list = to.makeList(from.getList().size());
-        for (const PropertyTree& element : from.getList())
-        {
-            if (!IsUnusable(element, schema))
-            {
-                CopyUsable(element, list.emplace_back(), *schema.element, copies);
-            }
-        }
-    }
-    else if (from.isMap() && schema.kind == ValueKind::Record)
-    {
-        PropertyTree::Map& map = to.makeMap(from.getMap().size());
-        const RecordSchema& record = schema.record();
-        for (const auto& [key, child] : from.getMap())
-        {
-            const auto field = Proc::FindField(record, key);
-            if (field && !m_findings.HasError(child))
-            {
-                CopyUsable(child, map[key], *record.fields[*field].value, copies);
-            }
-        }
-    }
-    else if (schema.kind != ValueKind::Effect)
-    {
-        to = from;
-    }
-}
-
-// An element of a colour map counts as a whole.
-bool EffectCheck::IsUnusable(const PropertyTree& element, const ValueSchema& list)
-{
-    return m_findings.HasError(element) ||
-           (list.kind == ValueKind::ColorMap && element.isMap() &&
-            std::ranges::any_of(element.getMap(), [this](const auto& entry) { return m_findings.HasError(entry.second); }));
-}
-
 bool EffectCheck::Make()
 {
-    return Try(*m_node.place, m_node.tree,
+    return Try(FindingCode::Refused, *m_node.place, m_node.tree,
                [&]
                {
                    m_effect = m_class->create();
@@ -324,7 +255,7 @@ void EffectCheck::CheckBaseMembers(const Map& map)
         const RecordSchema& schema = HelperSettings::Schema();
         HelperSettings helper;
         PropertyTree usable;
-        CopyUsable(found->second, usable, HELPER_SETTINGS, nullptr);
+        CopyUsable(found->second, usable, HELPER_SETTINGS, m_findings, nullptr);
         schema.read(&helper, usable.getMap(), &READ);
         const bool isDefault = schema.equal(&helper, schema.defaults());
         EndBaseMember(found->second, isDefault, isLost, place);
@@ -332,7 +263,7 @@ void EffectCheck::CheckBaseMembers(const Map& map)
         {
             PropertyTree written;
             schema.write(&helper, written.makeMap(), &WRITE, 0);
-            CompareMembers(found->second.getMap(), written.getMap(), schema, place);
+            m_comparison.CompareMembers(found->second.getMap(), written.getMap(), schema, place);
         }
     }
 }
@@ -369,7 +300,7 @@ void EffectCheck::CheckFields(const Children& children, bool isOwn)
         if (!isOwn && !m_findings.HasError(*children[index]))
         {
             const bool isWholeField = m_findings.ErrorCount() == errors && !holdsEffects[index];
-            Try(place, children[index], [&] { ReadField(index, *children[index], isWholeField); });
+            Try(FindingCode::Refused, place, children[index], [&] { ReadField(index, *children[index], isWholeField); });
         }
     }
     if (!isOwn || !m_object)
@@ -398,7 +329,7 @@ void EffectCheck::ReadField(std::size_t index, const PropertyTree& value, bool i
         return;
     }
     PropertyTree usable;
-    CopyUsable(value, usable, *m_schema->fields[index].value, nullptr);
+    CopyUsable(value, usable, *m_schema->fields[index].value, m_findings, nullptr);
     m_schema->readField(index, m_object, usable, &READ);
 }
 
@@ -431,7 +362,7 @@ void EffectCheck::CompareWithWritten(const Map& map, const Children& children)
     {
         PropertyTree written;
         m_schema->write(m_object, written.makeMap(), &WRITE, 0);
-        CompareMembers(map, written.getMap(), *m_schema, *m_node.place);
+        m_comparison.CompareMembers(map, written.getMap(), *m_schema, *m_node.place);
         FindMends(map);
         return;
     }
@@ -443,204 +374,17 @@ void EffectCheck::CompareWithWritten(const Map& map, const Children& children)
         }
         const FieldSchema& field = m_schema->fields[index];
         const PropertyTree& byDefault = m_context.infos.DefaultsOf(*m_schema)[index];
-        if (AreSame(ReadAs(*children[index]), byDefault))
+        if (AreSame(m_comparison.ReadAs(*children[index]), byDefault))
         {
-            Omitted(*children[index], byDefault, *field.value, Place{.parent = m_node.place, .key = field.key});
+            m_comparison.Omitted(*children[index], byDefault, *field.value, Place{.parent = m_node.place, .key = field.key});
         }
     }
-}
-
-// What the value becomes when it is read, as far as its kind tells.
-const PropertyTree& EffectCheck::ReadAs(const PropertyTree& given)
-{
-    const Finding* finding = m_findings.About(given);
-    return finding && SeverityOf(finding->code) == Severity::Warning ? finding->becomes : given;
-}
-
-void EffectCheck::CompareMembers(const Map& given, const Map& written, const RecordSchema& schema, const Place& place)
-{
-    const Children there(schema, given);
-    const Children again(schema, written);
-    for (std::size_t index = 0; index != schema.fields.size(); ++index)
-    {
-        const FieldSchema& field = schema.fields[index];
-        const Place at{.parent = &place, .key = field.key};
-        if (there[index])
-        {
-            if (m_findings.HasError(*there[index]))
-            {
-                continue;
-            }
-            if (again[index])
-            {
-                Compare(*there[index], *again[index], *field.value, at);
-            }
-            else if (!HasEffect(*there[index], *field.value))
-            {
-                Omitted(*there[index], m_context.infos.DefaultsOf(schema)[index], *field.value, at);
-            }
-        }
-        else if (again[index] && !(again[index]->isMap() && again[index]->getMap().empty()))
-        {
-            Finding& finding = m_findings.Add(FindingCode::ChangesOnWrite, at, nullptr,
-                                              "it is not there and is written as " + Shown(*again[index]));
-            finding.becomes = *again[index];
-        }
-    }
-}
-
-void EffectCheck::Compare(const PropertyTree& given, const PropertyTree& written, const ValueSchema& schema, const Place& place)
-{
-    switch (schema.kind)
-    {
-    case ValueKind::Effect:
-        return;
-    case ValueKind::Record:
-        return CompareMembers(given.getMap(), written.getMap(), schema.record(), place);
-    case ValueKind::List:
-        if (given.isList())
-        {
-            CompareLists(given, written, schema, place);
-        }
-        return;
-    case ValueKind::Set:
-    case ValueKind::ColorMap:
-        if (given.isList())
-        {
-            CompareUnordered(given, written, schema, place);
-        }
-        return;
-    default:
-        if (!AreSame(ReadAs(given), written))
-        {
-            Changed(given, written, place);
-        }
-    }
-}
-
-void EffectCheck::CompareLists(const PropertyTree& given, const PropertyTree& written, const ValueSchema& schema,
-                               const Place& place)
-{
-    const PropertyTree::List& list = given.getList();
-    const auto usable = std::ranges::count_if(list, [&](const PropertyTree& element) { return !IsUnusable(element, schema); });
-    if (static_cast<std::size_t>(usable) != written.getList().size())
-    {
-        return Changed(given, written, place);
-    }
-    auto again = written.getList().begin();
-    for (std::size_t index = 0; index != list.size(); ++index)
-    {
-        if (!IsUnusable(list[index], schema))
-        {
-            Compare(list[index], *again++, *schema.element, Place{.parent = &place, .key = {}, .index = index});
-        }
-    }
-}
-
-// Elements of sets are scalars, those of colour maps have two scalars each.
-bool EffectCheck::AreSameElements(const PropertyTree& a, const PropertyTree& b)
-{
-    return a.isMap() && b.isMap() ? std::ranges::equal(a.getMap(), b.getMap(),
-                                                       [this](const auto& one, const auto& other) {
-                                                           return one.first == other.first && !m_findings.About(one.second) &&
-                                                                  AreSame(one.second, other.second);
-                                                       })
-                                  : AreSame(a, b);
-}
-
-// Each element must be written again, and no other.
-void EffectCheck::CompareUnordered(const PropertyTree& given, const PropertyTree& written, const ValueSchema& schema,
-                                   const Place& place)
-{
-    const PropertyTree::List& list = given.getList();
-    if (std::ranges::equal(list, written.getList(),
-                           [this](const PropertyTree& element, const PropertyTree& again)
-                           { return !m_findings.About(element) && AreSameElements(element, again); }))
-    {
-        return;
-    }
-    std::map<std::string, std::size_t> left; // written elements that no given one stands for
-    for (const PropertyTree& element : written.getList())
-    {
-        ++left[KeyOf(element)];
-    }
-    for (std::size_t index = 0; index != given.getList().size(); ++index)
-    {
-        const PropertyTree& element = given.getList()[index];
-        Finding* finding = m_findings.About(element);
-        if (IsUnusable(element, schema) || (finding && finding->mend == Mend::Remove))
-        {
-            continue; // it is told already that it goes
-        }
-        const auto found = left.find(KeyOf(ElementRead(element)));
-        if (found != left.end() && found->second != 0)
-        {
-            --found->second;
-            continue;
-        }
-        if (!finding)
-        {
-            finding = &m_findings.Add(FindingCode::ChangesOnWrite, Place{.parent = &place, .key = {}, .index = index}, &element,
-                                      "it is not written again");
-        }
-        finding->mend = Mend::Remove;
-    }
-    if (std::ranges::any_of(left, [](const auto& entry) { return entry.second != 0; }))
-    {
-        Changed(given, written, place);
-    }
-}
-
-// An element of a colour map is read field by field.
-PropertyTree EffectCheck::ElementRead(const PropertyTree& element)
-{
-    if (!element.isMap())
-    {
-        return ReadAs(element);
-    }
-    PropertyTree read;
-    for (const char* key : {"key", "value"})
-    {
-        if (element.contains(key))
-        {
-            read[key] = ReadAs(element[key]);
-        }
-    }
-    return read;
-}
-
-void EffectCheck::Changed(const PropertyTree& given, const PropertyTree& written, const Place& place)
-{
-    Finding* finding = m_findings.About(given);
-    if (!finding || SeverityOf(finding->code) == Severity::Note)
-    {
-        finding =
-            &m_findings.Add(FindingCode::ChangesOnWrite, place, &given, Shown(given) + " is written as " + Shown(written));
-    }
-    finding->becomes = written;
-    finding->mend = Mend::None;
-    m_changed.emplace_back(finding, &given);
-}
-
-void EffectCheck::Omitted(const PropertyTree& given, const PropertyTree& byDefault, const ValueSchema& schema,
-                          const Place& place)
-{
-    Finding* finding = m_findings.About(given);
-    const bool isTold = finding && SeverityOf(finding->code) == Severity::Warning;
-    const bool isScalar = schema.kind <= ValueKind::Color || schema.kind == ValueKind::Other;
-    const bool isDefault = !isScalar || AreSame(ReadAs(given), byDefault);
-    if (!isTold)
-    {
-        finding = &m_findings.Add(isDefault ? FindingCode::DefaultWritten : FindingCode::ChangesOnWrite, place, &given,
-                                  isDefault ? "it has its default and is not written again" : "it is not written again");
-    }
-    finding->mend = Mend::Remove;
 }
 
 // A changed value can be replaced by what it becomes if it then stays as it is.
 void EffectCheck::FindMends(const Map& map)
 {
-    if (m_changed.empty() || m_isAgain)
+    if (m_comparison.Changed().empty() || m_isAgain)
     {
         return;
     }
@@ -653,10 +397,10 @@ void EffectCheck::FindMends(const Map& map)
         const auto field = Proc::FindField(*m_schema, key);
         if (field && !m_findings.HasError(child))
         {
-            CopyUsable(child, fields[key], *m_schema->fields[*field].value, &copies);
+            CopyUsable(child, fields[key], *m_schema->fields[*field].value, m_findings, &copies);
         }
     }
-    for (const auto& [finding, given] : m_changed)
+    for (const auto& [finding, given] : m_comparison.Changed())
     {
         *copies.at(given) = finding->becomes;
     }
@@ -665,7 +409,7 @@ void EffectCheck::FindMends(const Map& map)
     EffectCheck again(node, m_context);
     again.m_isAgain = true;
     again.Run();
-    for (const auto& [finding, given] : m_changed)
+    for (const auto& [finding, given] : m_comparison.Changed())
     {
         const Finding* left = again.m_findings.About(*copies.at(given));
         if (!left || left->code != FindingCode::ChangesOnWrite)

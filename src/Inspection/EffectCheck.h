@@ -4,13 +4,12 @@
 #include "Inspection/CheckContext.h"
 #include "Inspection/Findings.h"
 #include "Inspection/ValueCheck.h"
+#include "Inspection/WrittenComparison.h"
 #include "Proc/EffectSettings/EffectSettingsExport.h"
 #include "PropertyTree/PropertyTree.h"
 
 #include <cstddef>
 #include <memory>
-#include <unordered_map>
-#include <utility>
 #include <vector>
 
 namespace Ombrel::Inspection
@@ -20,7 +19,8 @@ namespace Ombrel::Inspection
 class EffectCheck
 {
 public:
-    EffectCheck(const EffectNode& node, CheckContext& context) : m_node(node), m_context(context), m_values(m_findings, context)
+    EffectCheck(const EffectNode& node, CheckContext& context)
+        : m_node(node), m_context(context), m_values(m_findings, context), m_comparison(m_findings, context)
     {
     }
 
@@ -29,15 +29,12 @@ public:
 
 private:
     using Map = PropertyTree::Map;
-    using Copies = std::unordered_map<const PropertyTree*, PropertyTree*>; // by the originals
 
     bool FindClass(const Map& map);
     void CheckEffect(const Map& map);
-    void CopyUsable(const PropertyTree& from, PropertyTree& to, const Proc::ValueSchema& schema, Copies* copies);
-    bool IsUnusable(const PropertyTree& element, const Proc::ValueSchema& list);
     bool MustTry(const Children& children);
     bool Make();
-    template <class Action> bool Try(const Place& place, const PropertyTree* at, Action action);
+    template <class Action> bool Try(FindingCode code, const Place& place, const PropertyTree* at, Action action);
     void CheckBaseMembers(const Map& map);
     void EndBaseMember(const PropertyTree& value, bool isDefault, bool isLost, const Place& place);
     void CheckFields(const Children& children, bool isOwn);
@@ -46,23 +43,13 @@ private:
 
     void CheckKeys(const Map& map, std::size_t known);
     void CompareWithWritten(const Map& map, const Children& children);
-    void CompareMembers(const Map& given, const Map& written, const Proc::RecordSchema& schema, const Place& place);
-    void Compare(const PropertyTree& given, const PropertyTree& written, const Proc::ValueSchema& schema, const Place& place);
-    void CompareLists(const PropertyTree& given, const PropertyTree& written, const Proc::ValueSchema& schema,
-                      const Place& place);
-    void CompareUnordered(const PropertyTree& given, const PropertyTree& written, const Proc::ValueSchema& schema,
-                          const Place& place);
-    void Changed(const PropertyTree& given, const PropertyTree& written, const Place& place);
-    void Omitted(const PropertyTree& given, const PropertyTree& byDefault, const Proc::ValueSchema& schema, const Place& place);
     void FindMends(const Map& map);
-    const PropertyTree& ReadAs(const PropertyTree& given);
-    PropertyTree ElementRead(const PropertyTree& element);
-    bool AreSameElements(const PropertyTree& a, const PropertyTree& b);
 
     const EffectNode& m_node;
     CheckContext& m_context;
     Findings m_findings;
     ValueCheck m_values;
+    WrittenComparison m_comparison;
     const PhotoCore::EffectClass* m_class = nullptr;
     const Proc::RecordSchema* m_schema = nullptr; // of the class; null if it has no keys of its own
 
@@ -70,9 +57,8 @@ private:
     std::shared_ptr<PhotoCore::IEffectSettings> m_effect;
     void* m_object = nullptr; // that the schema describes
 
-    std::vector<std::pair<Finding*, const PropertyTree*>> m_changed; // with the values that they are about
-    std::size_t m_baseMembers = 0;                                   // how many keys of its map belong to what every effect has
-    bool m_isAgain = false;                                          // a second look, at what would be mended
+    std::size_t m_baseMembers = 0; // how many keys of its map belong to what every effect has
+    bool m_isAgain = false;        // a second look, at what would be mended
 };
 
 } // namespace Ombrel::Inspection

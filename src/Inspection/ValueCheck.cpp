@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -22,45 +21,6 @@ namespace
 using Proc::ValueKind;
 using Proc::ValueSchema;
 using Kind = PropertyTreeScalar::Kind;
-
-bool IsNumber(const PropertyTree& value)
-{
-    return value.isScalar() && (value.getScalar().kind() == Kind::Integer || value.getScalar().kind() == Kind::Float);
-}
-
-bool IsText(const PropertyTree& value)
-{
-    return value.isScalar() && value.getScalar().kind() == Kind::String;
-}
-
-// The stored form of what is left of the integer.
-std::int64_t CutTo(ValueKind kind, std::int64_t value)
-{
-    switch (kind)
-    {
-    case ValueKind::Int32:
-        return static_cast<std::int32_t>(value);
-    case ValueKind::UInt32:
-        return static_cast<std::uint32_t>(value);
-    case ValueKind::UInt8:
-        return static_cast<std::uint8_t>(value);
-    default:
-        return value;
-    }
-}
-
-// Nothing for a number that no integer holds.
-std::optional<std::int64_t> IntegerOf(const PropertyTree& value)
-{
-    try
-    {
-        return value.getScalar().toInt();
-    }
-    catch (const std::out_of_range&)
-    {
-        return std::nullopt;
-    }
-}
 
 // Where a read ends the text.
 std::string_view ColorTextOf(const PropertyTree& value)
@@ -80,67 +40,7 @@ std::optional<Proc::RgbaColor> ColorOf(const PropertyTree& value)
     }
 }
 
-// What a value is told apart by in a set.
-PropertyTree ElementRead(const PropertyTree& element, const ValueSchema& schema)
-{
-    if (schema.kind == ValueKind::Enum && !IsNumber(element))
-    {
-        return schema.names->ValueOf(IsText(element) ? std::string_view(element.getScalar().toString()) : std::string_view());
-    }
-    if (schema.kind <= ValueKind::UInt64 && IsNumber(element))
-    {
-        const std::optional<std::int64_t> integer = IntegerOf(element);
-        return integer ? PropertyTree(CutTo(schema.kind, *integer)) : element;
-    }
-    return element;
-}
-
 } // namespace
-
-std::string ExpectedOf(const ValueSchema& schema)
-{
-    switch (schema.kind)
-    {
-    case ValueKind::Int32:
-        return "an integer from -2147483648 to 2147483647";
-    case ValueKind::UInt32:
-        return "an integer from 0 to 4294967295";
-    case ValueKind::UInt8:
-        return "an integer from 0 to 255";
-    case ValueKind::Int64:
-    case ValueKind::UInt64:
-        return "an integer of 64 bits";
-    case ValueKind::Float64:
-    case ValueKind::Float32:
-        return "a number";
-    case ValueKind::Bool:
-        return "true or false";
-    case ValueKind::String:
-        return "a text";
-    case ValueKind::Enum:
-    {
-        std::string names = "one of the names ";
-        for (const Proc::EnumNameRow& row : schema.names->rows)
-        {
-            names += (&row == schema.names->rows.data() ? "" : ", ") + Quoted(row.name);
-        }
-        return names;
-    }
-    case ValueKind::Color:
-        return "a colour of eight hexadecimal digits, such as \"ff0000ff\"";
-    case ValueKind::Record:
-        return "a map";
-    case ValueKind::List:
-    case ValueKind::Set:
-        return "a list";
-    case ValueKind::ColorMap:
-        return "a list of maps with \"key\" and \"value\"";
-    case ValueKind::Effect:
-        return "an effect or null";
-    default:
-        return {};
-    }
-}
 
 void ValueCheck::WrongKind(const PropertyTree& value, const Place& place, std::string_view expected)
 {
@@ -353,143 +253,6 @@ void ValueCheck::CheckColor(const PropertyTree& value, const Place& place)
         finding.expected = ExpectedOf(COLOR);
         finding.becomes = read;
         finding.mend = Mend::Replace;
-    }
-}
-
-void ValueCheck::CheckSequence(const PropertyTree& value, const ValueSchema& schema, const Place& place)
-{
-    if (!value.isList())
-    {
-        Finding& finding = m_findings.Add(FindingCode::IgnoredValue, place, &value,
-                                          Shown(value) + " stands where a list is read, and is ignored");
-        finding.expected = ExpectedOf(schema);
-        // An element that is ignored stays as an empty one.
-        finding.mend = place.index == Place::NO_INDEX ? Mend::Remove : Mend::Replace;
-        finding.becomes.makeList();
-        return;
-    }
-    const PropertyTree::List& list = value.getList();
-    for (std::size_t index = 0; index != list.size(); ++index)
-    {
-        const Place element{.parent = &place, .key = {}, .index = index};
-        if (schema.kind == ValueKind::ColorMap)
-        {
-            CheckColorElement(list[index], *schema.element, element);
-        }
-        else
-        {
-            Check(list[index], *schema.element, element);
-        }
-    }
-    if (schema.kind != ValueKind::List && !IsAscending(list, schema))
-    {
-        FindDuplicates(list, schema, place);
-    }
-}
-
-// Both keys are read, and there is no default for either.
-void ValueCheck::CheckColorElement(const PropertyTree& element, const ValueSchema& schema, const Place& place)
-{
-    if (element.isMap())
-    {
-        const Children children(schema.record(), element.getMap());
-        for (std::size_t index = 0; index != schema.record().fields.size(); ++index)
-        {
-            if (!children[index])
-            {
-                Finding& finding = m_findings.Add(FindingCode::WrongKind, place, &element,
-                                                  "the map has no " + Quoted(schema.record().fields[index].key));
-                finding.expected = "a map with \"key\" and \"value\"";
-                finding.mend = Mend::Remove;
-                return;
-            }
-        }
-    }
-    const std::size_t errors = m_findings.ErrorCount();
-    Check(element, schema, place);
-    if (m_findings.ErrorCount() == errors || !element.isMap())
-    {
-        return;
-    }
-    for (const Proc::FieldSchema& field : schema.record().fields)
-    {
-        if (m_findings.HasError(element[field.key]))
-        {
-            m_findings.About(element[field.key])->mend = Mend::RemoveElement;
-        }
-    }
-}
-
-// As the library writes sets of numbers and names, and maps of colours: none is there twice.
-bool ValueCheck::IsAscending(const PropertyTree::List& list, const ValueSchema& schema)
-{
-    const bool isMap = schema.kind == ValueKind::ColorMap;
-    std::optional<std::int64_t> last;
-    for (const PropertyTree& element : list)
-    {
-        const PropertyTree* value = &element;
-        if (isMap)
-        {
-            const auto key = element.isMap() ? element.getMap().find("key") : PropertyTree::Map::const_iterator();
-            if (!element.isMap() || key == element.getMap().end())
-            {
-                return false;
-            }
-            value = &key->second;
-        }
-        std::int64_t number = 0;
-        if (!isMap && schema.element->kind == ValueKind::Enum && IsText(*value))
-        {
-            number = schema.element->names->ValueOf(value->getScalar().toString());
-        }
-        else if (isMap && value->isScalar() && value->getScalar().kind() == Kind::Integer)
-        {
-            number = CutTo(ValueKind::UInt8, value->getScalar().toInt());
-        }
-        else
-        {
-            return false;
-        }
-        if (last && number <= *last)
-        {
-            return false;
-        }
-        last = number;
-    }
-    return true;
-}
-
-bool ValueCheck::HasErrorInside(const PropertyTree& element)
-{
-    return std::ranges::any_of(element.getMap(), [this](const auto& entry) { return m_findings.HasError(entry.second); });
-}
-
-void ValueCheck::FindDuplicates(const PropertyTree::List& list, const ValueSchema& schema, const Place& place)
-{
-    // Of the elements of a set the first counts, of a colour map the last.
-    const bool isMap = schema.kind == ValueKind::ColorMap;
-    std::map<std::string, std::size_t> seen;
-    for (std::size_t count = 0; count != list.size(); ++count)
-    {
-        const std::size_t index = isMap ? list.size() - 1 - count : count;
-        const PropertyTree& element = list[index];
-        if (m_findings.HasError(element) || (isMap && HasErrorInside(element)))
-        {
-            continue;
-        }
-        const PropertyTree read = isMap ? ElementRead(element["key"], *schema.element->record().fields[0].value)
-                                        : ElementRead(element, *schema.element);
-        if (seen.try_emplace(KeyOf(read), index).second)
-        {
-            continue;
-        }
-        const Place at{.parent = &place, .key = {}, .index = index};
-        Finding* finding = m_findings.About(element);
-        if (!finding)
-        {
-            finding = &m_findings.Add(FindingCode::DuplicateElement, at, &element, "another element is the same");
-        }
-        finding->mend = Mend::Remove;
     }
 }
 

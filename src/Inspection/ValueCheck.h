@@ -7,7 +7,6 @@
 #include "PropertyTree/PropertyTree.h"
 
 #include <cstddef>
-#include <string>
 #include <string_view>
 
 namespace Ombrel::Inspection
@@ -46,9 +45,6 @@ private:
     Findings& m_findings;
     CheckContext& m_context;
 };
-
-/// What may stand where a value of this kind is read, for people: "an integer from 0 to 255".
-std::string ExpectedOf(const Proc::ValueSchema& schema);
 
 } // namespace Ombrel::Inspection
 

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <sstream>
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -41,6 +42,43 @@ bool AreSameScalars(const PropertyTreeScalar& a, const PropertyTreeScalar& b)
 }
 
 } // namespace
+
+bool IsNumber(const PropertyTree& value)
+{
+    return value.isScalar() && (value.getScalar().kind() == Kind::Integer || value.getScalar().kind() == Kind::Float);
+}
+
+bool IsText(const PropertyTree& value)
+{
+    return value.isScalar() && value.getScalar().kind() == Kind::String;
+}
+
+std::int64_t CutTo(Proc::ValueKind kind, std::int64_t value)
+{
+    switch (kind)
+    {
+    case Proc::ValueKind::Int32:
+        return static_cast<std::int32_t>(value);
+    case Proc::ValueKind::UInt32:
+        return static_cast<std::uint32_t>(value);
+    case Proc::ValueKind::UInt8:
+        return static_cast<std::uint8_t>(value);
+    default:
+        return value;
+    }
+}
+
+std::optional<std::int64_t> IntegerOf(const PropertyTree& value)
+{
+    try
+    {
+        return value.getScalar().toInt();
+    }
+    catch (const std::out_of_range&)
+    {
+        return std::nullopt;
+    }
+}
 
 std::string Quoted(std::string_view text)
 {

@@ -1,13 +1,28 @@
 #ifndef OMBREL_INSPECTION_VALUES_H
 #define OMBREL_INSPECTION_VALUES_H
 
+#include "Proc/Reflection/Schema.h"
 #include "PropertyTree/PropertyTree.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace Ombrel::Inspection
 {
+
+bool IsNumber(const PropertyTree& value);
+bool IsText(const PropertyTree& value);
+
+/// The stored form of what is left of an integer in a field of this kind.
+std::int64_t CutTo(Proc::ValueKind kind, std::int64_t value);
+
+/// What a number reads as where an integer stands; nothing for one that no integer of 64 bits holds.
+std::optional<std::int64_t> IntegerOf(const PropertyTree& value);
+
+/// What may stand where a value of this kind is read, for people: "an integer from 0 to 255".
+std::string ExpectedOf(const Proc::ValueSchema& schema);
 
 /// A value as messages show it: a text in quotation marks, cut if it is long; "a map" and "a list".
 std::string Shown(const PropertyTree& value);

@@ -30,7 +30,8 @@ expected=$(cd "$SOURCE_DIR/src" &&
         -e PropertyTreeJson/JsonFault.h -e PropertyTreeJson/JsonNumber.h -e PropertyTreeJson/JsonOutput.h \
         -e PropertyTreeJson/JsonScanner.h -e PropertyTreeJson/JsonText.h -e PropertyTreeJson/JsonTreeBuilder.h \
         -e PropertyTreeJson/MessageText.h -e Inspection/CheckContext.h -e Inspection/EffectCheck.h -e Inspection/Findings.h -e Inspection/Nearest.h \
-        -e Inspection/Place.h -e Inspection/RecordInfo.h -e Inspection/ValueCheck.h -e Inspection/Values.h |
+        -e Inspection/Place.h -e Inspection/RecordInfo.h -e Inspection/Usable.h -e Inspection/ValueCheck.h \
+        -e Inspection/Values.h -e Inspection/WrittenComparison.h |
     sort)
 expect "headers" "$expected" "$(cd "$include" && find . -name '*.h' -printf '%P\n' | sort)"
 sed 's/.*/#include "&"/' <<<"$expected" | "$CXX" -std=c++20 -fsyntax-only -I "$include" -x c++ - ||

@@ -50,7 +50,7 @@ struct Odd : Proc::SettingsRecord<Odd>
         }
         m_second = value;
     }
-    std::int32_t GetSecond() const { return m_second; }
+    std::int32_t GetSecond() const { return m_second == 7 ? throw std::runtime_error("seven") : m_second; }
 
     bool operator==(const Odd& other) const { return m_first == other.m_first && m_second == other.m_second; }
 
@@ -86,6 +86,12 @@ TEST(CheckOfCallers, ASetterThatRefusesIsAnError)
     EXPECT_EQ(CheckedLines(R"({"name": "EFFECT_ODD", "first": 2, "second": -1, "third": 1})"),
               "error refused at first\nerror refused at second\nwarning unknown-key at third -> taken out\n");
     EXPECT_EQ(Inspection::Check(ReadJson(R"({"name": "EFFECT_ODD", "first": 2})"))[0].message, "the class refuses it: even");
+}
+
+TEST(CheckOfCallers, AGetterThatRefusesIsAWarning)
+{
+    RegisterEffectClass(ClassAs("EFFECT_ODD_SEVEN", &OddSettings::CreateBase));
+    EXPECT_EQ(CheckedLines(R"({"name": "EFFECT_ODD_SEVEN", "second": 7})"), "warning changes-on-write at \n");
 }
 
 TEST(CheckOfCallers, AFactoryThatMakesNothingIsAnError)
