@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <exception>
 #include <functional>
+#include <map>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -255,7 +256,7 @@ void EffectCheck::CheckBaseMembers(const Map& map)
         const RecordSchema& schema = HelperSettings::Schema();
         HelperSettings helper;
         PropertyTree usable;
-        CopyUsable(found->second, usable, HELPER_SETTINGS, m_findings, nullptr);
+        CopyUsable(found->second, usable, HELPER_SETTINGS, place, m_findings, nullptr);
         schema.read(&helper, usable.getMap(), &READ);
         const bool isDefault = schema.equal(&helper, schema.defaults());
         EndBaseMember(found->second, isDefault, isLost, place);
@@ -284,7 +285,6 @@ void EffectCheck::EndBaseMember(const PropertyTree& value, bool isDefault, bool 
 void EffectCheck::CheckFields(const Children& children, bool isOwn)
 {
     const std::vector<bool>& holdsEffects = m_context.infos.Of(*m_schema).holdsEffects;
-    const std::size_t before = m_findings.ErrorCount();
     bool isWhole = true;
     for (std::size_t index = 0; index != m_schema->fields.size(); ++index)
     {
@@ -294,12 +294,12 @@ void EffectCheck::CheckFields(const Children& children, bool isOwn)
         }
         const FieldSchema& field = m_schema->fields[index];
         const Place place{.parent = m_node.place, .key = field.key};
-        const std::size_t errors = m_findings.ErrorCount();
+        const std::size_t before = m_findings.Items().size();
         m_values.Check(*children[index], *field.value, place);
         isWhole = isWhole && !holdsEffects[index];
         if (!isOwn && !m_findings.HasError(*children[index]))
         {
-            const bool isWholeField = m_findings.ErrorCount() == errors && !holdsEffects[index];
+            const bool isWholeField = m_findings.Items().size() == before && !holdsEffects[index];
             Try(FindingCode::Refused, place, children[index], [&] { ReadField(index, *children[index], isWholeField); });
         }
     }
@@ -307,7 +307,7 @@ void EffectCheck::CheckFields(const Children& children, bool isOwn)
     {
         return;
     }
-    if (isWhole && m_findings.ErrorCount() == before)
+    if (isWhole && m_findings.Items().empty())
     {
         m_schema->read(m_object, m_node.tree->getMap(), &READ);
         return;
@@ -329,7 +329,7 @@ void EffectCheck::ReadField(std::size_t index, const PropertyTree& value, bool i
         return;
     }
     PropertyTree usable;
-    CopyUsable(value, usable, *m_schema->fields[index].value, m_findings, nullptr);
+    CopyUsable(value, usable, *m_schema->fields[index].value, *m_node.place, m_findings, nullptr);
     m_schema->readField(index, m_object, usable, &READ);
 }
 
@@ -381,10 +381,18 @@ void EffectCheck::CompareWithWritten(const Map& map, const Children& children)
     }
 }
 
-// A changed value can be replaced by what it becomes if it then stays as it is.
+// Looks at the effect once more, as it would be mended. A changed value can be replaced by what it becomes if that then stays
+// as it is, and what has its default without a name that goes need not be written either.
 void EffectCheck::FindMends(const Map& map)
 {
-    if (m_comparison.Changed().empty() || m_isAgain)
+    const bool hasNames =
+        std::ranges::any_of(m_findings.Items(),
+                            [this](const auto& item)
+                            {
+                                const Finding* finding = std::get_if<Finding>(item.get());
+                                return finding && Findings::IsLeftOut(*finding) && SeverityOf(finding->code) != Severity::Error;
+                            });
+    if (m_isAgain || (m_comparison.Changed().empty() && !hasNames))
     {
         return;
     }
@@ -395,14 +403,18 @@ void EffectCheck::FindMends(const Map& map)
     for (const auto& [key, child] : map)
     {
         const auto field = Proc::FindField(*m_schema, key);
-        if (field && !m_findings.HasError(child))
+        if (field && !m_findings.IsLeftOut(child))
         {
-            CopyUsable(child, fields[key], *m_schema->fields[*field].value, m_findings, &copies);
+            const Place place{.parent = m_node.place, .key = key};
+            CopyUsable(child, fields[key], *m_schema->fields[*field].value, place, m_findings, &copies);
         }
     }
     for (const auto& [finding, given] : m_comparison.Changed())
     {
-        *copies.at(given) = finding->becomes;
+        if (const auto copy = copies.find(given); copy != copies.end())
+        {
+            *copy->second.value = finding->becomes;
+        }
     }
     EffectNode node = m_node;
     node.tree = &mended;
@@ -411,11 +423,27 @@ void EffectCheck::FindMends(const Map& map)
     again.Run();
     for (const auto& [finding, given] : m_comparison.Changed())
     {
-        const Finding* left = again.m_findings.About(*copies.at(given));
-        if (!left || left->code != FindingCode::ChangesOnWrite)
+        const auto copy = copies.find(given);
+        const Finding* left = copy == copies.end() ? nullptr : again.m_findings.About(*copy->second.value);
+        if (copy != copies.end() && (!left || left->code != FindingCode::ChangesOnWrite))
         {
             finding->mend = Mend::Replace;
         }
+    }
+    std::map<std::vector<PathStep>, const PropertyTree*> defaults; // in one order, whatever that of the copies is
+    for (const auto& [given, copy] : copies)
+    {
+        const Finding* left = again.m_findings.About(*copy.value);
+        if (left && left->code == FindingCode::DefaultWritten && !m_findings.About(*given))
+        {
+            defaults.emplace(copy.path.steps, given);
+        }
+    }
+    for (const auto& [steps, given] : defaults)
+    {
+        Finding& finding = m_findings.Add(FindingCode::DefaultWritten, *m_node.place, given, "it then has its default");
+        finding.path.steps = steps;
+        finding.mend = Mend::Remove;
     }
 }
 

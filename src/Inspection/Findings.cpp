@@ -30,6 +30,19 @@ bool Findings::HasError(const PropertyTree& value)
     return finding && SeverityOf(finding->code) == Severity::Error;
 }
 
+bool Findings::IsLeftOut(const PropertyTree& value)
+{
+    const Finding* finding = About(value);
+    return finding && IsLeftOut(*finding);
+}
+
+bool Findings::IsLeftOut(const Finding& finding) noexcept
+{
+    return SeverityOf(finding.code) == Severity::Error ||
+           (finding.mend == Mend::Remove &&
+            (finding.code == FindingCode::NumberForName || finding.code == FindingCode::UnknownName));
+}
+
 Finding* Findings::About(const PropertyTree& value)
 {
     if (m_byValue.empty())

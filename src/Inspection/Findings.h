@@ -38,6 +38,11 @@ public:
     Finding* About(const PropertyTree& value);
     bool HasError(const PropertyTree& value);
 
+    /// Whether a mended tree does not have the value, though a read may take it: one with an error, or a name that has no other
+    /// form.
+    bool IsLeftOut(const PropertyTree& value);
+    static bool IsLeftOut(const Finding& finding) noexcept;
+
     std::size_t ErrorCount() const noexcept { return m_errors; }
 
     std::vector<std::unique_ptr<Item>>& Items() noexcept { return m_items; }

@@ -16,20 +16,23 @@ bool IsUnusable(const PropertyTree& element, const ValueSchema& list, Findings& 
             std::ranges::any_of(element.getMap(), [&findings](const auto& entry) { return findings.HasError(entry.second); }));
 }
 
-void CopyUsable(const PropertyTree& from, PropertyTree& to, const ValueSchema& schema, Findings& findings, Copies* copies)
+void CopyUsable(const PropertyTree& from, PropertyTree& to, const ValueSchema& schema, const Place& place, Findings& findings,
+                Copies* copies)
 {
     if (copies)
     {
-        copies->emplace(&from, &to);
+        copies->emplace(&from, Copy{&to, place.ToPath()});
     }
     if (from.isList() && schema.element)
     {
         PropertyTree::List& list = to.makeList(from.getList().size());
-        for (const PropertyTree& element : from.getList())
+        for (std::size_t index = 0; index != from.getList().size(); ++index)
         {
-            if (!IsUnusable(element, schema, findings))
+            const PropertyTree& element = from.getList()[index];
+            if (!IsUnusable(element, schema, findings) && !(copies && findings.IsLeftOut(element)))
             {
-                CopyUsable(element, list.emplace_back(), *schema.element, findings, copies);
+                const Place at{.parent = &place, .key = {}, .index = index};
+                CopyUsable(element, list.emplace_back(), *schema.element, at, findings, copies);
             }
         }
     }
@@ -40,9 +43,10 @@ void CopyUsable(const PropertyTree& from, PropertyTree& to, const ValueSchema& s
         for (const auto& [key, child] : from.getMap())
         {
             const auto field = Proc::FindField(record, key);
-            if (field && !findings.HasError(child))
+            if (field && !(copies ? findings.IsLeftOut(child) : findings.HasError(child)))
             {
-                CopyUsable(child, map[key], *record.fields[*field].value, findings, copies);
+                const Place at{.parent = &place, .key = key};
+                CopyUsable(child, map[key], *record.fields[*field].value, at, findings, copies);
             }
         }
     }
