@@ -125,9 +125,8 @@ TEST(JsonMemoryOfTrees, IsThatOfTheTreeThatWasWritten)
             list.emplace_back(i);
         }
         const std::string text = WriteJson(tree);
-        // malloc may give a block that was free already and is one step larger.
         const std::size_t expected = MemoryHeldBy([&] { return PropertyTree(tree); });
-        EXPECT_LE(MemoryHeldBy([&] { return ReadJson(text); }), expected + expected / 50 + 16) << count;
+        EXPECT_LE(MemoryHeldBy([&] { return ReadJson(text); }), expected) << count;
     }
 }
 

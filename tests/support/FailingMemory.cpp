@@ -1,8 +1,7 @@
 #include "support/FailingMemory.h"
 
-#include <malloc.h>
-
 #include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
@@ -13,6 +12,9 @@ namespace
 
 constexpr std::size_t UNLIMITED = std::numeric_limits<std::size_t>::max();
 constexpr std::size_t FILLED = 1 << 20; // of larger memory, so much; a test may ask for more than it touches
+
+// The size of each block stands before it: what malloc gives beyond it depends on what was freed before.
+constexpr std::size_t HEADER = alignof(std::max_align_t);
 
 thread_local std::size_t t_successesLeft = UNLIMITED;
 thread_local bool t_onlyOnce = false;
@@ -37,10 +39,12 @@ void* Allocate(std::size_t size)
     {
         --t_successesLeft;
     }
-    if (void* memory = std::malloc(size == 0 ? 1 : size))
+    if (void* block = std::malloc(HEADER + size))
     {
-        t_held += malloc_usable_size(memory);
+        std::memcpy(block, &size, sizeof(size));
+        t_held += size;
         t_peak = std::max(t_peak, t_held);
+        void* memory = static_cast<char*>(block) + HEADER;
         std::memset(memory, 0xA5, std::min(size, FILLED)); // fresh pages are zero, which hides that nothing was written there
         return memory;
     }
@@ -49,8 +53,14 @@ void* Allocate(std::size_t size)
 
 void Release(void* memory)
 {
-    t_held -= malloc_usable_size(memory); // 0 for a null pointer
-    std::free(memory);
+    if (memory)
+    {
+        void* block = static_cast<char*>(memory) - HEADER;
+        std::size_t size = 0;
+        std::memcpy(&size, block, sizeof(size));
+        t_held -= size;
+        std::free(block);
+    }
 }
 
 } // namespace
