@@ -387,7 +387,7 @@ void EffectCheck::FindMends(const Map& map)
 {
     const bool hasNames =
         std::ranges::any_of(m_findings.Items(),
-                            [this](const auto& item)
+                            [](const auto& item)
                             {
                                 const Finding* finding = std::get_if<Finding>(item.get());
                                 return finding && Findings::IsLeftOut(*finding) && SeverityOf(finding->code) != Severity::Error;
