@@ -80,7 +80,7 @@ if(TARGET ombrel_PropertyTreeJson)
   ombrel_install_library(PropertyTreeJson
     DESCRIPTION "The stored form of effect settings as JSON text"
     FOLDERS PropertyTreeJson
-    PRIVATE_HEADERS JsonFault.h JsonNumber.h JsonOutput.h JsonScanner.h JsonText.h JsonTreeBuilder.h MessageText.h
+    PRIVATE_HEADERS JsonFault.h JsonNumber.h JsonOutput.h JsonPlaceTable.h JsonScanner.h JsonText.h JsonTreeBuilder.h MessageText.h
     REQUIRES ombrel-effect-settings)
 endif()
 if(TARGET ombrel_EffectInspection)

@@ -1,5 +1,6 @@
 #include "PropertyTreeJson/JsonFault.h"
 #include "PropertyTreeJson/JsonOutput.h"
+#include "PropertyTreeJson/JsonPlaceTable.h"
 #include "PropertyTreeJson/JsonScanner.h"
 #include "PropertyTreeJson/JsonText.h"
 #include "PropertyTreeJson/JsonTreeBuilder.h"
@@ -18,8 +19,10 @@ namespace
 class Reader
 {
 public:
-    Reader(std::string_view text, const JsonReadOptions& options) : m_text(text), m_options(options), m_scanner(text) {}
-
+    Reader(std::string_view text, const JsonReadOptions& options, JsonPlaceTable* places)
+        : m_text(text), m_options(options), m_scanner(text), m_places(places)
+    {
+    }
     PropertyTree Read()
     {
         try
@@ -101,7 +104,7 @@ private:
             {
                 FailUnexpected(isInMap ? "'}'" : "']'");
             }
-            if (!m_builder.Close())
+            if (!Close())
             {
                 Fail(m_scanner.Offset(), "duplicate key");
             }
@@ -124,16 +127,30 @@ private:
         CountValue(m_scanner.Offset());
         m_scanner.Skip();
         m_builder.Open(isMap);
+        if (m_places)
+        {
+            m_places->Open(isMap);
+        }
         if (m_scanner.Next() == (isMap ? '}' : ']'))
         {
             m_scanner.Skip();
-            return m_builder.Close();
+            return Close();
         }
         if (isMap)
         {
             ReadKey();
         }
         return false;
+    }
+
+    // False if a key occurs twice.
+    bool Close()
+    {
+        if (m_places)
+        {
+            m_places->Close();
+        }
+        return m_builder.Close();
     }
 
     void ReadKey()
@@ -144,7 +161,12 @@ private:
             FailUnexpected("string literal");
         }
         const std::size_t offset = m_scanner.Offset();
-        m_builder.AddKey(m_scanner.ReadString(), offset);
+        const std::string_view key = m_scanner.ReadString();
+        m_builder.AddKey(key, offset);
+        if (m_places)
+        {
+            m_places->AddKey(key);
+        }
         m_isAtValue = true;
         if (m_scanner.Next() != ':')
         {
@@ -203,8 +225,11 @@ private:
             Fail(offset, "more than " + std::to_string(m_options.maxValues) + " values");
         }
         ++m_values;
+        if (m_places)
+        {
+            m_places->AddValue(offset);
+        }
     }
-
     static bool StartsNumber(char byte) { return byte == '-' || (byte >= '0' && byte <= '9'); }
 
     // The next token is not one of those that may follow. If it is malformed, that is the fault.
@@ -288,6 +313,7 @@ private:
     const JsonReadOptions& m_options;
     JsonScanner m_scanner;
     JsonTreeBuilder m_builder;
+    JsonPlaceTable* const m_places;
     std::size_t m_values = 0; // in the text so far
     bool m_isAtValue = false; // the next token belongs to a value, and not to a key or between two values
 };
@@ -296,7 +322,11 @@ private:
 
 PropertyTree ReadJson(std::string_view text, const JsonReadOptions& options)
 {
-    return Reader(text, options).Read();
+    return ReadJsonWithPlaces(text, options, nullptr);
 }
 
+PropertyTree ReadJsonWithPlaces(std::string_view text, const JsonReadOptions& options, JsonPlaceTable* places)
+{
+    return Reader(text, options, places).Read();
+}
 } // namespace Ombrel

@@ -28,8 +28,8 @@ expected=$(cd "$SOURCE_DIR/src" &&
         -e PropertyTree/KnownTexts.h -e PropertyTree/PropertyTreeKey.h -e PropertyTree/PropertyTreeMapFiller.h \
         -e PropertyTree/PropertyTreeMapIndex.h -e PropertyTree/PropertyTreeMapInternals.h \
         -e PropertyTreeJson/JsonFault.h -e PropertyTreeJson/JsonNumber.h -e PropertyTreeJson/JsonOutput.h \
-        -e PropertyTreeJson/JsonScanner.h -e PropertyTreeJson/JsonText.h -e PropertyTreeJson/JsonTreeBuilder.h \
-        -e PropertyTreeJson/MessageText.h -e Inspection/CheckContext.h -e Inspection/EffectCheck.h -e Inspection/Findings.h -e Inspection/Nearest.h \
+        -e PropertyTreeJson/JsonPlaceTable.h -e PropertyTreeJson/JsonScanner.h -e PropertyTreeJson/JsonText.h \
+        -e PropertyTreeJson/JsonTreeBuilder.h -e PropertyTreeJson/MessageText.h -e Inspection/CheckContext.h -e Inspection/EffectCheck.h -e Inspection/Findings.h -e Inspection/Nearest.h \
         -e Inspection/Place.h -e Inspection/RecordInfo.h -e Inspection/Usable.h -e Inspection/ValueCheck.h \
         -e Inspection/Values.h -e Inspection/WrittenComparison.h |
     sort)
