@@ -21,18 +21,42 @@ fi
 expect "libraries" "$expected" "$(find "$libdir" -mindepth 1 -maxdepth 1 -name 'lib*' -printf '%f\n' | sort)"
 
 # Every header of the library is there but the private ones, and needs no other folder.
+private_headers="
+Inspection/Attempt.h
+Inspection/CheckContext.h
+Inspection/EffectCheck.h
+Inspection/Findings.h
+Inspection/KeylessMembers.h
+Inspection/Place.h
+Inspection/RecordInfo.h
+Inspection/Trials.h
+Inspection/Usable.h
+Inspection/ValueCheck.h
+Inspection/Values.h
+Inspection/WrittenComparison.h
+Proc/EffectSettings/RegisteredClasses.h
+Proc/EffectSettings/StoredTexts.h
+Proc/EffectSettings/WrappingArithmetic.h
+Proc/Settings/ScaledInteger.h
+PropertyTree/Characters.h
+PropertyTree/KindNames.h
+PropertyTree/KnownTexts.h
+PropertyTree/PropertyTreeKey.h
+PropertyTree/PropertyTreeMapFiller.h
+PropertyTree/PropertyTreeMapIndex.h
+PropertyTree/PropertyTreeMapInternals.h
+PropertyTreeJson/JsonFault.h
+PropertyTreeJson/JsonNumber.h
+PropertyTreeJson/JsonOutput.h
+PropertyTreeJson/JsonPlaceTable.h
+PropertyTreeJson/JsonScanner.h
+PropertyTreeJson/JsonText.h
+PropertyTreeJson/JsonTreeBuilder.h
+PropertyTreeJson/MessageText.h
+"
 expected=$(cd "$SOURCE_DIR/src" &&
     find OmbrelExport.h OmbrelLasting.h OmbrelVersion.h Conf Exception Inspection PhotoUtil Proc PropertyTree PropertyTreeJson -name '*.h' |
-    grep -vxF -e Proc/EffectSettings/WrappingArithmetic.h -e Proc/EffectSettings/RegisteredClasses.h -e Proc/Settings/ScaledInteger.h \
-        -e Proc/EffectSettings/StoredTexts.h -e PropertyTree/Characters.h -e PropertyTree/KindNames.h \
-        -e PropertyTree/KnownTexts.h -e PropertyTree/PropertyTreeKey.h -e PropertyTree/PropertyTreeMapFiller.h \
-        -e PropertyTree/PropertyTreeMapIndex.h -e PropertyTree/PropertyTreeMapInternals.h \
-        -e PropertyTreeJson/JsonFault.h -e PropertyTreeJson/JsonNumber.h -e PropertyTreeJson/JsonOutput.h \
-        -e PropertyTreeJson/JsonPlaceTable.h -e PropertyTreeJson/JsonScanner.h -e PropertyTreeJson/JsonText.h \
-        -e PropertyTreeJson/JsonTreeBuilder.h -e PropertyTreeJson/MessageText.h -e Inspection/CheckContext.h -e Inspection/EffectCheck.h -e Inspection/Findings.h -e Inspection/Nearest.h \
-        -e Inspection/Place.h -e Inspection/RecordInfo.h -e Inspection/Usable.h -e Inspection/ValueCheck.h \
-        -e Inspection/Values.h -e Inspection/WrittenComparison.h |
-    sort)
+    grep -vxF "$(xargs -n1 <<<"$private_headers")" | sort)
 expect "headers" "$expected" "$(cd "$include" && find . -name '*.h' -printf '%P\n' | sort)"
 sed 's/.*/#include "&"/' <<<"$expected" | "$CXX" -std=c++20 -fsyntax-only -I "$include" -x c++ - ||
     fail "the installed headers do not compile"

@@ -1,0 +1,309 @@
+#include "Inspection/Trials.h"
+
+#include "Inspection/Attempt.h"
+#include "Inspection/Values.h"
+#include "Proc/Reflection/EnumNameTable.h"
+#include "Proc/Settings/StoredKeys.h"
+
+#include <cstdint>
+#include <limits>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+namespace Ombrel::Inspection
+{
+namespace
+{
+
+using PhotoCore::IEffectSettings;
+using Proc::FieldSchema;
+using Proc::RecordSchema;
+using Proc::ValueKind;
+using Proc::ValueSchema;
+using Probes = std::vector<PropertyTree>;
+
+constexpr Proc::ReadFlags TRIED{.resetMissing = true};
+constexpr int MOST_RECORDS = 3; // records within records of a value that is tried
+
+// Small and large ones, and angles beyond a turn. Some of each sign, and none that is the default of many fields.
+Probes IntegersUpTo(std::int64_t least, std::int64_t most)
+{
+    Probes probes;
+    for (const std::int64_t value :
+         {std::int64_t{1}, std::int64_t{10}, std::int64_t{77}, std::int64_t{540}, std::int64_t{-3}, std::int64_t{-540}, most})
+    {
+        if (least <= value && value <= most)
+        {
+            probes.emplace_back(value);
+        }
+    }
+    return probes;
+}
+
+// Each name that is written again. A set of them is written by the order of their numbers.
+Probes NamesOf(const Proc::EnumNameTable& table)
+{
+    Probes probes;
+    for (const Proc::EnumNameRow& row : table.rows)
+    {
+        if (table.NameOf(row.value) == row.name)
+        {
+            probes.emplace_back(std::string(row.name));
+        }
+    }
+    return probes;
+}
+
+PropertyTree EffectOf(const PhotoCore::EffectClass& effectClass)
+{
+    PropertyTree tree;
+    tree[std::string(Proc::StoredKeys::NAME)] = std::string(effectClass.classId);
+    return tree;
+}
+
+PropertyTree ColourAt(std::int64_t key)
+{
+    PropertyTree tree;
+    tree["key"] = key;
+    tree["value"] = "80402010";
+    return tree;
+}
+
+PropertyTree ListOf(PropertyTree element)
+{
+    PropertyTree list;
+    list.append(std::move(element));
+    return list;
+}
+
+Probes ProbesOf(const ValueSchema& schema, int depth);
+
+Probes RecordsOf(const RecordSchema& record, int depth)
+{
+    PropertyTree empty;
+    empty.makeMap();
+    Probes probes{empty};
+    for (std::size_t index = 0; depth < MOST_RECORDS && index != record.fields.size(); ++index)
+    {
+        for (PropertyTree& value : ProbesOf(*record.fields[index].value, depth + 1))
+        {
+            probes.emplace_back()[record.fields[index].key] = std::move(value);
+        }
+    }
+    return probes;
+}
+
+Probes ListsOf(const ValueSchema& element, int depth)
+{
+    PropertyTree empty;
+    empty.makeList();
+    Probes probes{empty};
+    if (depth < MOST_RECORDS)
+    {
+        for (PropertyTree& value : ProbesOf(element, depth + 1))
+        {
+            probes.push_back(ListOf(std::move(value)));
+        }
+    }
+    return probes;
+}
+
+Probes ProbesOf(const ValueSchema& schema, int depth)
+{
+    switch (schema.kind)
+    {
+    case ValueKind::Int32:
+        return IntegersUpTo(std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max());
+    case ValueKind::UInt32:
+        return IntegersUpTo(0, std::numeric_limits<std::uint32_t>::max());
+    case ValueKind::UInt8:
+        return IntegersUpTo(0, std::numeric_limits<std::uint8_t>::max());
+    case ValueKind::Int64:
+    case ValueKind::UInt64:
+        return IntegersUpTo(std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max());
+    case ValueKind::Float64:
+    case ValueKind::Float32:
+        return {0.5, 2.0, 540.0, -3.0, -540.0, 1e6};
+    case ValueKind::Bool:
+        return {true, false};
+    case ValueKind::String:
+        return {"x", "another text"};
+    case ValueKind::Enum:
+        return NamesOf(*schema.names);
+    case ValueKind::Color:
+        return {"80402010", "ff0000ff"};
+    case ValueKind::ColorMap:
+        return {ListOf(ColourAt(0)), ListOf(ColourAt(200))};
+    case ValueKind::Record:
+        return RecordsOf(schema.record(), depth);
+    case ValueKind::List:
+    case ValueKind::Set:
+        return ListsOf(*schema.element, depth);
+    case ValueKind::Effect:
+        return {PropertyTree(), EffectOf(PhotoCore::EffectClasses().front())};
+    case ValueKind::Other:
+        return {1, 2.5, "x", true};
+    }
+    return {};
+}
+
+// Whether all of the value stands where it is written, with nothing that is filled in.
+bool IsWhole(const ValueSchema& schema)
+{
+    return schema.kind <= ValueKind::ColorMap ||
+           ((schema.kind == ValueKind::List || schema.kind == ValueKind::Set) && IsWhole(*schema.element));
+}
+
+// The value of the first step, which is a key.
+PropertyTree Wrapped(PropertyTree value, const RecordPlace& place)
+{
+    for (std::size_t left = place.way.size(); left-- > 1;)
+    {
+        if (place.way[left])
+        {
+            PropertyTree map;
+            map[*place.way[left]] = std::move(value);
+            value = std::move(map);
+        }
+        else
+        {
+            value = ListOf(std::move(value));
+        }
+    }
+    return value;
+}
+
+// The map of the record in the effect's map. A caller's class may write something else.
+const PropertyTree::Map& RecordIn(const PropertyTree& written, const RecordPlace& place)
+{
+    const PropertyTree* value = &written;
+    for (const auto& step : place.way)
+    {
+        value = step ? &value->getMap().at(*step) : &value->getList().at(0);
+    }
+    return value->getMap();
+}
+
+} // namespace
+
+Trials::Subject Trials::Make() const
+{
+    Subject subject{.effect = m_class.create()};
+    if (!subject.effect)
+    {
+        throw std::logic_error("the factory made no effect");
+    }
+    subject.stored = m_class.getStored(*subject.effect);
+    return subject;
+}
+
+// With a value of one field, or none. The other fields are not read: to reset the others would undo what a setter did beside
+// its own value.
+Trials::Subject Trials::MakeWith(const RecordPlace& place, std::size_t field, const PropertyTree* value) const
+{
+    Subject subject = Make();
+    if (place.way.empty())
+    {
+        if (value)
+        {
+            m_schema.readField(field, subject.stored, *value, &TRIED);
+        }
+        return subject;
+    }
+    PropertyTree record;
+    record.makeMap();
+    if (value)
+    {
+        record[place.schema->fields[field].key] = *value;
+    }
+    const std::size_t first = *Proc::FindField(m_schema, *place.way.front());
+    m_schema.readField(first, subject.stored, Wrapped(std::move(record), place), &TRIED);
+    return subject;
+}
+
+std::optional<bool> Trials::IsCompared(const RecordPlace& place, std::size_t field) const
+{
+    const auto areEqual = [](const Subject& a, const Subject& b)
+    { return a.effect->operator==(*b.effect) && b.effect->operator==(*a.effect); };
+    const auto makeWithout = [&] { return MakeWith(place, field, nullptr); };
+    bool isTried = false;
+    bool isCompared = false;
+    if (!Attempt(
+            [&]
+            {
+                if (!areEqual(makeWithout(), makeWithout()))
+                {
+                    throw std::logic_error("an effect is not equal to its like");
+                }
+            }))
+    {
+        return std::nullopt;
+    }
+    for (const PropertyTree& probe : ProbesOf(*place.schema->fields[field].value, 0))
+    {
+        isTried = Attempt([&] { isCompared = !areEqual(makeWithout(), MakeWith(place, field, &probe)); }) || isTried;
+        if (isCompared)
+        {
+            return true;
+        }
+    }
+    return isTried ? std::optional(false) : std::nullopt;
+}
+
+bool Trials::IsWrittenAsRead(const RecordPlace& place, std::size_t field, const PropertyTree::Map& values) const
+{
+    constexpr Proc::WriteFlags whole{.resetTargets = true, .omitDefaults = false};
+    PropertyTree tree;
+    PropertyTree& record = place.way.empty() ? tree : tree[std::string(*place.way.front())];
+    PropertyTree given;
+    given.makeMap() = values;
+    record = Wrapped(std::move(given), place);
+
+    const Subject subject = Make();
+    m_schema.read(subject.stored, tree.getMap(), &TRIED);
+    PropertyTree written;
+    m_schema.write(subject.stored, written.makeMap(), &whole, 0);
+    const std::string_view key = place.schema->fields[field].key;
+    return AreSame(RecordIn(written, place).at(key), values.at(key));
+}
+
+// Each value alone, and with the others of the record at several values of theirs.
+bool Trials::IsComputed(const RecordPlace& place, std::size_t field) const
+{
+    constexpr std::size_t combinations = 4;
+    const auto& fields = place.schema->fields;
+    if (!IsWhole(*fields[field].value) || fields[field].value->kind == ValueKind::Other)
+    {
+        return false;
+    }
+    std::vector<PropertyTree::Map> beside(1);
+    for (std::size_t number = 0; number != combinations; ++number)
+    {
+        PropertyTree::Map& others = beside.emplace_back();
+        for (const FieldSchema& other : fields)
+        {
+            const Probes probes = IsWhole(*other.value) ? ProbesOf(*other.value, 0) : Probes();
+            if (!probes.empty())
+            {
+                others[other.key] = probes[number % probes.size()];
+            }
+        }
+    }
+    for (PropertyTree::Map& values : beside)
+    {
+        for (const PropertyTree& probe : ProbesOf(*fields[field].value, 0))
+        {
+            values[fields[field].key] = probe;
+            bool isSame = true;
+            Attempt([&] { isSame = IsWrittenAsRead(place, field, values); });
+            if (!isSame)
+            {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+} // namespace Ombrel::Inspection
