@@ -2,6 +2,7 @@
 
 #include "Inspection/Attempt.h"
 #include "Inspection/KeylessMembers.h"
+#include "Inspection/KnownKeys.h"
 #include "Inspection/RecordInfo.h"
 #include "Inspection/Trials.h"
 #include "Proc/EffectSettings/EffectSettingsExport.h"
@@ -208,14 +209,6 @@ private:
     std::vector<RecordPlace> m_places; // of the records, by where each was met first
     std::size_t m_described = 0;       // how many of them are described
 };
-
-// A class without a schema has no keys of its own if it is one of the library's, which say so.
-bool AreKeysKnown(const EffectClass* effectClass)
-{
-    return effectClass &&
-           (effectClass->getSchema() ||
-            std::ranges::any_of(PhotoCore::EffectClasses(), [&](const EffectClass& own) { return &own == effectClass; }));
-}
 
 // Asks an effect of the class.
 void Ask(const EffectClass* effectClass, EffectDescription& description)

@@ -27,8 +27,10 @@ Inspection/CheckContext.h
 Inspection/EffectCheck.h
 Inspection/Findings.h
 Inspection/KeylessMembers.h
+Inspection/KnownKeys.h
 Inspection/Place.h
 Inspection/RecordInfo.h
+Inspection/SchemaParts.h
 Inspection/Trials.h
 Inspection/Usable.h
 Inspection/ValueCheck.h
