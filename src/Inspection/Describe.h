@@ -122,7 +122,7 @@ struct EffectDescription
 };
 
 /// What can stand in a tree of the class, and what its effects do with it; nothing for an unknown id. It makes effects of the
-/// class and tries values, which takes about a millisecond.
+/// class and tries values, which takes up to some milliseconds.
 ///
 /// Threads: any number may describe classes at once.
 /// @throws std::bad_alloc and nothing else, whatever the code of a caller's class throws

@@ -52,7 +52,7 @@ constexpr Row PROCESSOR[] = {
     {"processorLimitFirst", "int32", "3072", false},
     {"processorLimitSecond", "int32", "3072", false},
 };
-constexpr Row AUTO_RETOUCHER[] = {{"faces", "list of Face", "empty", false}};
+constexpr Row AUTO_RETOUCHER[] = {{"faces", "list of records Face", "empty", false}};
 constexpr Row COLOR_BLENDER[] = {
     {"SetIntensity, GetIntensity", "float32; \"alpha\" and \"blendingMode\" set it", "0.0", true},
     {"SetBlendingMode, GetBlendingMode", "BlendingMode; written as \"blendingMode\" but never read from it", "Default", true},
@@ -60,7 +60,7 @@ constexpr Row COLOR_BLENDER[] = {
 constexpr Row DREAMSCOPE[] = {{"modelExtension", "string", "\".t7\"", false}};
 constexpr Row FACE_DETECTION[] = {
     {"m_detectionMode", "int32", "0", true},
-    {"m_faces", "list of Face", "empty", false},
+    {"m_faces", "list of records Face", "empty", false},
 };
 constexpr Row FISH_EYE[] = {
     {"m_deviationFactor", "float64, private; the deviation at intensity 1; \"deviation\" sets it", "0.0", true},
@@ -82,7 +82,7 @@ constexpr Row RETRO_ARTEFACTS[] = {
 constexpr Row RESIZER[] = {
     {"GetSizeMode", "SizeModes; SetCustomMode and SetCustomScale set it", "Original", true},
     {"SetCustomMode, GetCustomMode", "CustomModes", "Stretch", true},
-    {"SetCustomMode, GetFrameInfo", "record FrameInfo; in the mode CustomFrame \"frameInfo\" sets it", "all 0", true},
+    {"SetCustomMode, GetFrameInfo", "record Conf::FrameInfo; in the mode CustomFrame \"frameInfo\" sets it", "all 0", true},
     {"SetCustomScale, GetScaleFactor", "float64; in the mode CustomScale \"scaleFactor\" sets it", "1.0", true},
 };
 constexpr Row RESIZE[] = {

@@ -24,7 +24,7 @@ using Proc::ValueSchema;
 using Probes = std::vector<PropertyTree>;
 
 constexpr Proc::ReadFlags TRIED{.resetMissing = true};
-constexpr int MOST_RECORDS = 3; // records within records of a value that is tried
+constexpr std::size_t WHOLE_RECORDS = 3; // how many are tried with all fields changed
 
 // Small and large ones, and angles beyond a turn. Some of each sign, and none that is the default of many fields.
 Probes IntegersUpTo(std::int64_t least, std::int64_t most)
@@ -77,39 +77,68 @@ PropertyTree ListOf(PropertyTree element)
     return list;
 }
 
-Probes ProbesOf(const ValueSchema& schema, int depth);
+// The records that a value stands in, up to the first.
+struct Around
+{
+    const RecordSchema* record;
+    const Around* outer;
 
-Probes RecordsOf(const RecordSchema& record, int depth)
+    static bool Has(const Around* around, const RecordSchema& record)
+    {
+        for (; around; around = around->outer)
+        {
+            if (around->record == &record)
+            {
+                return true;
+            }
+        }
+        return false;
+    }
+};
+
+Probes ProbesOf(const ValueSchema& schema, const Around* around);
+
+// Records with all fields changed, and with one: a caller's setter may refuse another. One that holds itself is empty in
+// itself.
+Probes RecordsOf(const RecordSchema& record, const Around* around)
 {
     PropertyTree empty;
     empty.makeMap();
     Probes probes{empty};
-    for (std::size_t index = 0; depth < MOST_RECORDS && index != record.fields.size(); ++index)
+    if (Around::Has(around, record))
     {
-        for (PropertyTree& value : ProbesOf(*record.fields[index].value, depth + 1))
+        return probes;
+    }
+    const Around within{&record, around};
+    probes.resize(1 + WHOLE_RECORDS, empty);
+    for (const FieldSchema& field : record.fields)
+    {
+        const Probes values = ProbesOf(*field.value, &within);
+        for (std::size_t number = 0; number != WHOLE_RECORDS && !values.empty(); ++number)
         {
-            probes.emplace_back()[record.fields[index].key] = std::move(value);
+            probes[1 + number][field.key] = values[number % values.size()];
+        }
+        if (!around && !values.empty())
+        {
+            probes.emplace_back()[field.key] = values.back();
         }
     }
     return probes;
 }
 
-Probes ListsOf(const ValueSchema& element, int depth)
+Probes ListsOf(const ValueSchema& element, const Around* around)
 {
     PropertyTree empty;
     empty.makeList();
     Probes probes{empty};
-    if (depth < MOST_RECORDS)
+    for (PropertyTree& value : ProbesOf(element, around))
     {
-        for (PropertyTree& value : ProbesOf(element, depth + 1))
-        {
-            probes.push_back(ListOf(std::move(value)));
-        }
+        probes.push_back(ListOf(std::move(value)));
     }
     return probes;
 }
 
-Probes ProbesOf(const ValueSchema& schema, int depth)
+Probes ProbesOf(const ValueSchema& schema, const Around* around)
 {
     switch (schema.kind)
     {
@@ -136,10 +165,10 @@ Probes ProbesOf(const ValueSchema& schema, int depth)
     case ValueKind::ColorMap:
         return {ListOf(ColourAt(0)), ListOf(ColourAt(200))};
     case ValueKind::Record:
-        return RecordsOf(schema.record(), depth);
+        return RecordsOf(schema.record(), around);
     case ValueKind::List:
     case ValueKind::Set:
-        return ListsOf(*schema.element, depth);
+        return ListsOf(*schema.element, around);
     case ValueKind::Effect:
         return {PropertyTree(), EffectOf(PhotoCore::EffectClasses().front())};
     case ValueKind::Other:
@@ -240,7 +269,7 @@ std::optional<bool> Trials::IsCompared(const RecordPlace& place, std::size_t fie
     {
         return std::nullopt;
     }
-    for (const PropertyTree& probe : ProbesOf(*place.schema->fields[field].value, 0))
+    for (const PropertyTree& probe : ProbesOf(*place.schema->fields[field].value, nullptr))
     {
         isTried = Attempt([&] { isCompared = !areEqual(makeWithout(), MakeWith(place, field, &probe)); }) || isTried;
         if (isCompared)
@@ -283,7 +312,7 @@ bool Trials::IsComputed(const RecordPlace& place, std::size_t field) const
         PropertyTree::Map& others = beside.emplace_back();
         for (const FieldSchema& other : fields)
         {
-            const Probes probes = IsWhole(*other.value) ? ProbesOf(*other.value, 0) : Probes();
+            const Probes probes = IsWhole(*other.value) ? ProbesOf(*other.value, nullptr) : Probes();
             if (!probes.empty())
             {
                 others[other.key] = probes[number % probes.size()];
@@ -292,7 +321,7 @@ bool Trials::IsComputed(const RecordPlace& place, std::size_t field) const
     }
     for (PropertyTree::Map& values : beside)
     {
-        for (const PropertyTree& probe : ProbesOf(*fields[field].value, 0))
+        for (const PropertyTree& probe : ProbesOf(*fields[field].value, nullptr))
         {
             values[fields[field].key] = probe;
             bool isSame = true;
