@@ -71,8 +71,12 @@ struct FieldDescription
     std::optional<bool> isCompared;
 
     bool isAlwaysWritten = false; // also where it has its default
-    bool isComputed = false;      // some values, or some beside others, are written otherwise than they are read
-    std::string access;           // the data member that holds it, or its setter and getter
+
+    /// Whether some values, or some beside others, are written otherwise than they are read, as far as was tried. Of a record
+    /// and of a list of them its own fields say so.
+    bool isComputed = false;
+
+    std::string access; // the data member that holds it, or its setter and getter
 };
 
 /// What a record or a settings class holds beside its keys. It is never stored: an effect that is read has the default.

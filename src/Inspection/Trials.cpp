@@ -224,11 +224,15 @@ Trials::Subject Trials::Make() const
         throw std::logic_error("the factory made no effect");
     }
     subject.stored = m_class.getStored(*subject.effect);
+    if (!subject.stored)
+    {
+        throw std::logic_error("the class does not say what is stored");
+    }
     return subject;
 }
 
-// With a value of one field, or none. The other fields are not read: to reset the others would undo what a setter did beside
-// its own value.
+// With a value of one field, or none. The other fields are not read: to reset them would undo what a setter did beside its own
+// value.
 Trials::Subject Trials::MakeWith(const RecordPlace& place, std::size_t field, const PropertyTree* value) const
 {
     Subject subject = Make();
