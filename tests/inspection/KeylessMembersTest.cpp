@@ -10,6 +10,7 @@
 #include <array>
 #include <concepts>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -57,11 +58,17 @@ std::string TextOf(const std::vector<Face>& value)
     return value.empty() ? "empty" : "some";
 }
 
+template <class Value> constexpr const char* TYPE = "list of records Face";
+template <> constexpr const char* TYPE<bool> = "bool";
+template <> constexpr const char* TYPE<std::int32_t> = "int32";
+template <> constexpr const char* TYPE<std::string> = "string";
+
 struct Member
 {
     std::string name;
     std::function<std::string(IEffectSettings&)> show;
     std::function<void(IEffectSettings&)> change;
+    std::string type = {}; // of a data member
 };
 
 template <class Record> Record& RecordOf(IEffectSettings& effect)
@@ -73,7 +80,7 @@ template <class Record> Record& RecordOf(IEffectSettings& effect)
 template <class Record, class Value> Member Data(std::string name, Value Record::*member, Value changed)
 {
     return {std::move(name), [member](IEffectSettings& effect) { return TextOf(RecordOf<Record>(effect).*member); },
-            [member, changed](IEffectSettings& effect) { RecordOf<Record>(effect).*member = changed; }};
+            [member, changed](IEffectSettings& effect) { RecordOf<Record>(effect).*member = changed; }, TYPE<Value>};
 }
 
 // A member that is reached by functions of the record, or of the settings class.
@@ -349,6 +356,7 @@ TEST_P(KeylessMembers, HaveTheirDefaultsAndAreComparedAsDeclared)
     {
         const auto declared = std::ranges::find(description->members, member.name, &KeylessMember::member);
         ASSERT_NE(declared, description->members.end()) << member.name;
+        EXPECT_TRUE(member.type.empty() || member.type == declared->type) << member.name;
         const auto effect = Make();
         EXPECT_EQ(member.show(*effect), declared->defaultValue) << member.name;
         member.change(*effect);
