@@ -137,8 +137,8 @@ private:
             described.isCompared = trials ? trials->IsCompared(place, index) : false;
             described.isAlwaysWritten = written.contains(field.key);
             described.isComputed = trials && trials->IsComputed(place, index);
-            std::vector<std::optional<std::string_view>> way = place.way;
-            way.emplace_back(field.key);
+            Way way = place.way;
+            way.push_back({.key = field.key});
             described.value = ValueOf(*field.value, std::move(way));
         }
     }
@@ -155,7 +155,7 @@ private:
         }
     }
 
-    ValueDescription ValueOf(const ValueSchema& schema, std::vector<std::optional<std::string_view>> way)
+    ValueDescription ValueOf(const ValueSchema& schema, Way way)
     {
         const Shape& shape = SHAPES[static_cast<std::size_t>(schema.kind)];
         ValueDescription value;
@@ -177,14 +177,14 @@ private:
         }
         else if (schema.element && schema.kind != ValueKind::ColorMap)
         {
-            way.emplace_back();
+            way.push_back({.key = {}, .isElement = true});
             value.element.push_back(ValueOf(*schema.element, std::move(way)));
         }
         return value;
     }
 
     // Every pair has one name, and records of callers may.
-    const std::string& NameOf(const RecordSchema& schema, std::vector<std::optional<std::string_view>> way)
+    const std::string& NameOf(const RecordSchema& schema, Way way)
     {
         const auto [entry, isNew] = m_names.try_emplace(&schema);
         if (isNew)

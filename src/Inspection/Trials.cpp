@@ -16,7 +16,6 @@ namespace Ombrel::Inspection
 namespace
 {
 
-using PhotoCore::IEffectSettings;
 using Proc::FieldSchema;
 using Proc::RecordSchema;
 using Proc::ValueKind;
@@ -189,16 +188,16 @@ PropertyTree Wrapped(PropertyTree value, const RecordPlace& place)
 {
     for (std::size_t left = place.way.size(); left-- > 1;)
     {
-        if (place.way[left])
+        PropertyTree around;
+        if (place.way[left].isElement)
         {
-            PropertyTree map;
-            map[*place.way[left]] = std::move(value);
-            value = std::move(map);
+            around = ListOf(std::move(value));
         }
         else
         {
-            value = ListOf(std::move(value));
+            around[place.way[left].key] = std::move(value);
         }
+        value = std::move(around);
     }
     return value;
 }
@@ -207,9 +206,9 @@ PropertyTree Wrapped(PropertyTree value, const RecordPlace& place)
 const PropertyTree::Map& RecordIn(const PropertyTree& written, const RecordPlace& place)
 {
     const PropertyTree* value = &written;
-    for (const auto& step : place.way)
+    for (const WayStep& step : place.way)
     {
-        value = step ? &value->getMap().at(*step) : &value->getList().at(0);
+        value = step.isElement ? &value->getList().at(0) : &value->getMap().at(step.key);
     }
     return value->getMap();
 }
@@ -250,8 +249,8 @@ Trials::Subject Trials::MakeWith(const RecordPlace& place, std::size_t field, co
     {
         record[place.schema->fields[field].key] = *value;
     }
-    const std::size_t first = *Proc::FindField(m_schema, *place.way.front());
-    m_schema.readField(first, subject.stored, Wrapped(std::move(record), place), &TRIED);
+    const std::optional<std::size_t> first = Proc::FindField(m_schema, place.way.front().key);
+    m_schema.readField(first.value_or(0), subject.stored, Wrapped(std::move(record), place), &TRIED);
     return subject;
 }
 
@@ -288,7 +287,7 @@ bool Trials::IsWrittenAsRead(const RecordPlace& place, std::size_t field, const 
 {
     constexpr Proc::WriteFlags whole{.resetTargets = true, .omitDefaults = false};
     PropertyTree tree;
-    PropertyTree& record = place.way.empty() ? tree : tree[std::string(*place.way.front())];
+    PropertyTree& record = place.way.empty() ? tree : tree[place.way.front().key];
     PropertyTree given;
     given.makeMap() = values;
     record = Wrapped(std::move(given), place);

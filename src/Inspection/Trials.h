@@ -14,11 +14,20 @@
 namespace Ombrel::Inspection
 {
 
-/// A record in an effect: the way from the effect's map to a map of the record, through keys and, without one, elements.
+/// To the value of a key, or to an element of a list.
+struct WayStep
+{
+    std::string_view key;
+    bool isElement = false; // without a key
+};
+
+using Way = std::vector<WayStep>;
+
+/// A record in an effect, and the way from the effect's map to a map of the record.
 struct RecordPlace
 {
     const Proc::RecordSchema* schema = nullptr;
-    std::vector<std::optional<std::string_view>> way;
+    Way way;
 };
 
 /// Finds out by values that are set in effects of one class what no field list says. No value is tried that reads otherwise by
