@@ -1,6 +1,7 @@
 #include "Inspection/EffectCheck.h"
 
 #include "Exception/Exception.h"
+#include "Inspection/KnownClass.h"
 #include "Inspection/Nearest.h"
 #include "Inspection/Usable.h"
 #include "Inspection/Values.h"
@@ -12,7 +13,6 @@
 
 #include <algorithm>
 #include <exception>
-#include <functional>
 #include <map>
 #include <new>
 #include <stdexcept>
@@ -33,19 +33,11 @@ using Proc::ValueSchema;
 
 namespace StoredKeys = Proc::StoredKeys;
 
-constexpr std::size_t DEEPEST = 512; // how many effects may stand in each other, as `SerializePtr` says
 constexpr Proc::ReadFlags READ{.resetMissing = true};
 constexpr Proc::WriteFlags WRITE{.resetTargets = false, .omitDefaults = true};
 
 const ValueSchema TEXT{ValueKind::String};
 const ValueSchema HELPER_SETTINGS{.kind = ValueKind::Record, .record = &HelperSettings::Schema};
-
-bool IsOwn(const PhotoCore::EffectClass& effectClass)
-{
-    const auto own = PhotoCore::EffectClasses();
-    const std::less<const PhotoCore::EffectClass*> isBefore;
-    return !isBefore(&effectClass, own.data()) && isBefore(&effectClass, own.data() + own.size());
-}
 
 } // namespace
 

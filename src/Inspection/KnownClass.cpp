@@ -1,0 +1,34 @@
+#include "Inspection/KnownClass.h"
+
+#include "Inspection/Values.h"
+#include "Proc/Settings/StoredKeys.h"
+
+#include <functional>
+
+namespace Ombrel::Inspection
+{
+
+bool IsOwn(const PhotoCore::EffectClass& effectClass)
+{
+    const auto own = PhotoCore::EffectClasses();
+    const std::less<const PhotoCore::EffectClass*> isBefore;
+    return !isBefore(&effectClass, own.data()) && isBefore(&effectClass, own.data() + own.size());
+}
+
+const PhotoCore::EffectClass* KnownClassOf(const PropertyTree& effect)
+{
+    if (!effect.isMap())
+    {
+        return nullptr;
+    }
+    const auto name = effect.getMap().find(Proc::StoredKeys::NAME);
+    if (name == effect.getMap().end() || !IsText(name->second))
+    {
+        return nullptr;
+    }
+    const PhotoCore::EffectClass* known = PhotoCore::FindEffectClass(name->second.getScalar().toString());
+    return known && known->registration != PhotoCore::Registration::None && (known->getSchema() || IsOwn(*known)) ? known
+                                                                                                                  : nullptr;
+}
+
+} // namespace Ombrel::Inspection
