@@ -1,6 +1,8 @@
 #ifndef OMBREL_INSPECTION_NEAREST_H
 #define OMBREL_INSPECTION_NEAREST_H
 
+#include "OmbrelExport.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -11,12 +13,14 @@ namespace Ombrel::Inspection
 
 /// Finds the name that is most like a text: the one with the fewest characters to add, drop, change or swap, if those are few.
 /// Upper and lower case count as half a change.
-class NearestName
+class OMBREL_API NearestName
 {
 public:
+    /// `text` must outlive the object.
     explicit NearestName(std::string_view text);
 
     /// The next name that comes into question.
+    /// @throws std::bad_alloc
     void Try(std::string_view name);
 
     /// Empty if none is likely.

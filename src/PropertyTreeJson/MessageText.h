@@ -101,6 +101,18 @@ inline std::string Printable(std::string_view text)
     return result;
 }
 
+/// The same of a text of several lines, which stay.
+inline std::string PrintableLines(std::string_view text)
+{
+    std::string result;
+    for (std::size_t end = text.find('\n'); end != std::string_view::npos; end = text.find('\n'))
+    {
+        result += Printable(text.substr(0, end)) + '\n';
+        text.remove_prefix(end + 1);
+    }
+    return result + Printable(text);
+}
+
 } // namespace Ombrel::MessageText
 
 #endif
