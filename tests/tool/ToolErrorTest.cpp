@@ -20,11 +20,12 @@ TEST_F(ToolUsage, HelpNamesCommandsAndExitCodes)
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.err, "");
     EXPECT_THAT(result.out, HasSubstr("Usage: ombrel-effects "));
-    for (const char* command : {"list", "show", "new", "get", "set", "normalise"})
+    for (const char* command :
+         {"list", "describe", "schema", "new", "get", "set", "unset", "check", "show", "thin", "freeze", "normalise"})
     {
         EXPECT_THAT(result.out, HasSubstr(std::string("\n  ") + command + " "));
     }
-    EXPECT_THAT(result.out, HasSubstr("\n  3  not JSON"));
+    EXPECT_THAT(result.out, HasSubstr("\n  4  not JSON"));
     EXPECT_THAT(Run({"set", "--help"}).out, HasSubstr("2/smartBlur/lumaRadius"));
 }
 
@@ -50,10 +51,10 @@ TEST_P(ToolMisuse, IsTwo)
 
 using Words = std::vector<std::string>;
 INSTANTIATE_TEST_SUITE_P(Words, ToolMisuse,
-                         testing::Values(Words{}, Words{"frobnicate"}, Words{"list", "more"}, Words{"show"}, Words{"new"},
+                         testing::Values(Words{}, Words{"frobnicate"}, Words{"list", "a", "b"}, Words{"show"}, Words{"new"},
                                          Words{"get", "f.json"}, Words{"set", "f.json", "radius"},
-                                         Words{"show", "f.json", "--in-place"}, Words{"normalise", "a.json", "b.json"},
-                                         Words{"list", "show"}));
+                                         Words{"show", "f.json", "--in-place"}, Words{"describe"},
+                                         Words{"check", "f.json", "--jobs", "0"}, Words{"unset", "f.json"}));
 
 TEST_F(ToolUsage, StandardInputCannotBeReplaced)
 {
@@ -63,28 +64,28 @@ TEST_F(ToolUsage, StandardInputCannotBeReplaced)
 
 TEST_F(ToolInput, MustBeReadable)
 {
-    EXPECT_EQ(Run({"show", "none.json"}), (ToolResult{2, "", "none.json: cannot be read: No such file or directory\n"}));
-    EXPECT_EQ(Run({"show", "."}), (ToolResult{2, "", ".: cannot be read: Is a directory\n"}));
+    EXPECT_EQ(Run({"show", "none.json"}), (ToolResult{3, "", "none.json: cannot be read: No such file or directory\n"}));
+    EXPECT_EQ(Run({"get", ".", "0"}), (ToolResult{3, "", ".: cannot be read: Is a directory\n"}));
 }
 
 TEST_F(ToolInput, OutputMustBeWritable)
 {
     EXPECT_EQ(Run({"list"}, {.outputFile = "/dev/full"}),
-              (ToolResult{2, "", "<stdout>: cannot be written: No space left on device\n"}));
-    EXPECT_EQ(Run({"--version"}, {.outputFile = "/dev/full"}).code, 2);
+              (ToolResult{3, "", "<stdout>: cannot be written: No space left on device\n"}));
+    EXPECT_EQ(Run({"--version"}, {.outputFile = "/dev/full"}).code, 3);
 }
 
 TEST_F(ToolInput, JsonErrorHasLineAndColumn)
 {
     EXPECT_EQ(RunOn("[\n  {\"name\": \"EFFECT_ACID\",\n   \"radius\": 5,\n   \"radius\": 6}\n]", {"show"}),
-              (ToolResult{3, "", "f.json:4:4: at 0: duplicate key \"radius\"\n"}));
-    EXPECT_EQ(Run({"show", "-"}, {.input = "[1"}), (ToolResult{3, "", "<stdin>:1:3: unexpected end of input; expected ']'\n"}));
+              (ToolResult{4, "", "f.json:4:4: at 0: duplicate key \"radius\"\n"}));
+    EXPECT_EQ(Run({"show", "-"}, {.input = "[1"}), (ToolResult{4, "", "<stdin>:1:3: unexpected end of input; expected ']'\n"}));
 }
 
 TEST_F(ToolInput, IsEscapedInMessagesAsTheJsonLibraryDoes)
 {
     EXPECT_EQ(Run({"new", "~/\n\x1b\xC2\x9B\xFF\xC3\xA4"}),
-              (ToolResult{1, "",
+              (ToolResult{2, "",
                           "~0~1\\n\\u001b\\u009b\\xff\xC3\xA4: no such class id, expected one that \"ombrel-effects list\" "
                           "shows\n"}));
 }
@@ -104,35 +105,32 @@ class ToolBadEffect : public ToolTest, public testing::WithParamInterface<BadEff
 {
 };
 
-TEST_P(ToolBadEffect, IsNamedByIndexAndKey)
+TEST_P(ToolBadEffect, IsNamedByPlaceAndPath)
 {
-    EXPECT_EQ(RunOn(GetParam().content, {"normalise"}), (ToolResult{3, "", GetParam().message}));
+    const std::string message = std::string("f.json:") + GetParam().message + "]\n";
+    EXPECT_EQ(RunOn(GetParam().content, {"normalise"}), (ToolResult{4, "", message + "f.json: nothing written\n"}));
+    EXPECT_EQ(RunOn(GetParam().content, {"normalise", "--force"}), (ToolResult{4, "", message + "f.json: nothing written\n"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     All, ToolBadEffect,
     testing::Values(
-        BadEffect{"5", "f.json: found an integer, expected an effect (a map) or a list of effects\n"},
-        BadEffect{"null", "f.json: found null, expected an effect (a map) or a list of effects\n"},
-        BadEffect{"[{}, \"x\"]", "f.json: 1: found a string, expected an effect (a map) or null\n"},
-        BadEffect{"[[]]", "f.json: 0: found a list, expected an effect (a map) or null\n"},
-        BadEffect{"{}", "f.json: cannot read {}: no \"name\", expected the class id of an effect\n"},
-        BadEffect{R"([{"radius":5}])",
-                  "f.json: 0: cannot read {\"radius\":5}: no \"name\", expected the class id of an effect\n"},
-        BadEffect{R"([{"name":5,"radius":"x"}])",
-                  "f.json: 0/name: cannot read 5: scalar: expected a string, found an integer\n"},
-        BadEffect{
-            R"([null,{"a":1,"name":"EFFECT_NONE"}])",
-            "f.json: 1/name: cannot read \"EFFECT_NONE\": Unknown Effect Setting type (EFFECT_NONE)! Expected a class id that "
-            "\"ombrel-effects list\" shows as registered\n"},
+        BadEffect{"5", "1:1: error: expected an effect, found 5 [not-an-effect"},
+        BadEffect{"[null, \"x\"]", "1:8: error: 1: expected an effect, found \"x\" [not-an-effect"},
+        BadEffect{"[[]]", "1:2: error: 0: expected an effect, found a list [not-an-effect"},
+        BadEffect{"{}", "1:1: error: the effect has no \"name\"; expected a class id [no-name"},
+        BadEffect{R"([{"radius":5}])", "1:2: error: 0: the effect has no \"name\"; expected a class id [no-name"},
+        BadEffect{R"([{"name":5,"radius":"x"}])", "1:10: error: 0/name: expected a text, found 5 [wrong-kind"},
         BadEffect{R"({"name":"EFFECT_ACID","radius":1,"sigma":[]})",
-                  "f.json: sigma: cannot read []: tree: expected a scalar, found a list\n"},
-        BadEffect{R"({"name":"EFFECT_ACID","implName":3})",
-                  "f.json: implName: cannot read 3: scalar: expected a string, found an integer\n"},
-        BadEffect{R"({"name":"EFFECT_ACID","helperSettings":{"applyMode":["ApplyStop",3]}})",
-                  "f.json: helperSettings/applyMode/1: cannot read 3: scalar: expected a string, found an integer\n"},
-        BadEffect{R"({"name":"EFFECT_ADJUSTER","vibrance":3})",
-                  "f.json: vibrance: cannot read 3: tree: expected a map, found a scalar\n"}));
+                  "1:42: error: sigma: expected a number, found a list [wrong-kind"},
+        BadEffect{R"({"name":"EFFECT_ACID","implName":3})", "1:34: error: implName: expected a text, found 3 [wrong-kind"},
+        BadEffect{R"({"name":"EFFECT_TRANSPOSE","angle":true})",
+                  "1:36: error: angle: expected one of the names \"NoRotation\", \"Angle_90\", \"Angle_180\", \"Angle_270\", "
+                  "found true [wrong-kind"},
+        BadEffect{R"({"name":"EFFECT_ADJUSTER","vibrance":3})", "1:38: error: vibrance: expected a map, found 3 [wrong-kind"},
+        BadEffect{"{\"name\":\"EFFECT_ADJUSTER\",\n \"vibrance\":{\"strength\":\"\x7f\"}}",
+                  "2:25: error: vibrance/strength: expected an integer from -2147483648 to 2147483647, found \"\\u007f\" "
+                  "[wrong-kind"}));
 
 } // namespace
 } // namespace Ombrel

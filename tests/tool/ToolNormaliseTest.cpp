@@ -33,7 +33,16 @@ TEST_F(ToolNormalise, NamesEveryKeyThatItDrops)
                           R"({"name":"EFFECT_ADJUSTER","vibrance":{"strength":0,"a/b":[{"deep":1}]},)"
                           R"("helperSettings":{"undoSet":false,"applyMode":[],"maxWidth":4294967295,"undo":true}},)"
                           R"({"name":"effectSettingsSimple","radius":{}}])";
-    EXPECT_EQ(RunOn(content, {"normalise"}), (ToolResult{1, R"([
+    const std::string lost =
+        "f.json:1:44: warning: 0/radios: the key is not known, so its value is lost; did you mean "
+        "\"radius\"? [unknown-key]\n"
+        "f.json:1:196: warning: 1/helperSettings/undo: the key is not known, so its value is lost "
+        "[unknown-key]\n"
+        "f.json:1:104: warning: 1/vibrance/a~1b: the key is not known, so its value is lost [unknown-key]\n"
+        "f.json:1:243: warning: 2/radius: the key is not known, so its value is lost [unknown-key]\n";
+    EXPECT_EQ(RunOn(content, {"normalise"}),
+              (ToolResult{1, "", lost + "f.json: nothing written; --force writes the result all the same\n"}));
+    EXPECT_EQ(RunOn(content, {"normalise", "--force"}), (ToolResult{1, R"([
   {
     "name": "EFFECT_ACID"
   },
@@ -45,25 +54,55 @@ TEST_F(ToolNormalise, NamesEveryKeyThatItDrops)
   }
 ]
 )",
-                                                         "f.json: 0/radios: unknown key, dropped\n"
-                                                         "f.json: 1/helperSettings/undo: unknown key, dropped\n"
-                                                         "f.json: 1/vibrance/a~1b: unknown key, dropped\n"
-                                                         "f.json: 2/radius: unknown key, dropped\n"}));
+                                                                    lost}));
 }
 
 TEST_F(ToolNormalise, FindsUnknownKeysBesideANaN)
 {
-    EXPECT_EQ(RunOn(R"({"name":"EFFECT_ACID","sigma":"NaN","radios":1})", {"normalise", "--non-finite"}),
+    EXPECT_EQ(RunOn(R"({"name":"EFFECT_ACID","sigma":"NaN","radios":1})", {"normalise", "--non-finite", "--force"}),
               (ToolResult{1, "{\n  \"name\": \"EFFECT_ACID\",\n  \"sigma\": \"NaN\"\n}\n",
-                          "f.json: radios: unknown key, dropped\n"}));
+                          "f.json:1:46: warning: radios: the key is not known, so its value is lost; did you mean \"radius\"? "
+                          "[unknown-key]\n"}));
 }
 
 TEST_F(ToolNormalise, PrintsNothingIfAnEffectCannotBeRead)
 {
-    EXPECT_EQ(
-        RunOn(R"([{"name":"EFFECT_ACID"},{"name":"EFFECT_ADJUSTER","smartBlur":{"lumaBlur":1,"lumaRadius":true}}])",
-              {"normalise"}),
-        (ToolResult{3, "", "f.json: 1/smartBlur/lumaRadius: cannot read true: scalar: expected a number, found a bool\n"}));
+    EXPECT_EQ(RunOn(R"([{"name":"EFFECT_ACID"},{"name":"EFFECT_ADJUSTER","smartBlur":{"lumaBlur":1,"lumaRadius":true}}])",
+                    {"normalise"}),
+              (ToolResult{
+                  4, "",
+                  "f.json:1:90: error: 1/smartBlur/lumaRadius: expected an integer from -2147483648 to 2147483647, found true "
+                  "[wrong-kind]\nf.json: nothing written\n"}));
+}
+
+TEST_F(ToolNormalise, LeavesAnEffectThatIsNotKnown)
+{
+    EXPECT_EQ(RunOn(R"([{"name":"EFFECT_NONE","b":1,"a":5.0},{"name":"EFFECT_ACID","radius":5.0},{"name":"EFFECT_BLEND"}])",
+                    {"normalise"}),
+              (ToolResult{0, R"([
+  {
+    "a": 5.0,
+    "b": 1,
+    "name": "EFFECT_NONE"
+  },
+  {
+    "name": "EFFECT_ACID",
+    "radius": 5
+  },
+  {
+    "name": "EFFECT_BLEND"
+  }
+]
+)",
+                          ""}));
+}
+
+TEST_F(ToolNormalise, NamesEveryValueThatItChanges)
+{
+    EXPECT_EQ(RunOn(R"({"name":"EFFECT_FISH_EYE","intensity":3.0,"deviation":2.0})", {"normalise"}),
+              (ToolResult{1, "",
+                          "f.json:1:55: warning: deviation: 2.0 is written as 6.0 [changes-on-write]\n"
+                          "f.json: nothing written; --force writes the result all the same\n"}));
 }
 
 TEST_F(ToolNormalise, TakesABigList)

@@ -19,7 +19,7 @@ TEST_F(ToolReferenceNotes, NamesEveryFaultOfTheNotesAndWritesNothing)
     Replace("notes/faces.json", "\"EyeExtendingSettings\"", "\"ImplodeSettings\"");
     Replace("notes/framework.json", "\"compares\"", "\"compare\"");
     Write("notes/film.json", "{}");
-    EXPECT_EQ(WritePages(), (ToolResult{3, "",
+    EXPECT_EQ(WritePages(), (ToolResult{4, "",
                                         "notes/framework.json: AcidSettings: has no text \"compares\"\n"
                                         "notes/geometry.json: CroppSettings: there is no such class\n"
                                         "notes/geometry.json: ImplodeSettings: noted in notes/faces.json too\n"
@@ -34,9 +34,9 @@ TEST_F(ToolReferenceNotes, RefusesNotesOfAnotherForm)
     Write("notes/geometry.json", "[]");
     EXPECT_THAT(WritePages().err, HasSubstr("notes/geometry.json: found a list, expected a map from class names to notes\n"));
     Write("notes/geometry.json", "{");
-    EXPECT_EQ(WritePages().code, 3);
+    EXPECT_EQ(WritePages().code, 4);
     std::filesystem::remove(At("notes/geometry.json"));
-    EXPECT_EQ(WritePages(), (ToolResult{2, "", "notes/geometry.json: cannot be read: No such file or directory\n"}));
+    EXPECT_EQ(WritePages(), (ToolResult{3, "", "notes/geometry.json: cannot be read: No such file or directory\n"}));
 }
 
 TEST_F(ToolReferenceNotes, NamesEveryFaultOfTheMembers)
@@ -46,7 +46,7 @@ TEST_F(ToolReferenceNotes, NamesEveryFaultOfTheMembers)
     Replace("notes/faces.json", "[\n            \"SettingsEffectFaceDetection\"\n        ]", "\"SettingsEffectFaceDetection\"");
     Replace("notes/colour.json", "\"mode\": \"adds", "\"mode\": \"\", \"node\": \"adds");
     EXPECT_EQ(WritePages(),
-              (ToolResult{3, "",
+              (ToolResult{4, "",
                           "notes/members.json: Face: has no text \"default\"\n"
                           "notes/colour.json: NegateVideoSettings: \"unknownNames\": has no text \"mode\"\n"
                           "notes/neural.json: DreamscopeSettings: \"members\": \"SettingsEffectDreamscope\" is not in "
@@ -58,7 +58,7 @@ TEST_F(ToolReferenceNotes, NamesEveryFaultOfTheMembers)
 TEST_F(ToolReferenceNotes, RefusesMembersThatNothingHas)
 {
     Replace("notes/members.json", "\"Face\"", "\"Fase\"");
-    EXPECT_EQ(WritePages(), (ToolResult{3, "", "notes: Fase: no class and no record has these members\n"}));
+    EXPECT_EQ(WritePages(), (ToolResult{4, "", "notes: Fase: no class and no record has these members\n"}));
     EXPECT_FALSE(std::filesystem::exists(At("pages")));
 }
 
@@ -76,11 +76,12 @@ TEST_F(ToolReferenceNotes, RefusesExamplesThatAreNone)
     const char* const other = R"({"name":"EFFECT_VIBRANCE"})";
     Write("examples/EFFECT_ACID.json", other);
     EXPECT_EQ(WritePages(),
-              (ToolResult{3, "", "examples/EFFECT_ACID.json: expected one effect of class id \"EFFECT_ACID\"\n"}));
+              (ToolResult{4, "", "examples/EFFECT_ACID.json: expected one effect of class id \"EFFECT_ACID\"\n"}));
     Write("examples/EFFECT_ACID.json", R"({"name":"EFFECT_ACID","radius":true})");
-    EXPECT_THAT(WritePages().err, HasSubstr("examples/EFFECT_ACID.json: radius: cannot read true: "));
+    EXPECT_THAT(WritePages().err,
+                HasSubstr("error: radius: expected an integer from -2147483648 to 2147483647, found true [wrong-kind]"));
     std::filesystem::remove(At("examples/EFFECT_ACID.json"));
-    EXPECT_EQ(WritePages(), (ToolResult{2, "", "examples/EFFECT_ACID.json: cannot be read: No such file or directory\n"}));
+    EXPECT_EQ(WritePages(), (ToolResult{3, "", "examples/EFFECT_ACID.json: cannot be read: No such file or directory\n"}));
     EXPECT_FALSE(std::filesystem::exists(At("pages")));
 }
 

@@ -192,7 +192,7 @@ TEST_F(ToolReference, SaysWhatUnknownNamesDo)
 // What the library does: the text above is a note.
 TEST_F(ToolReference, AnUnknownChannelIsDropped)
 {
-    EXPECT_EQ(RunOn(R"({"name":"EFFECT_NEGATE_VIDEO","mode":["Cyan"]})", {"normalise"}).out,
+    EXPECT_EQ(RunOn(R"({"name":"EFFECT_NEGATE_VIDEO","mode":["Cyan"]})", {"normalise", "--force"}).out,
               "{\n  \"name\": \"EFFECT_NEGATE_VIDEO\"\n}\n");
 }
 
@@ -226,7 +226,7 @@ TEST_F(ToolReference, ListsAllClassesByName)
 TEST_F(ToolReference, SaysWhatCannotBeWritten)
 {
     std::filesystem::create_directories(At("pages/new/masks.md"));
-    EXPECT_EQ(WritePages(), (ToolResult{2, "", "pages/new/masks.md: cannot be written: Is a directory\n"}));
+    EXPECT_EQ(WritePages(), (ToolResult{3, "", "pages/new/masks.md: cannot be written: Is a directory\n"}));
 }
 
 } // namespace

@@ -1,109 +1,176 @@
 #include "Document.h"
 
+#include "Proc/Settings/StoredKeys.h"
+#include "PropertyPath.h"
+#include "PropertyTreeJson/MessageText.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 #include "TextFile.h"
 #include "ToolError.h"
-#include "Values.h"
 
+#include <algorithm>
 #include <utility>
-#include <variant>
+#include <vector>
 
 namespace Ombrel::EffectsTool
 {
+namespace
+{
 
-std::string TextOf(const PropertyTree& tree, const std::string& subject, bool nonFinite)
+constexpr unsigned INDENT = 2;
+const std::string NAME{Proc::StoredKeys::NAME};
+const std::string EFFECTS = "effects";
+const std::string ID = "id";
+
+// How many bytes indenting adds to a text: a line end and spaces for each value and each closing bracket. It may add six
+// times what a usual file has; a text of brackets alone would become a hundred times as long.
+bool IsIndentingCheap(const PropertyTree& tree, std::size_t plainSize)
+{
+    constexpr std::size_t deepest = 64; // deeper lines are not indented further
+    std::size_t added = 0;
+    std::vector<std::pair<const PropertyTree*, std::size_t>> pending{{&tree, 0}};
+    while (!pending.empty())
+    {
+        const auto [value, depth] = pending.back();
+        pending.pop_back();
+        const std::size_t line = 1 + INDENT * std::min(depth + 1, deepest);
+        const auto add = [&](const PropertyTree& child)
+        {
+            added += line + 1;
+            if (child.isMap() || child.isList())
+            {
+                pending.emplace_back(&child, depth + 1);
+                added += line;
+            }
+        };
+        if (value->isMap())
+        {
+            std::ranges::for_each(value->getMap(), [&](const auto& entry) { add(entry.second); });
+        }
+        else if (value->isList())
+        {
+            std::ranges::for_each(value->getList(), add);
+        }
+    }
+    return added <= 6 * plainSize + 65536;
+}
+
+} // namespace
+
+std::string OnOneLine(const PropertyTree& tree, const std::string& subject, bool nonFinite)
 {
     try
     {
-        return WriteJson(tree, {.nonFiniteAsText = nonFinite, .indent = 2}) + '\n';
+        const JsonWriteOptions options{.nonFiniteAsText = nonFinite};
+        std::string text = WriteJson(tree, options);
+        if (WriteJson(ReadJson(text, {.nonFiniteAsText = nonFinite}), options) != text)
+        {
+            throw ToolError(ExitCode::BadInput, subject + " would not be read as it was written");
+        }
+        return text;
     }
     catch (const JsonWriteError& error)
     {
         throw ToolError(ExitCode::BadInput, subject + " cannot be written as JSON: " + error.what());
     }
+    catch (const JsonError& error)
+    {
+        throw ToolError(ExitCode::BadInput, subject + " could not be read again: " + error.what());
+    }
 }
 
-PropertyTree ReadJsonFile(const std::string& file, bool nonFinite)
+std::string Indented(const PropertyTree& tree, const std::string& subject, bool nonFinite)
 {
-    const std::string text = ReadTextFile(file);
+    std::string text = OnOneLine(tree, subject, nonFinite);
+    if (IsIndentingCheap(tree, text.size()))
+    {
+        text = WriteJson(tree, {.nonFiniteAsText = nonFinite, .indent = INDENT});
+    }
+    return text + '\n';
+}
+
+Document Document::Load(const std::string& file, const ReadingOptions& options)
+{
+    return {file, ReadTextFile(file, options.maxBytes), options};
+}
+
+Document Document::OfLine(const std::string& file, std::string text, std::size_t line, const ReadingOptions& options)
+{
+    return {file, std::move(text), options, line};
+}
+
+Document::Document(const std::string& file, std::string text, const ReadingOptions& options)
+    : Document(file, std::move(text), options, std::nullopt)
+{
+}
+
+Document::Document(const std::string& file, std::string text, const ReadingOptions& options, std::optional<std::size_t> line)
+    : m_name(NameOfFile(file)), m_text(std::move(text)), m_options(options), m_line(line)
+{
     try
     {
-        return ReadJson(text, {.nonFiniteAsText = nonFinite});
+        m_tree = ReadJson(m_text, {.nonFiniteAsText = options.nonFinite});
     }
     catch (const JsonError& error)
     {
-        throw ToolError(ExitCode::BadInput, NameOfFile(file) + ":" + error.what());
-    }
-}
-
-Document::Document(std::string name, PropertyTree tree, bool nonFinite)
-    : m_name(std::move(name)), m_tree(std::move(tree)), m_isList(m_tree.isList()), m_nonFinite(nonFinite)
-{
-}
-
-Document Document::Load(const std::string& file, bool nonFinite)
-{
-    Document document(NameOfFile(file), ReadJsonFile(file, nonFinite), nonFinite);
-    document.CheckElements();
-    return document;
-}
-
-void Document::CheckElements() const
-{
-    if (!m_isList && !m_tree.isMap())
-    {
+        const std::string message = error.what();
         throw ToolError(ExitCode::BadInput,
-                        m_name + ": found " + KindOf(m_tree) + ", expected an effect (a map) or a list of effects");
+                        m_name + ":" + std::to_string(m_line.value_or(error.line())) + message.substr(message.find(':')));
     }
-    for (std::size_t index = 0; index < size(); ++index)
+    if (m_line && m_tree.isMap() && !m_tree.contains(NAME) && m_tree.contains(EFFECTS))
     {
-        const PropertyTree& element = (*this)[index];
-        if (!element.isMap() && !element.isNull())
-        {
-            throw ToolError(ExitCode::BadInput,
-                            Where(index) + "found " + KindOf(element) + ", expected an effect (a map) or null");
-        }
+        PropertyTree tree = std::move(m_tree[EFFECTS]);
+        m_around = std::move(m_tree);
+        m_tree = std::move(tree);
     }
 }
 
-Path Document::PathOf(std::size_t index) const
+JsonPlace Document::PlaceOf(const Inspection::Path& path) const
 {
-    return m_isList ? Path{std::to_string(index)} : Path{};
+    if (!m_places)
+    {
+        m_places.emplace(m_text, JsonReadOptions{.nonFiniteAsText = m_options.nonFinite});
+    }
+    Path steps;
+    if (m_around)
+    {
+        steps.push_back(EFFECTS);
+    }
+    const Path below = StepsOf(path);
+    steps.insert(steps.end(), below.begin(), below.end());
+    std::optional<JsonPlace> place = m_places->Find(steps);
+    while (!place)
+    {
+        steps.pop_back();
+        place = m_places->Find(steps);
+    }
+    return {.line = m_line.value_or(place->line), .column = place->column};
 }
 
-std::string Document::Where(std::size_t index, PathView place) const
+std::string Document::TextOf(const Inspection::Path& path) const
 {
-    Path path = PathOf(index);
-    path.insert(path.end(), place.begin(), place.end());
-    return m_name + ": " + (path.empty() ? "" : PathText(path) + ": ");
+    const std::string text = MessageText::Printable(path.ToText());
+    return !m_around ? text : text.empty() ? EFFECTS : EFFECTS + "/" + text;
 }
 
-Document::Target Document::Locate(const Path& path) const
+std::string Document::TextWith(const PropertyTree& tree) const
 {
-    if (!m_isList)
+    const std::string subject = m_name + ":";
+    if (!m_line)
     {
-        return {0, path};
+        return Indented(tree, subject, m_options.nonFinite);
     }
-    const std::optional<std::size_t> index = IndexOf(path.front());
-    if (!index || *index >= size())
+    if (!m_around)
     {
-        throw ToolError(ExitCode::NotAsAsked,
-                        m_name + ": " + PathText(PathView(path).first(1)) + ": no such effect, " + ExpectedBelow(m_tree));
+        return OnOneLine(tree, subject, m_options.nonFinite) + '\n';
     }
-    return {*index, Path(path.begin() + 1, path.end())};
+    PropertyTree whole = *m_around;
+    whole[EFFECTS] = tree;
+    return OnOneLine(whole, subject, m_options.nonFinite) + '\n';
 }
 
-EffectPtr Document::Read(std::size_t index) const
+const PropertyTree* Document::Id() const
 {
-    const PropertyTree& element = (*this)[index];
-    auto result = ReadEffect(element);
-    if (const Refusal* refusal = std::get_if<Refusal>(&result))
-    {
-        const PropertyTree& value = At(element, refusal->place);
-        throw ToolError(ExitCode::BadInput,
-                        Where(index, refusal->place) + "cannot read " + ShownInBrief(value) + ": " + refusal->reason);
-    }
-    return std::get<EffectPtr>(std::move(result));
+    return m_around && m_around->contains(ID) ? &(*m_around)[ID] : nullptr;
 }
 
 } // namespace Ombrel::EffectsTool

@@ -1,70 +1,84 @@
 #ifndef OMBREL_EFFECTS_TOOL_DOCUMENT_H
 #define OMBREL_EFFECTS_TOOL_DOCUMENT_H
 
-#include "EffectReader.h"
-#include "PropertyPath.h"
+#include "Inspection/Finding.h"
 #include "PropertyTree/PropertyTree.h"
+#include "PropertyTreeJson/JsonPlaces.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 namespace Ombrel::EffectsTool
 {
 
-/// The JSON text of `tree` with a line end, as all commands print it.
-/// @throws ToolError `BadInput` if a value has no JSON form; the message begins with `subject`
-std::string TextOf(const PropertyTree& tree, const std::string& subject, bool nonFinite);
+struct ReadingOptions
+{
+    bool nonFinite = false; // floats that are no finite numbers are texts
+    std::size_t maxBytes = DEFAULT_MAX_BYTES;
 
-/// Reads a file, or the standard input for "-".
-/// @throws ToolError `UsageOrFile`, or `BadInput` if it is not JSON
-PropertyTree ReadJsonFile(const std::string& file, bool nonFinite);
+    static constexpr std::size_t DEFAULT_MAX_BYTES = std::size_t{256} << 20;
+};
 
-/// One stored effect or a list of stored effects, as in the file. `Read` lets the library read one of them.
+/// The JSON text of `tree`, which has been read back, without a line end.
+/// @param subject the beginning of a message
+/// @throws ToolError `BadInput` if a value has no JSON form, or the text could not be read again
+std::string OnOneLine(const PropertyTree& tree, const std::string& subject, bool nonFinite);
+
+/// The same as commands print it: indented unless that would make a small file large, and with a line end.
+std::string Indented(const PropertyTree& tree, const std::string& subject, bool nonFinite);
+
+/// A JSON file: one stored effect or a list of them, whatever stands there.
 class Document
 {
 public:
-    /// The element that a path of the user leads to, and the rest of the path within it.
-    struct Target
-    {
-        std::size_t index;
-        Path rest;
-    };
+    /// Reads a file, or the standard input for "-".
+    /// @throws ToolError `File`, or `BadInput` if it is not JSON
+    static Document Load(const std::string& file, const ReadingOptions& options);
 
-    /// Reads a file as `ReadJsonFile`. The elements must be maps or null; their content is not checked.
-    /// @throws ToolError as `ReadJsonFile`, and `BadInput` if it is neither an effect nor a list of effects
-    static Document Load(const std::string& file, bool nonFinite);
+    /// The same from a text that has been read already.
+    /// @throws ToolError `BadInput`
+    Document(const std::string& file, std::string text, const ReadingOptions& options);
 
-    std::size_t size() const { return m_isList ? m_tree.getList().size() : 1; }
-    PropertyTree& operator[](std::size_t index) { return m_isList ? m_tree.getList()[index] : m_tree; }
-    const PropertyTree& operator[](std::size_t index) const { return m_isList ? m_tree.getList()[index] : m_tree; }
+    /// One line of a file of JSON Lines: an effect, a list of effects, or a map with either under "effects" and with what else
+    /// it likes.
+    /// @throws ToolError `BadInput`
+    static Document OfLine(const std::string& file, std::string text, std::size_t line, const ReadingOptions& options);
 
-    /// The path of an element; empty if the file is a single effect.
-    Path PathOf(std::size_t index) const;
+    const PropertyTree& Tree() const noexcept { return m_tree; }
+    bool IsList() const noexcept { return m_tree.isList(); }
 
-    /// @throws ToolError `NotAsAsked` if there is no such element
-    Target Locate(const Path& path) const;
+    /// How many effects stand in it, and each of them.
+    std::size_t Size() const { return IsList() ? m_tree.getList().size() : 1; }
+    const PropertyTree& operator[](std::size_t index) const { return IsList() ? m_tree.getList()[index] : m_tree; }
 
-    /// The effect of an element, null for null.
-    /// @throws ToolError `BadInput` if the library refuses it
-    EffectPtr Read(std::size_t index) const;
+    /// The name of the file for messages.
+    const std::string& Name() const noexcept { return m_name; }
 
-    /// The beginning of a message about a place: "file: path: ".
-    std::string Where(std::size_t index, PathView place = {}) const;
+    /// Where the value stands, or for one that is missing what is around it.
+    JsonPlace PlaceOf(const Inspection::Path& path) const;
 
-    bool isList() const { return m_isList; }
-    std::string Text() const { return TextOf(m_tree, m_name + ":", m_nonFinite); }
-    std::string Text(const PropertyTree& part) const { return TextOf(part, m_name + ":", m_nonFinite); }
-    bool nonFinite() const { return m_nonFinite; }
+    /// The path in the file, for messages: escaped, empty for the root.
+    std::string TextOf(const Inspection::Path& path) const;
+
+    /// The file with this tree in place of its own.
+    /// @throws ToolError `BadInput` as `TextOf`
+    std::string TextWith(const PropertyTree& tree) const;
+
+    /// What is handed through beside "effects", or null.
+    const PropertyTree* Id() const;
+    const ReadingOptions& Options() const noexcept { return m_options; }
 
 private:
-    Document(std::string name, PropertyTree tree, bool nonFinite);
-
-    void CheckElements() const;
+    Document(const std::string& file, std::string text, const ReadingOptions& options, std::optional<std::size_t> line);
 
     std::string m_name;
+    std::string m_text;
+    ReadingOptions m_options;
+    std::optional<std::size_t> m_line;    // of JSON Lines
+    std::optional<PropertyTree> m_around; // the map that has the effects
     PropertyTree m_tree;
-    bool m_isList;
-    bool m_nonFinite;
+    mutable std::optional<JsonPlaces> m_places; // once they have been asked for
 };
 
 } // namespace Ombrel::EffectsTool

@@ -1,20 +1,9 @@
 #include "EffectForms.h"
 
-#include "EffectReader.h"
 #include "Proc/EffectSettings/EffectSettings.h"
-#include "Proc/Settings/StoredKeys.h"
-
-#include <algorithm>
 
 namespace Ombrel::EffectsTool
 {
-
-const PhotoCore::EffectClass* FindClass(std::string_view classId)
-{
-    const auto classes = PhotoCore::EffectClasses();
-    const auto found = std::ranges::find(classes, classId, &PhotoCore::EffectClass::classId);
-    return found == classes.end() ? nullptr : &*found;
-}
 
 const char* InputsOf(const PhotoCore::EffectClass& effectClass)
 {
@@ -74,18 +63,6 @@ PropertyTree FullForm(const std::shared_ptr<const PhotoCore::IEffectSettings>& e
         }
     }
     return tree;
-}
-
-PropertyTree WithDefaults(const PropertyTree& map)
-{
-    if (map.contains(Proc::StoredKeys::NAME))
-    {
-        if (const auto effect = TryReadEffect(map))
-        {
-            return FullForm(*effect);
-        }
-    }
-    return map;
 }
 
 } // namespace Ombrel::EffectsTool

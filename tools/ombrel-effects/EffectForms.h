@@ -10,9 +10,6 @@
 namespace Ombrel::EffectsTool
 {
 
-/// The settings class of a class id, or null.
-const PhotoCore::EffectClass* FindClass(std::string_view classId);
-
 /// "1", "2" or "var": how many images a class takes.
 const char* InputsOf(const PhotoCore::EffectClass& effectClass);
 
@@ -26,9 +23,6 @@ PropertyTree StoredForm(const std::shared_ptr<const PhotoCore::IEffectSettings>&
 /// The stored form with every property, including those that equal their defaults. For an effect without a property access, it
 /// is the stored form.
 PropertyTree FullForm(const std::shared_ptr<const PhotoCore::IEffectSettings>& effect);
-
-/// The full form of a stored effect; any other tree unchanged.
-PropertyTree WithDefaults(const PropertyTree& map);
 
 } // namespace Ombrel::EffectsTool
 

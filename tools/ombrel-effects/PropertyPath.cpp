@@ -5,6 +5,7 @@
 
 #include <charconv>
 #include <stdexcept>
+#include <variant>
 
 namespace Ombrel::EffectsTool
 {
@@ -47,6 +48,17 @@ std::string PathText(PathView path)
         text.Add(step);
     }
     return MessageText::Printable(text.Text());
+}
+
+Path StepsOf(const Inspection::Path& path)
+{
+    Path steps;
+    for (const Inspection::PathStep& step : path.steps)
+    {
+        const std::size_t* index = std::get_if<std::size_t>(&step);
+        steps.push_back(index ? std::to_string(*index) : std::get<std::string>(step));
+    }
+    return steps;
 }
 
 std::string PathTexts(const std::vector<std::string>& steps)

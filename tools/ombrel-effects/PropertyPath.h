@@ -1,6 +1,7 @@
 #ifndef OMBREL_EFFECTS_TOOL_PROPERTY_PATH_H
 #define OMBREL_EFFECTS_TOOL_PROPERTY_PATH_H
 
+#include "Inspection/Path.h"
 #include "PropertyTree/PropertyTree.h"
 
 #include <cstddef>
@@ -22,6 +23,9 @@ Path ParsePath(std::string_view text);
 
 /// The reverse of `ParsePath`, escaped for messages as the texts of `JsonError`; empty for an empty path.
 std::string PathText(PathView path);
+
+/// The same path with indices as text.
+Path StepsOf(const Inspection::Path& path);
 
 /// The paths of one step each, joined by ", ".
 std::string PathTexts(const std::vector<std::string>& steps);

@@ -1,6 +1,9 @@
-#include "Commands.h"
+#include "ClassCommands.h"
 #include "Document.h"
 #include "EffectForms.h"
+#include "FindingText.h"
+#include "Inspection/Check.h"
+#include "Inspection/Forms.h"
 #include "PropertyPath.h"
 #include "ReferenceNotes.h"
 #include "ReferencePages.h"
@@ -65,14 +68,22 @@ std::string ExampleOf(const PhotoCore::EffectClass& effectClass, const std::file
         return Compact(FullForm(effectClass.create()), 0);
     }
     const std::string file = (folder / effectClass.classId).string() + ".json";
-    const Document document = Document::Load(file, false);
-    const EffectPtr effect = document.size() == 1 ? document.Read(0) : nullptr;
-    if (!effect || effect->GetClassId() != effectClass.classId)
+    const Document document = Document::Load(file, {});
+    const PropertyTree& stored = document.Tree();
+    const PropertyTree* name = FindChild(stored, "name");
+    if (!name || *name != PropertyTree(effectClass.classId))
     {
         throw ToolError(ExitCode::BadInput,
                         file + ": expected one effect of class id \"" + std::string(effectClass.classId) + "\"");
     }
-    return Compact(StoredForm(effect), 0);
+    for (const Inspection::Finding& finding : Inspection::Check(stored))
+    {
+        if (SeverityOf(finding.code) == Inspection::Severity::Error)
+        {
+            throw ToolError(ExitCode::BadInput, LineOf(finding, document, false));
+        }
+    }
+    return Compact(Inspection::Normalise(stored), 0);
 }
 
 // The section shows these members: it is that of the record that declares them, or of a class that lists the record.
@@ -108,7 +119,7 @@ void CheckMembers(const ReferenceNotes& notes, const ReferenceSections& sections
 
 } // namespace
 
-Outcome WriteReference(const std::string& notesFolder, const std::string& examplesFolder, const std::string& outputFolder)
+Report WriteReference(const std::string& notesFolder, const std::string& examplesFolder, const std::string& outputFolder)
 {
     ReferenceNotes notes = LoadReferenceNotes(notesFolder);
     for (ReferencePage& page : notes.pages)
@@ -127,7 +138,7 @@ Outcome WriteReference(const std::string& notesFolder, const std::string& exampl
         WriteTextFile(output / (notes.pages[page].name + ".md"), PageText(notes, page, sections));
     }
     WriteTextFile(output / "README.md", IndexText(notes.pages));
-    return {"", {}, ExitCode::Fine};
+    return {};
 }
 
 } // namespace Ombrel::EffectsTool

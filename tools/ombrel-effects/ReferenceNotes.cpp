@@ -45,7 +45,7 @@ public:
     const KeylessMembers& ReadMembers()
     {
         const std::string file = FileOf(MEMBERS);
-        const PropertyTree notes = ReadJsonFile(file, false);
+        const PropertyTree notes = Document::Load(file, {}).Tree();
         if (!notes.isMap())
         {
             Complain(file + ": found " + KindOf(notes) + ", expected a map from names of classes to lists of members");
@@ -73,7 +73,7 @@ public:
     {
         const std::string file = FileOf(page.name);
         ReferencePage result{page.name, page.title, {}};
-        const PropertyTree notes = ReadJsonFile(file, false);
+        const PropertyTree notes = Document::Load(file, {}).Tree();
         if (!notes.isMap())
         {
             Complain(file + ": found " + KindOf(notes) + ", expected a map from class names to notes");

@@ -58,7 +58,7 @@ struct ReferenceNotes
 ///
 /// A class has the members of all the names that it lists, in their order. A member that is declared twice has the later row
 /// at the earlier place: so a derived record changes a default.
-/// @throws ToolError `UsageOrFile` if a file is missing; `BadInput` if a file has another form or an unknown name, if a class
+/// @throws ToolError `File` if a file is missing; `BadInput` if a file has another form or an unknown name, if a class
 ///         has no note or two, or if a note is of no class. One message names all faults
 ReferenceNotes LoadReferenceNotes(const std::string& folder);
 

@@ -1,34 +1,25 @@
 #include "TextFile.h"
 
+#include "PropertyTreeJson/MessageText.h"
 #include "ToolError.h"
 
-#include <array>
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <memory>
 #include <system_error>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace Ombrel::EffectsTool
 {
 namespace
 {
 
-using Stream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-
-Stream Open(const std::string& file, const char* mode)
+[[noreturn]] void ThrowUnreadable(const std::string& file)
 {
-    return {std::fopen(file.c_str(), mode), &std::fclose};
-}
-
-std::string ReadAll(std::FILE* stream)
-{
-    std::string text;
-    std::array<char, 65536> buffer;
-    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), stream))
-    {
-        text.append(buffer.data(), count);
-    }
-    return text;
+    throw ToolError(ExitCode::File, NameOfFile(file) + ": cannot be read: " + LastError());
 }
 
 } // namespace
@@ -40,27 +31,68 @@ std::string LastError()
 
 std::string NameOfFile(const std::string& file)
 {
-    return file == "-" ? "<stdin>" : file;
+    return file == "-" ? "<stdin>" : MessageText::Printable(file);
 }
 
-std::string ReadTextFile(const std::string& file)
+std::string ReadDescriptor(int descriptor, const std::string& file, std::size_t maxBytes)
 {
-    const Stream own = file == "-" ? Stream(nullptr, &std::fclose) : Open(file, "rb");
-    std::FILE* const stream = file == "-" ? stdin : own.get();
-    std::string text = stream ? ReadAll(stream) : std::string();
-    if (!stream || std::ferror(stream))
+    constexpr std::size_t least = 65536;
+    std::string text;
+    std::size_t size = 0;
+    for (;;)
     {
-        throw ToolError(ExitCode::UsageOrFile, NameOfFile(file) + ": cannot be read: " + LastError());
+        if (size == text.size())
+        {
+            text.resize(std::max(size * 2, least));
+        }
+        const ssize_t count = ::read(descriptor, text.data() + size, text.size() - size);
+        if (count < 0 && errno != EINTR)
+        {
+            ThrowUnreadable(file);
+        }
+        size += count < 0 ? 0 : static_cast<std::size_t>(count);
+        if (size > maxBytes)
+        {
+            throw ToolError(ExitCode::File, NameOfFile(file) + ": is longer than the " + std::to_string(maxBytes) +
+                                                " bytes that --max-bytes allows");
+        }
+        if (count == 0)
+        {
+            text.resize(size);
+            return text;
+        }
     }
-    return text;
+}
+
+std::string ReadTextFile(const std::string& file, std::size_t maxBytes)
+{
+    if (file == "-")
+    {
+        return ReadDescriptor(STDIN_FILENO, file, maxBytes);
+    }
+    const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+    {
+        ThrowUnreadable(file);
+    }
+    struct Closer
+    {
+        explicit Closer(int opened) : descriptor(opened) {}
+        Closer(const Closer&) = delete;
+        Closer& operator=(const Closer&) = delete;
+        ~Closer() { ::close(descriptor); }
+        int descriptor;
+    };
+    const Closer closer(descriptor);
+    return ReadDescriptor(descriptor, file, maxBytes);
 }
 
 void WriteTextFile(const std::string& file, std::string_view text)
 {
-    const Stream stream = Open(file, "wb");
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> stream(std::fopen(file.c_str(), "wb"), &std::fclose);
     if (!stream || std::fwrite(text.data(), 1, text.size(), stream.get()) != text.size() || std::fflush(stream.get()) != 0)
     {
-        throw ToolError(ExitCode::UsageOrFile, file + ": cannot be written: " + LastError());
+        throw ToolError(ExitCode::File, NameOfFile(file) + ": cannot be written: " + LastError());
     }
 }
 

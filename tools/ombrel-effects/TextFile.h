@@ -1,6 +1,7 @@
 #ifndef OMBREL_EFFECTS_TOOL_TEXT_FILE_H
 #define OMBREL_EFFECTS_TOOL_TEXT_FILE_H
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -10,15 +11,19 @@ namespace Ombrel::EffectsTool
 /// What the system says of `errno`.
 std::string LastError();
 
-/// The name of a file in messages: "<stdin>" for "-".
+/// The name of a file in messages: "<stdin>" for "-". Control characters and bytes that are not UTF-8 are escaped.
 std::string NameOfFile(const std::string& file);
 
 /// The content of a file, or of the standard input for "-".
-/// @throws ToolError `UsageOrFile`
-std::string ReadTextFile(const std::string& file);
+/// @throws ToolError `File`, also if it has more than `maxBytes`
+std::string ReadTextFile(const std::string& file, std::size_t maxBytes);
+
+/// Reads what an open file has left.
+/// @throws ToolError as `ReadTextFile`; `file` is its name
+std::string ReadDescriptor(int descriptor, const std::string& file, std::size_t maxBytes);
 
 /// Creates or overwrites a file. This is not atomic, so it is only for files that can be written again.
-/// @throws ToolError `UsageOrFile`
+/// @throws ToolError `File`
 void WriteTextFile(const std::string& file, std::string_view text);
 
 } // namespace Ombrel::EffectsTool

@@ -7,17 +7,17 @@
 namespace Ombrel::EffectsTool
 {
 
-/// The exit codes of the program. Scripts rely on the numbers.
+/// The exit codes of the program. Scripts rely on the numbers. Where several would do, the highest counts.
 enum class ExitCode : int
 {
     Fine = 0,
-    NotAsAsked =
-        1, // a key, index or class id that does not exist; a stored value that differs from the given one; dropped keys
-    UsageOrFile = 2, // a wrong command line; a file that cannot be read or written
-    BadInput = 3,    // not JSON, not effects, an unknown class id in the file, a value that the library refuses
+    Findings = 1, // something was found, or would be changed or lost
+    Usage = 2,    // a wrong command line; a path, class id, key or name that does not exist
+    File = 3,     // a file that cannot be read or written
+    BadInput = 4, // not JSON, or an effect that the command needs and cannot be read
 };
 
-/// Ends a command. `what()` is the whole message for the user, with the file and the place.
+/// Ends the work on a file. `what()` is the whole message for the user, with the file and the place.
 class ToolError : public std::runtime_error
 {
 public:

@@ -1,6 +1,5 @@
 #include "Values.h"
 
-#include "EffectForms.h"
 #include "PropertyTree/KindNames.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
@@ -41,9 +40,8 @@ bool IsSameScalar(const PropertyTreeScalar& a, const PropertyTreeScalar& b)
 
 bool IsMapStoredAs(const PropertyTree& given, const PropertyTree& stored)
 {
-    const PropertyTree full = WithDefaults(stored);
-    return std::ranges::all_of(given.getMap(), [&full](const auto& entry)
-                               { return full.contains(entry.first) && IsStoredAs(entry.second, full[entry.first]); });
+    return std::ranges::all_of(given.getMap(), [&stored](const auto& entry)
+                               { return stored.contains(entry.first) && IsStoredAs(entry.second, stored[entry.first]); });
 }
 
 } // namespace

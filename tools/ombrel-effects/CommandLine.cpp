@@ -1,0 +1,441 @@
+#include "CommandLine.h"
+
+#include "CheckCommand.h"
+#include "ClassCommands.h"
+#include "FormCommands.h"
+#include "Inputs.h"
+#include "Inspection/Nearest.h"
+#include "PropertyPath.h"
+#include "PropertyTreeJson/MessageText.h"
+#include "Runner.h"
+#include "ShowCommand.h"
+#include "ValueCommands.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstdlib>
+#include <functional>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include <unistd.h>
+
+namespace Ombrel::EffectsTool
+{
+namespace
+{
+
+constexpr const char* DESCRIPTION =
+    "Shows, checks and changes stored effects.\n\n"
+    "A FILE is JSON: one effect (a map) or a list of effects; \"-\" is the standard input. Where several files are taken, a "
+    "folder stands for every *.json below it.";
+
+constexpr const char* PATH_HELP =
+    "Path to a value: the effect's index from 0, a property, then map keys and list indices, joined by \"/\", such as "
+    "2/smartBlur/lumaRadius. If the file is a single effect, its index is left out. Within a key, ~1 is \"/\" and ~0 is \"~\"";
+
+constexpr const char* FOOTER =
+    "Exit codes, of which the highest counts:\n"
+    "  0  fine\n"
+    "  1  check found an error or a warning; a command would change or lose what it was not asked to\n"
+    "  2  wrong usage; a path, class id, key or name that does not exist\n"
+    "  3  a file cannot be read or written\n"
+    "  4  not JSON, or an effect that the command needs and cannot be read";
+
+constexpr const char* FORCE_HELP =
+    "Write the result even if something is changed or lost that was not asked for; the exit code stays 1";
+
+struct Arguments
+{
+    std::vector<std::string> files;
+    std::string file;
+    std::string path;
+    std::string value;
+    std::string name; // a class id or a part of one
+    std::string notesFolder;
+    std::string examplesFolder;
+    std::string outputFolder;
+    std::vector<std::string> ignoredCodes;
+    RunOptions run;
+    CheckSettings check;
+    bool isJson = false;
+    bool isRaw = false;
+    bool isChangedOnly = false;
+    bool isClosed = false;
+    bool areLines = false;
+    std::function<Report(Arguments&)> command;
+};
+
+/// The commands with their options, and the run of the one that is named.
+class CommandLine
+{
+public:
+    CommandLine();
+
+    int Run(int argc, char** argv);
+
+private:
+    using Command = std::function<Report(Arguments&)>;
+
+    CLI::App* Add(const char* name, const char* help, Command command);
+    void AddFiles(CLI::App* command, bool hasDocuments);
+    void AddFile(CLI::App* command, bool isWriting);
+    void AddReading(CLI::App* command);
+    void AddWriting(CLI::App* command);
+    void AddJson(CLI::App* command, const char* help);
+    void AddClassCommands();
+    void AddValueCommands();
+    void AddCheck();
+    void AddForms();
+    int Complain(const CLI::ParseError& error);
+    std::string NearestTo(const std::string& word) const;
+
+    CLI::App m_app;
+    Arguments m_arguments;
+};
+
+Report OnFile(Arguments& arguments, const Work& work)
+{
+    if (arguments.run.isInPlace && arguments.file == "-")
+    {
+        throw ToolError(ExitCode::Usage, "<stdin>: cannot be replaced, expected a file with --in-place");
+    }
+    Report report;
+    RunOnFiles({arguments.file}, arguments.run, work, report);
+    return report;
+}
+
+Report OnFiles(Arguments& arguments, bool hasDocuments, const Work& work)
+{
+    if (arguments.areLines && arguments.run.isInPlace)
+    {
+        throw ToolError(ExitCode::Usage, "--lines prints what becomes of each line, so that it excludes --in-place");
+    }
+    Report report;
+    const std::vector<std::string> files = FilesOf(arguments.files, report.complaints);
+    if (!report.complaints.empty())
+    {
+        report.Raise(ExitCode::File);
+    }
+    for (const std::string& file : files)
+    {
+        if (arguments.run.isInPlace && file == "-")
+        {
+            throw ToolError(ExitCode::Usage, "<stdin>: cannot be replaced, expected a file with --in-place");
+        }
+    }
+    if (arguments.areLines)
+    {
+        RunOnLines(files, arguments.run, hasDocuments, work, report);
+        return report;
+    }
+    if (hasDocuments && files.size() > 1 && !arguments.run.isInPlace)
+    {
+        throw ToolError(ExitCode::Usage, "several files need --in-place, since only one document can be printed");
+    }
+    RunOnFiles(files, arguments.run, work, report);
+    return report;
+}
+
+// With the number of files only where it is known.
+std::string SummaryOf(const Counts& counts)
+{
+    const auto text = [](std::size_t count, const char* name)
+    { return std::to_string(count) + " " + name + (count == 1 ? "" : "s"); };
+    return text(counts.errors, "error") + ", " + text(counts.warnings, "warning") + ", " + text(counts.notes, "note");
+}
+
+bool HasColours()
+{
+    const char* const noColour = std::getenv("NO_COLOR"); // NOLINT(concurrency-mt-unsafe): before any thread starts
+    const char* const terminal = std::getenv("TERM");     // NOLINT(concurrency-mt-unsafe)
+    return ::isatty(STDOUT_FILENO) != 0 && (!noColour || !*noColour) && terminal && std::string_view(terminal) != "dumb";
+}
+
+Report RunCheck(Arguments& arguments)
+{
+    CheckSettings& settings = arguments.check;
+    for (const std::string& text : arguments.ignoredCodes)
+    {
+        const auto code = CodeOf(text);
+        if (!code)
+        {
+            Inspection::NearestName nearest(text);
+            std::string all;
+            for (std::uint8_t number = 0; number <= static_cast<std::uint8_t>(Inspection::FindingCode::NoSchema); ++number)
+            {
+                const std::string known(TextOf(Inspection::FindingCode{number}));
+                nearest.Try(known);
+                all += (all.empty() ? "" : ", ") + known;
+            }
+            throw ToolError(ExitCode::Usage,
+                            text + ": no such code, " +
+                                (nearest.Get().empty() ? "expected one of " + all : "did you mean " + nearest.Get() + "?"));
+        }
+        settings.ignored.push_back(*code);
+    }
+    if (arguments.run.isInPlace && !settings.isFixing)
+    {
+        throw ToolError(ExitCode::Usage, "--in-place needs --fix");
+    }
+    settings.isJson = arguments.isJson;
+    settings.isColoured = HasColours();
+    Report report = OnFiles(arguments, settings.isFixing,
+                            [&settings](const Document& document) { return CheckDocument(document, settings); });
+    if (!arguments.run.isQuiet)
+    {
+        report.complaints.push_back(SummaryOf(report.counts) + (settings.isFixing ? " left" : ""));
+    }
+    return report;
+}
+
+CommandLine::CommandLine() : m_app(DESCRIPTION, "ombrel-effects")
+{
+    m_app.footer(FOOTER);
+    m_app.set_version_flag("--version", "ombrel-effects " OMBREL_EFFECTS_VERSION);
+    m_app.require_subcommand(1);
+    AddClassCommands();
+    AddValueCommands();
+    AddCheck();
+    AddForms();
+}
+
+CLI::App* CommandLine::Add(const char* name, const char* help, Command command)
+{
+    CLI::App* added = m_app.add_subcommand(name, help);
+    added->callback([this, command = std::move(command)] { m_arguments.command = command; });
+    return added;
+}
+
+void CommandLine::AddReading(CLI::App* command)
+{
+    command->add_flag("--non-finite", m_arguments.run.reading.nonFinite,
+                      "Read and write floats that are no finite numbers as the strings \"NaN\", \"Infinity\", \"-Infinity\"");
+    command->add_option("--max-bytes", m_arguments.run.reading.maxBytes, "Refuse a file, or with --lines a line, of more bytes")
+        ->capture_default_str();
+}
+
+void CommandLine::AddFile(CLI::App* command, bool isWriting)
+{
+    command->add_option("FILE", m_arguments.file, "JSON file, or - for the standard input")->required();
+    AddReading(command);
+    if (isWriting)
+    {
+        AddWriting(command);
+    }
+}
+
+void CommandLine::AddWriting(CLI::App* command)
+{
+    command->add_flag("--in-place", m_arguments.run.isInPlace, "Replace the file instead of printing, all or nothing");
+    command->add_flag("--force", m_arguments.run.isForced, FORCE_HELP);
+}
+
+void CommandLine::AddFiles(CLI::App* command, bool hasDocuments)
+{
+    command->add_option("FILE", m_arguments.files, "JSON files and folders, or - for the standard input")->required();
+    AddReading(command);
+    command->add_flag("--quiet", m_arguments.run.isQuiet, "No summary and no progress");
+    command->add_option("--jobs", m_arguments.run.jobs, "Work on so many files at once")->check(CLI::Range(1, 256));
+    command->add_flag("--lines", m_arguments.areLines,
+                      std::string("JSON Lines: each line is an effect, a list of effects, or {\"id\": ..., \"effects\": ...}") +
+                          (hasDocuments ? "; each becomes a line, and one that cannot be worked on stays as it is" : ""));
+}
+
+void CommandLine::AddJson(CLI::App* command, const char* help)
+{
+    command->add_flag("--json", m_arguments.isJson, help);
+}
+
+void CommandLine::AddClassCommands()
+{
+    CLI::App* list = Add("list", "List the effect classes: class, class id, inputs, registered or not",
+                         [](Arguments& arguments) { return ListClasses(arguments.name, arguments.isJson); });
+    list->add_option("PATTERN", m_arguments.name, "Those alone that have this in their name or id");
+    AddJson(list, "As a JSON list");
+
+    CLI::App* describe = Add("describe", "Describe a class: its keys, their kinds, defaults and names",
+                             [](Arguments& arguments) { return DescribeClass(arguments.name, arguments.isJson); });
+    describe->add_option("ID", m_arguments.name, "Class id, such as EFFECT_ACID")->required();
+    AddJson(describe, "As JSON");
+
+    CLI::App* schema = Add("schema", "Print a JSON Schema of stored effects, by which editors complete and check them",
+                           [](Arguments& arguments)
+                           { return WriteSchema(arguments.name, !arguments.isClosed, arguments.run.reading.nonFinite); });
+    schema->add_option("ID", m_arguments.name, "Of this class alone");
+    schema->add_flag("--closed", m_arguments.isClosed, "Refuse unknown keys");
+    schema->add_flag("--non-finite", m_arguments.run.reading.nonFinite,
+                     "Take the strings \"NaN\", \"Infinity\" and \"-Infinity\" where a float stands");
+
+    CLI::App* create = Add("new", "Print a default effect with all properties",
+                           [](Arguments& arguments) { return NewEffect(arguments.name, arguments.run.reading.nonFinite); });
+    create->add_option("ID", m_arguments.name, "Class id, such as EFFECT_ACID")->required();
+    create->add_flag("--non-finite", m_arguments.run.reading.nonFinite, "Write floats that are no finite numbers as strings");
+
+    CLI::App* reference =
+        Add("reference", "Write the reference of all effect classes as Markdown",
+            [](Arguments& arguments)
+            { return WriteReference(arguments.notesFolder, arguments.examplesFolder, arguments.outputFolder); });
+    reference
+        ->add_option("--notes", m_arguments.notesFolder,
+                     "Folder with the notes on each class: what it compares, when it is empty, its members without a key")
+        ->required();
+    reference
+        ->add_option("--examples", m_arguments.examplesFolder, "Folder with a stored effect of each class: <class id>.json")
+        ->required();
+    reference->add_option("--output", m_arguments.outputFolder, "Folder for the pages; created if it does not exist")
+        ->required();
+}
+
+void CommandLine::AddValueCommands()
+{
+    CLI::App* get = Add("get", "Print one value as JSON; with an index alone, the whole effect",
+                        [](Arguments& arguments)
+                        {
+                            return OnFile(arguments, [&arguments](const Document& document)
+                                          { return GetValue(document, ParsePath(arguments.path), arguments.isRaw); });
+                        });
+    AddFile(get, false);
+    get->add_option("PATH", m_arguments.path, PATH_HELP)->required();
+    get->add_flag("--raw", m_arguments.isRaw, "As it stands in the file, also where it cannot be read");
+
+    CLI::App* set = Add("set", "Change one value and keep all others",
+                        [](Arguments& arguments)
+                        {
+                            return OnFile(arguments, [&arguments](const Document& document)
+                                          { return SetValue(document, ParsePath(arguments.path), arguments.value); });
+                        });
+    AddFile(set, true);
+    set->add_option("PATH", m_arguments.path, PATH_HELP)->required();
+    set->add_option("VALUE", m_arguments.value,
+                    "A text without quotes, any other value as JSON. Write -- before a value that begins with \"-\" and is "
+                    "not a number")
+        ->required();
+
+    CLI::App* unset = Add("unset", "Take out one key, which then has its default",
+                          [](Arguments& arguments)
+                          {
+                              return OnFile(arguments, [&arguments](const Document& document)
+                                            { return UnsetValue(document, ParsePath(arguments.path)); });
+                          });
+    AddFile(unset, true);
+    unset->add_option("PATH", m_arguments.path, PATH_HELP)->required();
+}
+
+void CommandLine::AddCheck()
+{
+    CLI::App* check =
+        Add("check", "Say what is wrong with stored effects: FILE:LINE:COLUMN: error: PATH: message [code]", &RunCheck);
+    AddFiles(check, false);
+    AddJson(check, "A JSON object per finding, a line each");
+    check->add_flag("--strict", m_arguments.check.isStrict, "Notes end with exit code 1 too");
+    check->add_flag("--fix", m_arguments.check.isFixing,
+                    "Mend what can be mended and print the document; the findings go to the standard error");
+    check->add_option("--ignore", m_arguments.ignoredCodes, "Leave a code out, such as unknown-key; may be given several times")
+        ->allow_extra_args(false);
+    check->add_option("--max-findings", m_arguments.check.maxFindings, "End the check of a file with so many findings")
+        ->capture_default_str();
+    check->add_flag("--in-place", m_arguments.run.isInPlace, "With --fix: replace the files, each all or nothing");
+}
+
+void CommandLine::AddForms()
+{
+    CLI::App* show = Add("show", "Show effects with all properties; * marks what is not the default, ! what is wrong",
+                         [](Arguments& arguments)
+                         {
+                             const bool isJson = arguments.isJson;
+                             const bool isChangedOnly = arguments.isChangedOnly;
+                             return OnFiles(arguments, isJson,
+                                            [isJson, isChangedOnly](const Document& document)
+                                            { return isJson ? ShowAsJson(document) : ShowDocument(document, isChangedOnly); });
+                         });
+    AddFiles(show, false);
+    show->add_flag("--changed", m_arguments.isChangedOnly, "Without what has its default");
+    AddJson(show, "What is read, with every key, as JSON");
+
+    const auto addForm = [this](const char* name, const char* help, Report (*form)(const Document&))
+    {
+        CLI::App* command = Add(name, help, [form](Arguments& arguments) { return OnFiles(arguments, true, form); });
+        AddFiles(command, true);
+        AddWriting(command);
+    };
+    addForm("thin", "Print the effects without what has its default", &ThinDocument);
+    addForm("freeze", "Print the effects with every key, so that no later default can change them", &FreezeDocument);
+    addForm("normalise", "Print the effects as the library reads and writes them", &NormaliseDocument);
+}
+
+std::string CommandLine::NearestTo(const std::string& word) const
+{
+    Inspection::NearestName nearest(word);
+    const auto commands = m_app.get_subcommands();
+    if (commands.empty())
+    {
+        for (const CLI::App* command : m_app.get_subcommands([](const CLI::App*) { return true; }))
+        {
+            nearest.Try(command->get_name());
+        }
+        return nearest.Get();
+    }
+    std::vector<std::string> names; // to which the nearest may refer
+    for (const CLI::Option* option : commands.front()->get_options())
+    {
+        names.push_back(option->get_name());
+    }
+    for (const std::string& name : names)
+    {
+        nearest.Try(name);
+    }
+    return nearest.Get();
+}
+
+int CommandLine::Complain(const CLI::ParseError& error)
+{
+    std::ostringstream out;
+    std::ostringstream err;
+    const bool isFine = m_app.exit(error, out, err) == 0;
+    std::cout << out.str();
+    std::cerr << MessageText::PrintableLines(err.str());
+    for (const std::string& word : m_app.remaining(true))
+    {
+        if (const std::string nearest = NearestTo(word); !nearest.empty())
+        {
+            std::cerr << "Did you mean " << nearest << "?\n";
+        }
+    }
+    return static_cast<int>(isFine ? (std::cout.flush() ? ExitCode::Fine : ExitCode::File) : ExitCode::Usage);
+}
+
+int CommandLine::Run(int argc, char** argv)
+{
+    try
+    {
+        m_app.parse(argc, argv);
+    }
+    catch (const CLI::ParseError& error)
+    {
+        return Complain(error);
+    }
+    try
+    {
+        const Report report = m_arguments.command(m_arguments);
+        Print(report);
+        return static_cast<int>(report.code);
+    }
+    catch (const ToolError& error)
+    {
+        Report report;
+        report.Complain(error.code(), error.what());
+        Print(report);
+        return static_cast<int>(report.code);
+    }
+}
+
+} // namespace
+
+int RunCommandLine(int argc, char** argv)
+{
+    return CommandLine().Run(argc, argv);
+}
+
+} // namespace Ombrel::EffectsTool
