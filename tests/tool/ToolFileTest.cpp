@@ -1,6 +1,7 @@
 #include "ToolRunner.h"
 
 #include <filesystem>
+#include <thread>
 
 #include <sys/stat.h>
 
@@ -84,6 +85,22 @@ TEST_F(ToolInPlace, AFolderThatTakesNoFileLeavesTheFileAlone)
     EXPECT_EQ(SetRadius({.obeysFileModes = true}),
               (ToolResult{3, "", "f.json: cannot be replaced: no file can be created in its folder: Permission denied\n"}));
     ExpectUntouched();
+}
+
+TEST_F(ToolInPlace, TwoAtOnceLoseNoChange)
+{
+    for (int round = 0; round < 100; ++round)
+    {
+        Write("f.json", OLD);
+        ToolResult other{-1, {}, {}};
+        std::thread second([&] { other = Run({"set", "f.json", "sigma", "2", "--in-place"}); });
+        const ToolResult result = SetRadius();
+        second.join();
+        ASSERT_EQ(result, (ToolResult{0, "", ""}));
+        ASSERT_EQ(other, (ToolResult{0, "", ""}));
+        ASSERT_EQ(Content("f.json"), "{\n  \"name\": \"EFFECT_ACID\",\n  \"radius\": 7,\n  \"sigma\": 2.0\n}\n");
+    }
+    EXPECT_EQ(Files(), std::vector<std::string>{"f.json"});
 }
 
 TEST_F(ToolInPlace, WhatIsNoRegularFileStays)
