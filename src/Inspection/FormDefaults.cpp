@@ -172,20 +172,21 @@ const Members& FormDefaults::Of(const RecordSchema& schema)
 const Members* FormDefaults::Of(const EffectClass& effectClass)
 {
     const auto [entry, isNew] = m_effects.try_emplace(&effectClass);
+    std::optional<Members>& members = entry->second;
     if (isNew && IsOwn(effectClass))
     {
-        entry->second = MembersOf(effectClass, m_bases.front());
+        members = MembersOf(effectClass, m_bases.front());
     }
     else if (isNew)
     {
         Succeeds(
             [&]
             {
-                entry->second = MembersOfCallers(effectClass);
+                members = MembersOfCallers(effectClass);
                 return true;
             });
     }
-    return entry->second ? &*entry->second : nullptr;
+    return members ? &*members : nullptr;
 }
 
 Members FormDefaults::MembersOf(const EffectClass& effectClass, const BaseDefaults& base)
