@@ -39,7 +39,7 @@ namespace Ombrel::Inspection
 OMBREL_API PropertyTree Thin(PropertyTree effectOrList);
 
 /// Puts in every key at every depth, "implName" and "helperSettings" too, so that defaults of a later version change nothing.
-/// The entries of lists stay as many as they are.
+/// The elements of lists, sets and colour maps stay as many as they are.
 /// @throws std::bad_alloc and nothing else, whatever the tree holds
 OMBREL_API PropertyTree Freeze(PropertyTree effectOrList);
 
@@ -47,7 +47,8 @@ OMBREL_API PropertyTree Freeze(PropertyTree effectOrList);
 /// the list. One that cannot be read or written stays as it stands as a whole: without an effect that stands in it, it would be
 /// another effect.
 ///
-/// What is read again is equal where `Check` has neither `ChangesOnWrite` nor `LostByCopy`.
+/// What is read again is equal where `Check` has neither `ChangesOnWrite` nor `LostByCopy`, and no number that is cut,
+/// truncated or narrowed has a value that is computed from it.
 /// @throws std::bad_alloc and nothing else, whatever the tree holds
 OMBREL_API PropertyTree Normalise(PropertyTree effectOrList);
 

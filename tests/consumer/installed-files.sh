@@ -26,7 +26,9 @@ Inspection/Attempt.h
 Inspection/CheckContext.h
 Inspection/EffectCheck.h
 Inspection/Findings.h
+Inspection/FormDefaults.h
 Inspection/KeylessMembers.h
+Inspection/KnownClass.h
 Inspection/KnownKeys.h
 Inspection/Place.h
 Inspection/RecordInfo.h
