@@ -20,9 +20,8 @@
 // - A value for which `Check` has an error, or a warning other than `ChangesOnWrite`. A value that is written otherwise only
 //   because it is computed, such as a radius that is scaled by an intensity, is read as any other, so its stored value counts:
 //   one that is its default can be left out.
-// - An effect that is unknown, not registered, without a schema or nested too deep, and one whose class cannot be made, with
-// all
-//   that stands in it.
+// - An effect that is unknown, not registered, without a schema or nested too deep, and one that its class cannot make, with
+//   all that stands in it.
 // - A key whose default has no stored form: the number of an enumeration that has no name, an effect, or a default that the
 //   setter or codec of a caller's class does not take. It is not added either.
 //
