@@ -160,13 +160,26 @@ void EffectCheck::CheckEffect(const Map& map)
         CheckKeys(map, 0);
         return;
     }
+    m_info = &m_context.infos.Of(*m_schema);
     const Children children(*m_schema, map);
-    if ((!isOwn || MustTry(children)) && !Make())
+    // Where a caller's class refuses, it is asked before; the library's own only where the kinds of the values do not tell all.
+    if (!isOwn && !Make())
     {
         return;
     }
-    CheckBaseMembers(map);
+    if (children.Count() + 1 == map.size())
+    {
+        m_baseMembers = 1; // the name
+    }
+    else
+    {
+        CheckBaseMembers(map);
+    }
     CheckFields(children, isOwn);
+    if (isOwn && MustTry(children) && Make())
+    {
+        ReadOwn(children);
+    }
     if (m_schema == &PhotoCore::TileSettings::Schema())
     {
         CheckRows(map);
@@ -176,18 +189,55 @@ void EffectCheck::CheckEffect(const Map& map)
     Try(FindingCode::ChangesOnWrite, *m_node.place, nullptr, [&] { CompareWithWritten(map, children); });
 }
 
+// Whether the effect is written as it stands, which is the rule: then there is nothing to look for.
+bool EffectCheck::IsSameBesideBaseMembers(const Map& map, const Map& written) const
+{
+    if (!m_findings.IsEmpty() || map.size() != written.size() + m_baseMembers)
+    {
+        return false;
+    }
+    auto next = written.begin();
+    for (const auto& [key, child] : map)
+    {
+        if (next != written.end() && next->first == key)
+        {
+            if (next->second != child)
+            {
+                return false;
+            }
+            ++next;
+        }
+    }
+    return next == written.end();
+}
+
 // Whether only reading and writing tell what they do.
 bool EffectCheck::MustTry(const Children& children)
 {
-    const RecordInfo& info = m_context.infos.Of(*m_schema);
-    for (std::size_t index = 0; index != m_schema->fields.size() && !info.hasSetters; ++index)
+    if (m_info->hasSetters)
     {
-        if (children[index] && !info.isPlain[index])
+        return true;
+    }
+    for (std::size_t index = 0; index != m_schema->fields.size(); ++index)
+    {
+        if (children[index] && !m_info->isPlain[index] &&
+            !(m_info->isSimpleList[index] && IsSimpleList(*children[index], index)))
         {
             return true;
         }
     }
-    return info.hasSetters;
+    return false;
+}
+
+// A list that is not empty differs from a default that is, so it is written.
+bool EffectCheck::IsSimpleList(const PropertyTree& value, std::size_t index)
+{
+    if (!m_findings.IsEmpty() || !value.isList() || value.getList().empty())
+    {
+        return false;
+    }
+    const PropertyTree& byDefault = m_context.infos.DefaultsOf(*m_schema)[index];
+    return byDefault.isList() && byDefault.getList().empty();
 }
 
 // Keys that neither the effect nor its record has; `known` are of the record.
@@ -276,8 +326,7 @@ void EffectCheck::EndBaseMember(const PropertyTree& value, bool isDefault, bool 
 // once.
 void EffectCheck::CheckFields(const Children& children, bool isOwn)
 {
-    const std::vector<bool>& holdsEffects = m_context.infos.Of(*m_schema).holdsEffects;
-    bool isWhole = true;
+    const std::vector<bool>& holdsEffects = m_info->holdsEffects;
     for (std::size_t index = 0; index != m_schema->fields.size(); ++index)
     {
         if (!children[index])
@@ -288,18 +337,18 @@ void EffectCheck::CheckFields(const Children& children, bool isOwn)
         const Place place{.parent = m_node.place, .key = field.key};
         const std::size_t before = m_findings.Items().size();
         m_values.Check(*children[index], *field.value, place);
-        isWhole = isWhole && !holdsEffects[index];
         if (!isOwn && !m_findings.HasError(*children[index]))
         {
             const bool isWholeField = m_findings.Items().size() == before && !holdsEffects[index];
             Try(FindingCode::Refused, place, children[index], [&] { ReadField(index, *children[index], isWholeField); });
         }
     }
-    if (!isOwn || !m_object)
-    {
-        return;
-    }
-    if (isWhole && m_findings.Items().empty())
+}
+
+// What the library's own setters do with values is tried at once, since they refuse none.
+void EffectCheck::ReadOwn(const Children& children)
+{
+    if (m_findings.IsEmpty()) // and no effect stands in it either
     {
         m_schema->read(m_object, m_node.tree->getMap(), &READ);
         return;
@@ -354,8 +403,11 @@ void EffectCheck::CompareWithWritten(const Map& map, const Children& children)
     {
         PropertyTree written;
         m_schema->write(m_object, written.makeMap(), &WRITE, 0);
-        m_comparison.CompareMembers(map, written.getMap(), *m_schema, *m_node.place);
-        FindMends(map);
+        if (!IsSameBesideBaseMembers(map, written.getMap()))
+        {
+            m_comparison.CompareMembers(map, written.getMap(), *m_schema, *m_node.place);
+            FindMends(map);
+        }
         return;
     }
     for (std::size_t index = 0; index != m_schema->fields.size(); ++index)
@@ -366,9 +418,14 @@ void EffectCheck::CompareWithWritten(const Map& map, const Children& children)
         }
         const FieldSchema& field = m_schema->fields[index];
         const PropertyTree& byDefault = m_context.infos.DefaultsOf(*m_schema)[index];
+        const Place place{.parent = m_node.place, .key = field.key};
         if (AreSame(m_comparison.ReadAs(*children[index]), byDefault))
         {
-            m_comparison.Omitted(*children[index], byDefault, *field.value, Place{.parent = m_node.place, .key = field.key});
+            m_comparison.Omitted(*children[index], byDefault, *field.value, place);
+        }
+        else if (!m_info->isPlain[index])
+        {
+            m_comparison.OmittedInElements(*children[index], *field.value, place);
         }
     }
 }

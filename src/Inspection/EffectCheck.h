@@ -32,7 +32,10 @@ private:
 
     bool FindClass(const Map& map);
     void CheckEffect(const Map& map);
+    bool IsSameBesideBaseMembers(const Map& map, const Map& written) const;
     bool MustTry(const Children& children);
+    bool IsSimpleList(const PropertyTree& value, std::size_t index);
+    void ReadOwn(const Children& children);
     bool Make();
     template <class Action> bool Try(FindingCode code, const Place& place, const PropertyTree* at, Action action);
     void CheckBaseMembers(const Map& map);
@@ -52,6 +55,8 @@ private:
     WrittenComparison m_comparison;
     const PhotoCore::EffectClass* m_class = nullptr;
     const Proc::RecordSchema* m_schema = nullptr; // of the class; null if it has no keys of its own
+
+    const RecordInfo* m_info = nullptr; // of the schema
 
     // Where only reading and writing tell what they do: an effect that is read, without the effects in it.
     std::shared_ptr<PhotoCore::IEffectSettings> m_effect;

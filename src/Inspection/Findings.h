@@ -43,6 +43,7 @@ public:
     bool IsLeftOut(const PropertyTree& value);
     static bool IsLeftOut(const Finding& finding) noexcept;
 
+    bool IsEmpty() const noexcept { return m_items.empty(); }
     std::size_t ErrorCount() const noexcept { return m_errors; }
 
     std::vector<std::unique_ptr<Item>>& Items() noexcept { return m_items; }

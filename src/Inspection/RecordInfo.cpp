@@ -25,11 +25,31 @@ RecordInfo& RecordInfos::InfoOf(const Proc::RecordSchema& schema)
         info.hasSetters = info.hasSetters || !isMember;
     }
     info.holdsEffects.resize(schema.fields.size());
+    std::vector<bool> isSimpleList;
     for (std::size_t index = 0; index != schema.fields.size(); ++index)
     {
         info.holdsEffects[index] = HoldsEffects(*schema.fields[index].value);
+        isSimpleList.push_back(IsSimpleList(*schema.fields[index].value));
     }
+    info.isSimpleList = std::move(isSimpleList); // until then no field is simple, not even one that holds the record
     return info;
+}
+
+// Each element is written, so only the fields of its records may be left out, each where it is its default.
+bool RecordInfos::IsSimpleList(const Proc::ValueSchema& schema)
+{
+    if (schema.kind != ValueKind::List && schema.kind != ValueKind::Set && schema.kind != ValueKind::ColorMap)
+    {
+        return false;
+    }
+    if (schema.element->kind != ValueKind::Record)
+    {
+        return schema.element->kind <= ValueKind::Color || IsSimpleList(*schema.element);
+    }
+    const RecordInfo& element = InfoOf(schema.element->record());
+    return schema.element->record().name != "pair" && // which is written whole
+           !element.hasSetters && element.isPlain.size() == schema.element->record().fields.size() &&
+           std::ranges::count(element.isPlain, false) == 0;
 }
 
 const RecordInfo& RecordInfos::Of(const Proc::RecordSchema& schema)

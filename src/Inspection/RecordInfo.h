@@ -17,6 +17,7 @@ namespace Ombrel::Inspection
 struct RecordInfo
 {
     std::vector<bool> isPlain;          // by field: the kind of the value says all that reading and writing does
+    std::vector<bool> isSimpleList;     // by field: so do those of its elements, if the list is not empty
     std::vector<bool> holdsEffects;     // by field
     bool hasSetters = false;            // whether a field is more than a member
     std::vector<PropertyTree> defaults; // by field, once they have been asked for
@@ -35,6 +36,7 @@ public:
 
 private:
     RecordInfo& InfoOf(const Proc::RecordSchema& schema);
+    bool IsSimpleList(const Proc::ValueSchema& schema);
 
     std::unordered_map<const Proc::RecordSchema*, RecordInfo> m_infos; // which stay where they are
 };

@@ -82,6 +82,34 @@ void WrittenComparison::CompareMembers(const Map& given, const Map& written, con
     }
 }
 
+void WrittenComparison::OmittedInElements(const PropertyTree& list, const ValueSchema& schema, const Place& place)
+{
+    if (schema.kind == ValueKind::ColorMap || schema.element->kind <= ValueKind::Color)
+    {
+        return;
+    }
+    for (std::size_t index = 0; index != list.getList().size(); ++index)
+    {
+        const PropertyTree& element = list.getList()[index];
+        const Place at{.parent = &place, .key = {}, .index = index};
+        if (schema.element->kind != ValueKind::Record)
+        {
+            OmittedInElements(element, *schema.element, at);
+            continue;
+        }
+        const RecordSchema& record = schema.element->record();
+        const std::vector<PropertyTree>& defaults = m_context.infos.DefaultsOf(record);
+        for (const auto& [key, child] : element.getMap())
+        {
+            const std::size_t field = *Proc::FindField(record, key);
+            if (AreSame(child, defaults[field]))
+            {
+                Omitted(child, defaults[field], *record.fields[field].value, Place{.parent = &at, .key = key});
+            }
+        }
+    }
+}
+
 void WrittenComparison::Compare(const PropertyTree& given, const PropertyTree& written, const ValueSchema& schema,
                                 const Place& place)
 {

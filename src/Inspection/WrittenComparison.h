@@ -26,6 +26,9 @@ public:
     /// A value is not written again. `byDefault` is its default.
     void Omitted(const PropertyTree& given, const PropertyTree& byDefault, const Proc::ValueSchema& schema, const Place& place);
 
+    /// The elements of a simple list are written again, but for fields of theirs that have their defaults.
+    void OmittedInElements(const PropertyTree& list, const Proc::ValueSchema& schema, const Place& place);
+
     /// What the value becomes when it is read, as far as its kind tells.
     const PropertyTree& ReadAs(const PropertyTree& given);
 
