@@ -19,7 +19,7 @@ struct CheckSettings
     bool isFixing = false; // the document is mended, and the findings are complaints
     bool isJson = false;
     bool isColoured = false;
-    std::size_t maxFindings = 10000;
+    std::size_t maxFindings = 1000;
     std::vector<Inspection::FindingCode> ignored;
 };
 

@@ -14,7 +14,6 @@ namespace
 
 using Inspection::EffectDescription;
 using Inspection::FieldDescription;
-using Inspection::KeylessMember;
 using Inspection::ValueDescription;
 
 const char* TextOf(PhotoCore::IEffectSettings::InputType inputs)
@@ -61,10 +60,10 @@ std::string LinesOf(const std::vector<FieldDescription>& fields)
     return text;
 }
 
-std::string LinesOf(const std::vector<KeylessMember>& members)
+std::string LinesOf(const std::vector<Inspection::KeylessMember>& members)
 {
     std::string text;
-    for (const KeylessMember& member : members)
+    for (const Inspection::KeylessMember& member : members)
     {
         text += "  " + member.member + ": " + member.type + " = " + member.defaultValue +
                 (member.isCompared ? "" : ", not compared") + ", never stored\n";
@@ -128,11 +127,11 @@ PropertyTree JsonOf(const std::vector<FieldDescription>& fields)
     return list;
 }
 
-PropertyTree JsonOf(const std::vector<KeylessMember>& members)
+PropertyTree JsonOf(const std::vector<Inspection::KeylessMember>& members)
 {
     PropertyTree list;
     list.convertToList();
-    for (const KeylessMember& member : members)
+    for (const Inspection::KeylessMember& member : members)
     {
         PropertyTree json;
         json["member"] = member.member;
