@@ -87,9 +87,9 @@ if(TARGET ombrel_EffectInspection)
   ombrel_install_library(EffectInspection
     DESCRIPTION "What stored effects hold, and what is wrong with them"
     FOLDERS Inspection
-    PRIVATE_HEADERS Attempt.h CheckContext.h EffectCheck.h Findings.h FormDefaults.h KeylessMembers.h KnownClass.h
-                    KnownKeys.h Place.h RecordInfo.h SchemaParts.h Trials.h Usable.h ValueCheck.h Values.h
-                    WrittenComparison.h
+    PRIVATE_HEADERS Attempt.h CheckContext.h EffectCheck.h EffectMerge.h Findings.h Fingerprints.h FormDefaults.h
+                    KeylessMembers.h KnownClass.h KnownKeys.h ListAlignment.h Place.h RecordInfo.h RefusedEffects.h
+                    SchemaParts.h Trials.h Usable.h ValueCheck.h Values.h WrittenComparison.h
     REQUIRES ombrel-effect-settings)
 endif()
 if(TARGET ombrel-effects) # its own rule installs it

@@ -25,13 +25,17 @@ private_headers="
 Inspection/Attempt.h
 Inspection/CheckContext.h
 Inspection/EffectCheck.h
+Inspection/EffectMerge.h
 Inspection/Findings.h
+Inspection/Fingerprints.h
 Inspection/FormDefaults.h
 Inspection/KeylessMembers.h
 Inspection/KnownClass.h
 Inspection/KnownKeys.h
+Inspection/ListAlignment.h
 Inspection/Place.h
 Inspection/RecordInfo.h
+Inspection/RefusedEffects.h
 Inspection/SchemaParts.h
 Inspection/Trials.h
 Inspection/Usable.h

@@ -1,0 +1,186 @@
+#include "Mutation.h"
+#include "StoredComparison.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+#include <iostream>
+#include <string_view>
+
+// compare-stored COUNT SEED: COUNT random trees of all classes, which are the same for the same SEED, loaded, changed and
+// saved.
+namespace
+{
+
+using Ombrel::PropertyTree;
+
+unsigned NumberOf(std::string_view text)
+{
+    unsigned number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+// What a newer version or another program may have stored: other classes, other keys.
+void AddUnknown(PropertyTree& tree, Fuzz::Mutation& mutation)
+{
+    if (tree.isList())
+    {
+        for (PropertyTree& element : tree.getList())
+        {
+            AddUnknown(element, mutation);
+        }
+    }
+    else if (tree.isMap())
+    {
+        for (auto& [key, child] : tree.getMap())
+        {
+            AddUnknown(child, mutation);
+        }
+        if (tree.contains("name") && mutation.IsOneIn(12))
+        {
+            tree["name"] = "EFFECT_OF_TOMORROW";
+        }
+        if (mutation.IsOneIn(8))
+        {
+            tree["later"]["x"] = static_cast<int>(mutation.Below(1000));
+        }
+    }
+}
+
+// Puts effects into one that holds effects.
+PropertyTree Around(PropertyTree::List inner, Fuzz::Mutation& mutation)
+{
+    PropertyTree outer;
+    PropertyTree list;
+    list.makeList() = std::move(inner);
+    switch (mutation.Below(4))
+    {
+    case 0:
+        outer["name"] = "effectSettingsTileStub";
+        outer[mutation.IsOneIn(2) ? "pre" : "post"] = std::move(list);
+        break;
+    case 1:
+        outer["name"] = "effectSettingsTileStub";
+        for (PropertyTree& effect : list.getList())
+        {
+            PropertyTree cell;
+            cell.append(std::move(effect));
+            outer["effectRows"].append({});
+            outer["effectRows"].getList().back()["cols"].append(std::move(cell));
+        }
+        break;
+    case 2:
+        outer["name"] = "EffectsPackageOneInputWithBrush";
+        outer[mutation.IsOneIn(2) ? "foregroundEffects" : "backgroundEffects"] = std::move(list);
+        break;
+    default:
+        outer["name"] = "SettingsEffectFacePackage";
+        for (PropertyTree& effect : list.getList())
+        {
+            outer["facesEffects"].append({});
+            outer["facesEffects"].getList().back()["effect"] = std::move(effect);
+        }
+    }
+    return outer;
+}
+
+// Effects that were seen, in effects, up to five levels deep.
+PropertyTree Nested(const PropertyTree::List& seen, Fuzz::Mutation& mutation)
+{
+    PropertyTree tree = seen[mutation.Below(seen.size())];
+    for (std::size_t level = mutation.Below(6); level != 0; --level)
+    {
+        PropertyTree::List inner{std::move(tree)};
+        for (std::size_t count = mutation.Below(4); count != 0; --count)
+        {
+            inner.push_back(seen[mutation.Below(seen.size())]);
+        }
+        std::rotate(inner.begin(), inner.begin() + static_cast<std::ptrdiff_t>(mutation.Below(inner.size())), inner.end());
+        tree = Around(std::move(inner), mutation);
+    }
+    return tree;
+}
+
+// Changes a few of the effects at any depth.
+void ChangeSome(PropertyTree& tree, Fuzz::Mutation& mutation)
+{
+    if (tree.isList())
+    {
+        for (PropertyTree& element : tree.getList())
+        {
+            ChangeSome(element, mutation);
+        }
+    }
+    else if (tree.isMap())
+    {
+        for (auto& [key, child] : tree.getMap())
+        {
+            ChangeSome(child, mutation);
+        }
+        if (tree.contains("name") && mutation.IsOneIn(4))
+        {
+            mutation.ChangeInput(tree);
+        }
+    }
+}
+
+// Takes elements out of lists and gives them other places.
+void ChangeLists(PropertyTree& tree, Fuzz::Mutation& mutation)
+{
+    if (tree.isList())
+    {
+        PropertyTree::List& list = tree.getList();
+        for (PropertyTree& element : list)
+        {
+            ChangeLists(element, mutation);
+        }
+        if (!list.empty() && mutation.IsOneIn(4))
+        {
+            list.erase(list.begin() + static_cast<std::ptrdiff_t>(mutation.Below(list.size())));
+        }
+        if (!list.empty() && mutation.IsOneIn(4))
+        {
+            std::rotate(list.begin(), list.begin() + static_cast<std::ptrdiff_t>(mutation.Below(list.size())), list.end());
+        }
+    }
+    else if (tree.isMap())
+    {
+        for (auto& [key, child] : tree.getMap())
+        {
+            ChangeLists(child, mutation);
+        }
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 3)
+    {
+        std::cerr << "usage: compare-stored COUNT SEED\n";
+        return EXIT_FAILURE;
+    }
+    Fuzz::Mutation mutation(NumberOf(argv[2]));
+    PropertyTree::List seen;
+    for (unsigned left = NumberOf(argv[1]); left != 0;)
+    {
+        PropertyTree tree;
+        for (std::size_t changes = 1 + mutation.Below(12); changes != 0 && left != 0; --changes, --left)
+        {
+            mutation.ChangeInput(tree);
+            seen.resize(std::min<std::size_t>(seen.size() + 1, 100));
+            seen[mutation.Below(seen.size())] = tree.isList() ? tree.getList().back() : tree;
+            PropertyTree given = mutation.IsOneIn(2) ? tree : Nested(seen, mutation);
+            AddUnknown(given, mutation);
+            PropertyTree other = given;
+            ChangeSome(other, mutation);
+            if (mutation.IsOneIn(2))
+            {
+                ChangeLists(other, mutation);
+            }
+            Fuzz::CompareStored(given, other);
+        }
+    }
+}
