@@ -6,6 +6,9 @@
 #include "Inspection/Check.h"
 #include "Inspection/StoredEffects.h"
 #include "Proc/EffectSettings/EffectSettings.h"
+#include "Proc/EffectSettings/EffectsPackageWithBrushSettings.h"
+#include "Proc/EffectSettings/FacePackageSettings.h"
+#include "Proc/EffectSettings/TileSettings.h"
 #include "Proc/Settings/StoredKeys.h"
 #include "PropertyTree/PropertyTreeOutput.h"
 
@@ -251,6 +254,123 @@ void CompareChanged(const PropertyTree& given, const PropertyTree& saved, const 
     }
 }
 
+// One property is set to what it is in another effect of the class.
+void CompareOneProperty(StoredEffects& stored, std::size_t index, const IEffectSettings& other)
+{
+    const auto access = stored.Effect(index)->GetPropertyAccess();
+    const auto otherAccess = other.GetPropertyAccess();
+    const std::vector<std::string> keys = access ? access->ListProperties() : std::vector<std::string>();
+    const std::string* changed = nullptr;
+    for (const std::string& key : keys)
+    {
+        if (!changed && ExactText(access->GetProperty(key)) != ExactText(otherAccess->GetProperty(key)))
+        {
+            changed = &key;
+        }
+    }
+    if (!changed)
+    {
+        return;
+    }
+    PropertyTree before;
+    EffectSettings::SerializePtr(before, stored.Effect(index));
+    if (FailureOf([&] { access->SetProperty(*changed, otherAccess->GetProperty(*changed)); }))
+    {
+        return;
+    }
+    PropertyTree now;
+    EffectSettings::SerializePtr(now, stored.Effect(index));
+    CompareChanged(stored.Loaded(index), stored.Save(index), before, now);
+}
+
+// The effects in an effect.
+void AddEffects(IEffectSettings& effect, std::vector<IEffectSettings*>& effects);
+
+template <class List> void AddEffectsOf(const List& list, std::vector<IEffectSettings*>& effects)
+{
+    for (const auto& effect : list)
+    {
+        if (effect)
+        {
+            AddEffects(const_cast<IEffectSettings&>(*effect), effects); // of a brush package, which shares what it was given
+        }
+    }
+}
+
+void AddEffects(IEffectSettings& effect, std::vector<IEffectSettings*>& effects)
+{
+    effects.push_back(&effect);
+    if (auto* tile = dynamic_cast<PhotoCore::TileSettings*>(&effect))
+    {
+        AddEffectsOf(tile->Pre(), effects);
+        AddEffectsOf(tile->Post(), effects);
+    }
+    else if (auto* brush = dynamic_cast<PhotoCore::EffectsPackageWithBrushSettings*>(&effect))
+    {
+        AddEffectsOf(brush->GetTypedSettings().GetForegroundEffects(), effects);
+        AddEffectsOf(brush->GetTypedSettings().GetBackgroundEffects(), effects);
+    }
+    else if (auto* faces = dynamic_cast<PhotoCore::FacePackageSettings*>(&effect))
+    {
+        for (const auto& face : faces->GetTypedSettings().GetFaces())
+        {
+            AddEffectsOf(std::vector{face.effect}, effects);
+        }
+    }
+}
+
+void TakeOutUndoSet(PropertyTree& tree)
+{
+    if (tree.isList())
+    {
+        std::ranges::for_each(tree.getList(), &TakeOutUndoSet);
+    }
+    else if (tree.isMap())
+    {
+        for (auto& [key, child] : tree.getMap())
+        {
+            TakeOutUndoSet(child);
+        }
+        if (tree.contains("helperSettings") && tree["helperSettings"].isMap())
+        {
+            tree["helperSettings"].getMap().erase("undoSet");
+            if (tree["helperSettings"].getMap().empty())
+            {
+                tree.getMap().erase("helperSettings");
+            }
+        }
+    }
+}
+
+std::string TextWithoutUndoSet(PropertyTree tree)
+{
+    TakeOutUndoSet(tree);
+    return ExactText(tree);
+}
+
+// One value of an effect at any depth is changed: no other value changes, known or not.
+void CompareOneInside(const PropertyTree& tree)
+{
+    StoredEffects stored;
+    stored.Load(tree);
+    std::vector<IEffectSettings*> effects;
+    AddEffectsOf(stored.Effects(), effects);
+    const bool isLost =
+        std::ranges::any_of(stored.Findings(), [](const Finding& finding) { return finding.code == FindingCode::LostByCopy; });
+    const std::size_t step = 1 + effects.size() / 20; // of a few, since each is saved with all the others
+    for (std::size_t index = 0; index < effects.size(); index += step)
+    {
+        IEffectSettings* const effect = effects[index];
+        const bool undoSet = effect->GetHelperSettings().GetUndoSet();
+        effect->HelperSetting().SetUndoSet(!undoSet);
+        const PropertyTree saved = stored.Save();
+        const std::string shown = TextOf(tree) + "\n" + TextOf(saved);
+        Require(isLost || ExactText(saved) != ExactText(tree), "a change is not saved", shown);
+        Require(TextWithoutUndoSet(saved) == TextWithoutUndoSet(tree), "another value is changed", shown);
+        effect->HelperSetting().SetUndoSet(undoSet);
+    }
+}
+
 } // namespace
 
 void CompareStored(const PropertyTree& tree, const PropertyTree& other)
@@ -261,6 +381,7 @@ void CompareStored(const PropertyTree& tree, const PropertyTree& other)
             TextOf(tree) + "\n" + TextOf(stored.Save()));
     CompareLoaded(stored, tree);
     CompareStrict(tree, stored);
+    CompareOneInside(tree);
 
     StoredEffects changes;
     changes.Load(other);
@@ -273,6 +394,7 @@ void CompareStored(const PropertyTree& tree, const PropertyTree& other)
         }
         PropertyTree before;
         EffectSettings::SerializePtr(before, stored.Effect(index));
+        CompareOneProperty(stored, index, *changes.Effect(index));
         PropertyTree now;
         EffectSettings::SerializePtr(now, changes.Effect(index));
         stored.Replace(index, changes.Effect(index));
