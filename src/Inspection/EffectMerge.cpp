@@ -113,41 +113,34 @@ EffectMerge::Outcome EffectMerge::OutcomeOfEffect(const Value& value) const
     }
     const PropertyTree* was = ChildOf(before, StoredKeys::NAME);
     const PropertyTree* is = ChildOf(now, StoredKeys::NAME);
-    return IsThereAsMap(loaded) && !m_kept.contains(loaded) && was && is && AreSame(*was, *is) ? Outcome::Inside : Outcome::Now;
+    return IsThereAsMap(loaded) && was && is && AreSame(*was, *is) ? Outcome::Inside : Outcome::Now;
 }
 
-// Whether a value that is no longer written holds what must stay: in the elements of a list all has gone with them.
+// Whether a value that is no longer written holds what was not written before either, and so stays. In the elements of a list
+// all has gone with them.
 bool EffectMerge::HasKept(const Value& value) const
 {
-    struct Part
-    {
-        const PropertyTree* tree;
-        const ValueSchema* schema;
-    };
-    std::vector<Part> pending{{value.loaded, value.schema}};
+    std::vector<Value> pending{value};
     while (!pending.empty())
     {
-        const Part part = pending.back();
+        const Value part = pending.back();
         pending.pop_back();
-        if (part.schema->kind == ValueKind::Effect && m_kept.contains(part.tree))
-        {
-            return true;
-        }
-        if (part.schema->kind == ValueKind::Record && part.tree->isMap())
+        if (part.schema->kind == ValueKind::Record && IsThereAsMap(part.loaded))
         {
             const RecordSchema& record = part.schema->record();
-            for (const auto& [key, child] : part.tree->getMap())
+            for (const auto& [key, child] : part.loaded->getMap())
             {
                 const auto field = Proc::FindField(record, key);
-                if (!field)
+                const PropertyTree* before = ChildOf(part.before, key);
+                if (!field || !before)
                 {
                     return true;
                 }
-                pending.push_back({&child, record.fields[*field].value});
+                pending.push_back({.loaded = &child, .before = before, .schema = record.fields[*field].value});
             }
         }
-        else if (part.schema->element && part.schema->element->kind == ValueKind::Effect && part.tree->isList() &&
-                 std::ranges::any_of(part.tree->getList(),
+        else if (part.schema->element && IsThereAsList(part.loaded) &&
+                 std::ranges::any_of(part.loaded->getList(),
                                      [this](const PropertyTree& element) { return m_kept.contains(&element); }))
         {
             return true;

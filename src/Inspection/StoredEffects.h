@@ -34,8 +34,9 @@ namespace Ombrel::Inspection
 /// tree.
 ///   All else stays as it stood: other keys, unknown keys, and values that a read and a write change, such as a computed radius
 ///   or a colour in capitals. Numbers are compared by value: 5 is 5.0, -0.0 is 0.0, a NaN is a NaN.
-/// - A key goes when the effect no longer writes it, since its value is then the default. A nested record that holds an unknown
-///   key stays, with its default values, for the sake of that key.
+/// - A key goes when the effect no longer writes it, since its value is then the default. A nested record stays, with its
+/// default
+///   values, where it also holds what the effect did not write before, such as an unknown key.
 /// - The elements of a list are found again by what they hold, wherever they moved; a changed effect by its class id and by
 /// what
 ///   it still holds. Effects that are kept as trees, and the unknown keys of the elements, stay although the list was replaced

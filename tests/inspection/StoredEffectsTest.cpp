@@ -199,6 +199,14 @@ TEST(StoredEffects, PutsAComputedRadiusBackAsItStood)
               R"({"helperSettings":{"undoSet":true},"intensity":0.5,"name":"EFFECT_OIL_PAINT","radius":10,"x":1})");
 }
 
+TEST(StoredEffects, KeepsDefaultsThatStandBesideAChange)
+{
+    const StoredEffects stored =
+        Loaded(R"({"helperSettings":{"applyMode":[],"maxWidth":-1,"undoSet":true},"name":"EFFECT_ACID"})");
+    stored.Effect(0)->HelperSetting().SetUndoSet(false);
+    EXPECT_EQ(Saved(stored), R"({"helperSettings":{"applyMode":[],"maxWidth":-1},"name":"EFFECT_ACID"})");
+}
+
 TEST(StoredEffects, MergesHelperSettings)
 {
     const StoredEffects stored = Loaded(R"({"helperSettings":{"applyMode":["ApplyStop"],"later":1},"name":"EFFECT_ACID"})");
