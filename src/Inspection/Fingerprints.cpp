@@ -1,5 +1,6 @@
 #include "Inspection/Fingerprints.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <functional>
@@ -29,6 +30,42 @@ std::uint64_t OfNumber(const PropertyTreeScalar& scalar)
 {
     const double number = scalar.toDouble();
     return std::isnan(number) ? MARK_NAN : Fingerprints::Joined(MARK_NUMBER, std::hash<double>()(number));
+}
+
+std::uint64_t OfScalar(const PropertyTreeScalar& scalar)
+{
+    bool isTrue = false;
+    switch (scalar.kind())
+    {
+    case Kind::Bool:
+        scalar.convertTo(isTrue);
+        return isTrue ? MARK_TRUE : MARK_FALSE;
+    case Kind::String:
+        return Fingerprints::OfText(scalar.toString());
+    default:
+        return OfNumber(scalar);
+    }
+}
+
+// The lists and maps in a list or a map.
+void AddContainers(const PropertyTree& tree, std::vector<const PropertyTree*>& containers)
+{
+    const auto add = [&containers](const PropertyTree& part)
+    {
+        if (part.isList() || part.isMap())
+        {
+            containers.push_back(&part);
+        }
+    };
+    if (tree.isList())
+    {
+        std::ranges::for_each(tree.getList(), add);
+        return;
+    }
+    for (const auto& [key, child] : tree.getMap())
+    {
+        add(child);
+    }
 }
 
 } // namespace
@@ -75,18 +112,7 @@ std::uint64_t Fingerprints::Of(const PropertyTree& tree)
     }
     if (tree.isScalar())
     {
-        const PropertyTreeScalar& scalar = tree.getScalar();
-        bool isTrue = false;
-        switch (scalar.kind())
-        {
-        case Kind::Bool:
-            scalar.convertTo(isTrue);
-            return isTrue ? MARK_TRUE : MARK_FALSE;
-        case Kind::String:
-            return OfText(scalar.toString());
-        default:
-            return OfNumber(scalar);
-        }
+        return OfScalar(tree.getScalar());
     }
     if (const auto known = m_known.find(&tree); known != m_known.end())
     {
@@ -94,30 +120,9 @@ std::uint64_t Fingerprints::Of(const PropertyTree& tree)
     }
     // Outer ones first, so that from behind each finds its parts known.
     std::vector<const PropertyTree*> containers{&tree};
-    const auto add = [&containers](const PropertyTree& part)
-    {
-        if (part.isList() || part.isMap())
-        {
-            containers.push_back(&part);
-        }
-    };
     for (std::size_t next = 0; next != containers.size(); ++next)
     {
-        const PropertyTree& container = *containers[next];
-        if (container.isList())
-        {
-            for (const PropertyTree& element : container.getList())
-            {
-                add(element);
-            }
-        }
-        else
-        {
-            for (const auto& [key, child] : container.getMap())
-            {
-                add(child);
-            }
-        }
+        AddContainers(*containers[next], containers);
     }
     for (auto container = containers.rbegin(); container != containers.rend(); ++container)
     {

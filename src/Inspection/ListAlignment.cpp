@@ -11,14 +11,6 @@ namespace Ombrel::Inspection
 namespace
 {
 
-// Where a part of elements was seen.
-struct SeenPart
-{
-    std::size_t index = 0;
-    std::size_t count = 0;
-};
-using SeenParts = std::unordered_map<std::uint64_t, SeenPart>;
-
 // How much speaks for an element of the other list, by its index.
 using Votes = std::map<std::size_t, int>;
 
@@ -139,39 +131,43 @@ std::vector<std::size_t> ListAlignment::Candidates() const
     return candidates;
 }
 
+// The parts of the elements that were not found again.
+template <class IsLeft>
+ListAlignment::SeenParts ListAlignment::PartsOf(const std::vector<Element>& elements, Fingerprints& prints,
+                                                const IsLeft& isLeft)
+{
+    SeenParts parts;
+    for (std::size_t index = 0; index != elements.size(); ++index)
+    {
+        if (isLeft(index))
+        {
+            ForEachChild(*elements[index].tree, elements[index].kind, prints,
+                         [&](std::uint64_t part)
+                         {
+                             SeenPart& seen = parts[part];
+                             seen.index = index;
+                             ++seen.count;
+                         });
+        }
+    }
+    return parts;
+}
+
 void ListAlignment::MatchByParts(Fingerprints& prints)
 {
-    SeenParts before;
-    SeenParts now;
-    const auto addParts = [&prints](SeenParts& parts, const Element& element, std::size_t index)
+    if (m_left == 0)
     {
-        ForEachChild(*element.tree, element.kind, prints,
-                     [&](std::uint64_t part)
-                     {
-                         SeenPart& seen = parts[part];
-                         seen.index = index;
-                         ++seen.count;
-                     });
-    };
-    for (std::size_t index = 0; index != m_before.size() && m_left != 0; ++index)
-    {
-        if (!m_isFound[index])
-        {
-            addParts(before, m_before[index], index);
-        }
+        return;
     }
-    std::vector<std::size_t> unmatched;
+    SeenParts before = PartsOf(m_before, prints, [this](std::size_t index) { return !m_isFound[index]; });
+    SeenParts now = PartsOf(m_now, prints, [this](std::size_t index) { return m_origins[index] == NONE; });
+    const std::vector<std::size_t> candidates = Candidates();
     for (std::size_t index = 0; index != m_now.size(); ++index)
     {
-        if (m_origins[index] == NONE)
+        if (m_origins[index] != NONE)
         {
-            addParts(now, m_now[index], index);
-            unmatched.push_back(index);
+            continue;
         }
-    }
-    const std::vector<std::size_t> candidates = Candidates();
-    for (const std::size_t index : unmatched)
-    {
         Votes votes;
         ForEachChild(*m_now[index].tree, m_now[index].kind, prints,
                      [&](std::uint64_t part)

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <unordered_map>
 #include <vector>
 
 namespace Ombrel::Inspection
@@ -34,6 +35,14 @@ private:
         std::uint64_t kind; // only elements of one kind can be the same
     };
 
+    // Where a part of elements was seen last, and how often.
+    struct SeenPart
+    {
+        std::size_t index = 0;
+        std::size_t count = 0;
+    };
+    using SeenParts = std::unordered_map<std::uint64_t, SeenPart>;
+
     // Elements that were not found again, in both lists behind the same neighbour or at the beginning.
     struct Run
     {
@@ -44,6 +53,8 @@ private:
     };
 
     static std::vector<Element> ElementsOf(std::span<const PropertyTree> list, bool areEffects, Fingerprints& prints);
+    template <class IsLeft>
+    static SeenParts PartsOf(const std::vector<Element>& elements, Fingerprints& prints, const IsLeft& isLeft);
     void Match(std::size_t now, std::size_t before) noexcept;
     void MatchEnds();
     void MatchEqual();
