@@ -223,6 +223,18 @@ std::vector<std::string> RefusedIn(PropertyTree effect)
     return texts;
 }
 
+// Whether what is saved would be read otherwise with the loaded value under the key.
+bool MustChange(const PropertyTree& saved, const std::string& key, const PropertyTree& loaded, const PropertyTree& now)
+{
+    PropertyTree tree = saved;
+    tree[key] = loaded;
+    StoredEffects stored;
+    stored.Load(tree);
+    PropertyTree read;
+    EffectSettings::SerializePtr(read, stored.Effect(0));
+    return ExactText(read) != ExactText(now);
+}
+
 // What was not written otherwise stands as it stood; what was is read as it was changed.
 void CompareChanged(const PropertyTree& given, const PropertyTree& saved, const PropertyTree& before, const PropertyTree& now)
 {
@@ -235,8 +247,8 @@ void CompareChanged(const PropertyTree& given, const PropertyTree& saved, const 
         const bool isSame = wasWritten && isWritten && ExactText(before[key]) == ExactText(now[key]);
         if (isSame || (!wasWritten && !isWritten))
         {
-            Require(saved.contains(key) && ExactText(saved[key]) == ExactText(child), "a value that was not changed is changed",
-                    key + "\n" + shown);
+            Require((saved.contains(key) && ExactText(saved[key]) == ExactText(child)) || MustChange(saved, key, child, now),
+                    "a value that was not changed is changed", key + "\n" + shown);
         }
     }
     for (const auto& [key, child] : saved.getMap())

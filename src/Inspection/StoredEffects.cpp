@@ -276,7 +276,24 @@ PropertyTree StoredEffects::SaveItem(const Item& item, const EffectSet& kept)
     {
         return now;
     }
-    return AreSame(item.written, now) ? item.loaded : EffectMerge(kept).Merged(item.loaded, item.written, now);
+    return AreSame(item.written, now) ? item.loaded : Settled(EffectMerge(kept).Merged(item.loaded, item.written, now), now);
+}
+
+// Where values depend on each other, one that was not changed may read otherwise beside one that was. If what is written now
+// reads as it is, such a value is replaced too.
+PropertyTree StoredEffects::Settled(PropertyTree merged, const PropertyTree& now)
+{
+    StoredEffects again;
+    again.Load(std::move(merged));
+    Item& read = again.m_items.front();
+    if (!read.effect || AreSame(read.written, now))
+    {
+        return std::move(read.loaded);
+    }
+    StoredEffects alone;
+    alone.Load(now);
+    const bool isReadAsItIs = alone.m_kept.empty() && AreSame(alone.m_items.front().written, now);
+    return isReadAsItIs ? EffectMerge(again.m_kept).Merged(read.loaded, read.written, now) : std::move(read.loaded);
 }
 
 PropertyTree StoredEffects::Save(std::size_t index) const

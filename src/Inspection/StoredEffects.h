@@ -29,24 +29,20 @@ namespace Ombrel::Inspection
 /// have it, not even as a null pointer, and a field that holds one effect is empty.
 ///
 /// What is saved:
-/// - An item whose effect still writes what it wrote when it was loaded is saved exactly as it was loaded, whatever it held.
+/// - An item whose effect still writes what it wrote when it was loaded is saved exactly as it was loaded.
 /// - Of a changed effect only the difference between what it wrote when loaded and what it writes now goes into its loaded
-/// tree.
-///   All else stays as it stood: other keys, unknown keys, and values that a read and a write change, such as a computed radius
-///   or a colour in capitals. Numbers are compared by value: 5 is 5.0, -0.0 is 0.0, a NaN is a NaN.
+///   tree. All else stays as it stood: other keys, unknown keys, and values that a read and a write change, such as a computed
+///   radius or a colour in capitals. A value that would then be read otherwise, since it depends on one that was changed, goes
+///   in as well. Numbers are compared by value: 5 is 5.0, -0.0 is 0.0, a NaN is a NaN.
 /// - A key goes when the effect no longer writes it, since its value is then the default. A nested record stays, with its
-/// default
-///   values, where it also holds what the effect did not write before, such as an unknown key.
+///   default values, where it also holds what the effect did not write before, such as an unknown key.
 /// - The elements of a list are found again by what they hold, wherever they moved; a changed effect by its class id and by
-/// what
-///   it still holds. Effects that are kept as trees, and the unknown keys of the elements, stay although the list was replaced
-///   as a whole. An effect kept as a tree stays behind the element that it followed, also when that moved; if that element was
-///   removed, it stays behind the one before, or at the beginning. To be rid of it, remove the effect or record around the
-///   list.
+///   what it still holds. So unknown keys and effects that are kept as trees stay although the list was replaced as a whole.
+/// - An effect that is kept as a tree stays behind the element that it followed, also when that moved. If that element was
+///   removed, it stays behind the one before, or at the beginning. It goes with the effect or record around the list.
 /// - Sets and maps of colours are compared by content.
 /// - Lost is only what stood in something that was removed or replaced: in an effect, in a record that was an element of a
-/// list,
-///   or in the field of one effect that now has another effect or one of another class.
+///   list, or in the field of one effect that now has one of another class or none.
 ///
 /// Effects are shared with whoever holds them: an effect is changed through its pointer, and `Save` sees the change. An effect
 /// that was loaded belongs to one item; do not insert it a second time.
@@ -128,6 +124,8 @@ private:
     };
 
     OMBREL_LOCAL static PropertyTree SaveItem(const Item& item, const std::unordered_set<const PropertyTree*>& kept);
+
+    OMBREL_LOCAL static PropertyTree Settled(PropertyTree merged, const PropertyTree& now);
 
     std::vector<Item> m_items;
     std::vector<Finding> m_findings;

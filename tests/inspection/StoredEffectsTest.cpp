@@ -3,6 +3,7 @@
 #include "Findings.h"
 
 #include "Proc/EffectSettings/AcidSettings.h"
+#include "Proc/EffectSettings/BlendSettings.h"
 #include "Proc/EffectSettings/EffectSettings.h"
 #include "Proc/EffectSettings/EffectsPackageWithBrushSettings.h"
 #include "Proc/EffectSettings/TileSettings.h"
@@ -197,6 +198,20 @@ TEST(StoredEffects, PutsAComputedRadiusBackAsItStood)
     stored.Effect(0)->HelperSetting().SetUndoSet(true);
     EXPECT_EQ(Saved(stored),
               R"({"helperSettings":{"undoSet":true},"intensity":0.5,"name":"EFFECT_OIL_PAINT","radius":10,"x":1})");
+}
+
+TEST(StoredEffects, ReplacesAComputedRadiusThatWouldReadOtherwise)
+{
+    StoredEffects stored = Loaded(R"({"intensity":0.0,"name":"EFFECT_OIL_PAINT","radius":10,"x":1})");
+    stored.Replace(0, Loaded(R"({"intensity":0.5,"name":"EFFECT_OIL_PAINT"})").Effect(0));
+    EXPECT_EQ(Saved(stored), R"({"intensity":0.5,"name":"EFFECT_OIL_PAINT","x":1})");
+}
+
+TEST(StoredEffects, SavesAnEffectThatCannotBeReadOnce)
+{
+    const StoredEffects stored = Loaded(R"({"name":"effectSettingsTileStub","pre":[{"name":"U"}]})");
+    dynamic_cast<PhotoCore::TileSettings&>(*stored.Effect(0)).Pre().push_back(PhotoCore::BlendSettings::CreateBase());
+    EXPECT_EQ(Saved(stored), R"({"name":"effectSettingsTileStub","pre":[{"name":"U"},{"name":"EFFECT_BLEND"}]})");
 }
 
 TEST(StoredEffects, KeepsDefaultsThatStandBesideAChange)

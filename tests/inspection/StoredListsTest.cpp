@@ -193,9 +193,10 @@ TEST(ListsInAnEffect, ANestedEffectThatIsChangedKeepsItsKeys)
 
 TEST(ListsInAnEffect, AFaceIsFoundAgainByWhatItHas)
 {
-    const char* json =
-        R"({"facesEffects":[{"face":{"outline":{"contour":[{"x":1.0}]}},"later":1},{"effect":{"name":"EFFECT_OF_TOMORROW"},"face":{"outline":{"contour":[{"x":2.0}]}}},)"
-        R"({"effect":{"name":"EFFECT_ACID","x":1},"face":{"outline":{"contour":[{"x":3.0}]}},"later":3}],"name":"SettingsEffectFacePackage"})";
+    const char* json = R"({"facesEffects":[{"face":{"outline":{"contour":[{"x":1.0}]}},"later":1},)"
+                       R"({"effect":{"name":"EFFECT_OF_TOMORROW"},"face":{"outline":{"contour":[{"x":2.0}]}}},)"
+                       R"({"effect":{"name":"EFFECT_ACID","x":1},"face":{"outline":{"contour":[{"x":3.0}]}},"later":3}],)"
+                       R"("name":"SettingsEffectFacePackage"})";
     StoredEffects stored;
     stored.Load(ReadJson(json));
     auto& package = dynamic_cast<PhotoCore::FacePackageSettings&>(*stored.Effect(0)).GetTypedSettings();
@@ -204,10 +205,11 @@ TEST(ListsInAnEffect, AFaceIsFoundAgainByWhatItHas)
     faces[1].effect->HelperSetting().SetUndoSet(true);
     std::ranges::reverse(faces);
     package.SetFaces(faces);
-    EXPECT_EQ(
-        WriteJson(stored.Save()),
-        R"({"facesEffects":[{"effect":{"helperSettings":{"undoSet":true},"name":"EFFECT_ACID","x":1},"face":{"outline":{"contour":[{"x":3.0}]}},)"
-        R"("later":3},{"effect":{"name":"EFFECT_OF_TOMORROW"},"face":{"outline":{"contour":[{"x":2.0}]}}}],"name":"SettingsEffectFacePackage"})");
+    EXPECT_EQ(WriteJson(stored.Save()),
+              R"({"facesEffects":[{"effect":{"helperSettings":{"undoSet":true},"name":"EFFECT_ACID","x":1},)"
+              R"("face":{"outline":{"contour":[{"x":3.0}]}},)"
+              R"("later":3},{"effect":{"name":"EFFECT_OF_TOMORROW"},"face":{"outline":{"contour":[{"x":2.0}]}}}],)"
+              R"("name":"SettingsEffectFacePackage"})");
 
     // A field of one effect has room for one.
     faces[1].effect = PhotoCore::VibranceSettings::CreateBase();
