@@ -88,7 +88,7 @@ if(TARGET ombrel_EffectInspection)
     DESCRIPTION "What stored effects hold, and what is wrong with them"
     FOLDERS Inspection
     PRIVATE_HEADERS Attempt.h CheckContext.h EffectCheck.h EffectMerge.h Findings.h Fingerprints.h FormDefaults.h
-                    KeylessMembers.h KnownClass.h KnownKeys.h ListAlignment.h Place.h RecordInfo.h RefusedEffects.h
+                    KeylessMembers.h KnownClass.h ListAlignment.h Place.h RecordInfo.h RefusedEffects.h
                     SchemaParts.h Trials.h Usable.h ValueCheck.h Values.h WrittenComparison.h
     REQUIRES ombrel-effect-settings)
 endif()

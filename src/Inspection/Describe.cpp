@@ -2,7 +2,7 @@
 
 #include "Inspection/Attempt.h"
 #include "Inspection/KeylessMembers.h"
-#include "Inspection/KnownKeys.h"
+#include "Inspection/KnownClass.h"
 #include "Inspection/RecordInfo.h"
 #include "Inspection/Trials.h"
 #include "Proc/EffectSettings/EffectSettingsExport.h"

@@ -36,9 +36,6 @@ namespace StoredKeys = Proc::StoredKeys;
 constexpr Proc::ReadFlags READ{.resetMissing = true};
 constexpr Proc::WriteFlags WRITE{.resetTargets = false, .omitDefaults = true};
 
-const ValueSchema TEXT{ValueKind::String};
-const ValueSchema HELPER_SETTINGS{.kind = ValueKind::Record, .record = &HelperSettings::Schema};
-
 } // namespace
 
 // Failures of a caller's code are findings.
@@ -111,7 +108,7 @@ bool EffectCheck::FindClass(const Map& map)
     const Place place{.parent = m_node.place, .key = StoredKeys::NAME};
     if (!name->second.isScalar() || name->second.getScalar().kind() != PropertyTreeScalar::Kind::String)
     {
-        m_values.Check(name->second, TEXT, place);
+        m_values.Check(name->second, IMPL_NAME_VALUE, place);
         return false;
     }
     const std::string& id = name->second.getScalar().toString();
@@ -143,7 +140,7 @@ bool EffectCheck::FindClass(const Map& map)
         return false;
     }
     m_schema = m_class->getSchema();
-    if (!m_schema && !IsOwn(*m_class))
+    if (!AreKeysKnown(m_class))
     {
         m_findings.Add(FindingCode::NoSchema, *m_node.place, nullptr, "the class has no field list, so its keys are not known");
         return false;
@@ -280,7 +277,7 @@ void EffectCheck::CheckBaseMembers(const Map& map)
         ++m_baseMembers;
         const Place place{.parent = m_node.place, .key = StoredKeys::IMPL_NAME};
         const std::size_t errors = m_findings.ErrorCount();
-        m_values.Check(found->second, TEXT, place);
+        m_values.Check(found->second, IMPL_NAME_VALUE, place);
         if (m_findings.ErrorCount() == errors)
         {
             EndBaseMember(found->second, found->second.getScalar().toString() == Proc::ImplNames::DEFAULT_NAME, isLost, place);
@@ -290,7 +287,7 @@ void EffectCheck::CheckBaseMembers(const Map& map)
     {
         ++m_baseMembers;
         const Place place{.parent = m_node.place, .key = StoredKeys::HELPER_SETTINGS};
-        m_values.Check(found->second, HELPER_SETTINGS, place);
+        m_values.Check(found->second, HELPER_SETTINGS_VALUE, place);
         if (m_findings.HasError(found->second))
         {
             return;
@@ -298,7 +295,7 @@ void EffectCheck::CheckBaseMembers(const Map& map)
         const RecordSchema& schema = HelperSettings::Schema();
         HelperSettings helper;
         PropertyTree usable;
-        CopyUsable(found->second, usable, HELPER_SETTINGS, place, m_findings, nullptr);
+        CopyUsable(found->second, usable, HELPER_SETTINGS_VALUE, place, m_findings, nullptr);
         schema.read(&helper, usable.getMap(), &READ);
         const bool isDefault = schema.equal(&helper, schema.defaults());
         EndBaseMember(found->second, isDefault, isLost, place);

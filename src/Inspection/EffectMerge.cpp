@@ -1,7 +1,7 @@
 #include "Inspection/EffectMerge.h"
 
+#include "Inspection/KnownClass.h"
 #include "Inspection/Values.h"
-#include "Proc/EffectSettings/HelperSettings.h"
 #include "Proc/ImplNames.h"
 #include "Proc/Settings/StoredKeys.h"
 
@@ -19,9 +19,6 @@ using Proc::ValueKind;
 using Proc::ValueSchema;
 
 namespace StoredKeys = Proc::StoredKeys;
-
-const ValueSchema IMPL_NAME_VALUE{ValueKind::String};
-const ValueSchema HELPER_SETTINGS_VALUE{.kind = ValueKind::Record, .record = &PhotoCore::HelperSettings::Schema};
 
 bool IsThereAsMap(const PropertyTree* tree)
 {

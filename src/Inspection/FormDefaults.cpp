@@ -1,5 +1,6 @@
 #include "Inspection/FormDefaults.h"
 
+#include "Inspection/Attempt.h"
 #include "Inspection/KnownClass.h"
 #include "Inspection/Values.h"
 #include "Proc/EffectSettings/EffectSettings.h"
@@ -10,7 +11,6 @@
 #include <cstddef>
 #include <iterator>
 #include <memory>
-#include <new>
 #include <string>
 #include <utility>
 
@@ -31,26 +31,6 @@ namespace StoredKeys = Proc::StoredKeys;
 
 constexpr Proc::ReadFlags RESET_MISSING{.resetMissing = true};
 constexpr Proc::WriteFlags WHOLE{.resetTargets = true, .omitDefaults = false};
-
-const ValueSchema IMPL_NAME_VALUE{ValueKind::String};
-const ValueSchema HELPER_SETTINGS_VALUE{.kind = ValueKind::Record, .record = &HelperSettings::Schema};
-
-// Whether a caller's code does its work.
-template <class Action> bool Succeeds(Action action)
-{
-    try
-    {
-        return action();
-    }
-    catch (const std::bad_alloc&)
-    {
-        throw;
-    }
-    catch (...)
-    {
-        return false;
-    }
-}
 
 // Whether a default is read again from the form in which it is written. An enumeration's value without a name is written as
 // "", which is read as another. An effect is read as a new one, while every record without the key shares the one of the
@@ -144,13 +124,12 @@ const Members& FormDefaults::Of(const RecordSchema& schema)
     }
     PropertyTree written;
     const std::vector<PropertyTree>* defaults = nullptr;
-    const bool areKnown = Succeeds(
+    const bool areKnown = Attempt(
         [&]
         {
             constexpr Proc::WriteFlags thin{.resetTargets = true, .omitDefaults = true};
             defaults = &m_infos.DefaultsOf(schema);
             schema.write(schema.defaults(), written.makeMap(), &thin, 0);
-            return true;
         });
     members.reserve(schema.fields.size());
     for (std::size_t place = 0; place != schema.fields.size(); ++place)
@@ -179,12 +158,7 @@ const Members* FormDefaults::Of(const EffectClass& effectClass)
     }
     else if (isNew)
     {
-        Succeeds(
-            [&]
-            {
-                members = MembersOfCallers(effectClass);
-                return true;
-            });
+        Attempt([&] { members = MembersOfCallers(effectClass); });
     }
     return members ? &*members : nullptr;
 }
@@ -223,7 +197,7 @@ std::optional<Members> FormDefaults::MembersOfCallers(const EffectClass& effectC
     for (Member& member : members)
     {
         const auto index = Proc::FindField(schema, member.key);
-        member.isOptional = member.isOptional && (!index || Succeeds([&] { return Takes(schema, *index, object, member); }));
+        member.isOptional = member.isOptional && (!index || Attempt([&] { return Takes(schema, *index, object, member); }));
     }
     return members;
 }

@@ -1,5 +1,6 @@
 #include "Inspection/Forms.h"
 
+#include "Inspection/Attempt.h"
 #include "Inspection/CheckContext.h"
 #include "Inspection/EffectCheck.h"
 #include "Inspection/FormDefaults.h"
@@ -306,21 +307,15 @@ void FormWalk::VisitValue(PropertyTree& value, const ValueSchema& schema)
 
 void NormaliseEffect(PropertyTree& tree)
 {
-    try
-    {
-        std::shared_ptr<IEffectSettings> effect;
-        EffectSettings::DeserializePtr(tree, effect);
-        PropertyTree written;
-        EffectSettings::SerializePtr(written, effect);
-        tree = std::move(written);
-    }
-    catch (const std::bad_alloc&)
-    {
-        throw;
-    }
-    catch (...)
-    {
-    }
+    Attempt(
+        [&tree]
+        {
+            std::shared_ptr<IEffectSettings> effect;
+            EffectSettings::DeserializePtr(tree, effect);
+            PropertyTree written;
+            EffectSettings::SerializePtr(written, effect);
+            tree = std::move(written);
+        });
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "Inspection/JsonSchema.h"
 
 #include "Inspection/Attempt.h"
-#include "Inspection/KnownKeys.h"
+#include "Inspection/KnownClass.h"
 #include "Inspection/SchemaParts.h"
 #include "Proc/EffectSettings/EffectSettingsExport.h"
 #include "Proc/EffectSettings/HelperSettings.h"

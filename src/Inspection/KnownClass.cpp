@@ -15,6 +15,11 @@ bool IsOwn(const PhotoCore::EffectClass& effectClass)
     return !isBefore(&effectClass, own.data()) && isBefore(&effectClass, own.data() + own.size());
 }
 
+bool AreKeysKnown(const PhotoCore::EffectClass* effectClass)
+{
+    return effectClass && (effectClass->getSchema() || IsOwn(*effectClass));
+}
+
 const PhotoCore::EffectClass* KnownClassOf(const PropertyTree& effect)
 {
     if (!effect.isMap())
@@ -27,8 +32,7 @@ const PhotoCore::EffectClass* KnownClassOf(const PropertyTree& effect)
         return nullptr;
     }
     const PhotoCore::EffectClass* known = PhotoCore::FindEffectClass(name->second.getScalar().toString());
-    return known && known->registration != PhotoCore::Registration::None && (known->getSchema() || IsOwn(*known)) ? known
-                                                                                                                  : nullptr;
+    return AreKeysKnown(known) && known->registration != PhotoCore::Registration::None ? known : nullptr;
 }
 
 } // namespace Ombrel::Inspection

@@ -31,7 +31,6 @@ Inspection/Fingerprints.h
 Inspection/FormDefaults.h
 Inspection/KeylessMembers.h
 Inspection/KnownClass.h
-Inspection/KnownKeys.h
 Inspection/ListAlignment.h
 Inspection/Place.h
 Inspection/RecordInfo.h
