@@ -56,7 +56,8 @@ PropertyTree Plain(const PropertyTree& tree)
     if (tree.isScalar() && tree.getScalar().kind() == PropertyTreeScalar::Kind::Float)
     {
         const double number = tree.getScalar().toDouble();
-        const bool isInteger = number >= -9223372036854775808.0 && number < 9223372036854775808.0 && static_cast<double>(static_cast<std::int64_t>(number)) == number;
+        const bool isInteger = number >= -9223372036854775808.0 && number < 9223372036854775808.0 &&
+                               static_cast<double>(static_cast<std::int64_t>(number)) == number;
         return isInteger ? PropertyTree(static_cast<std::int64_t>(number)) : std::isnan(number) ? PropertyTree("NaN") : tree;
     }
     if (tree.isScalar() && tree.getScalar().kind() == PropertyTreeScalar::Kind::Integer)

@@ -1,41 +1,9 @@
 #include "CheckComparison.h"
-#include "Mutation.h"
+#include "RandomTrees.h"
 
-#include <charconv>
-#include <cstdlib>
-#include <iostream>
-#include <string_view>
-
-// compare-check COUNT SEED: what a check says of COUNT random trees of all classes, which are the same for the same SEED, and
-// what reading and writing them do.
-
-namespace
-{
-
-unsigned NumberOf(std::string_view text)
-{
-    unsigned number = 0;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number;
-}
-
-} // namespace
-
+// compare-check COUNT SEED: what a check says of random trees, and what reading and writing them do.
 int main(int argc, char** argv)
 {
-    if (argc != 3)
-    {
-        std::cerr << "usage: compare-check COUNT SEED\n";
-        return EXIT_FAILURE;
-    }
-    Fuzz::Mutation mutation(NumberOf(argv[2]));
-    for (unsigned left = NumberOf(argv[1]); left != 0;)
-    {
-        Ombrel::PropertyTree tree;
-        for (std::size_t changes = 1 + mutation.Below(12); changes != 0 && left != 0; --changes, --left)
-        {
-            mutation.ChangeInput(tree);
-            Fuzz::CompareCheck(tree);
-        }
-    }
+    return Fuzz::CompareRandomTrees(argc, argv,
+                                    [](const Ombrel::PropertyTree& tree, Fuzz::Mutation&) { Fuzz::CompareCheck(tree); });
 }

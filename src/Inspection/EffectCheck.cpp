@@ -5,15 +5,12 @@
 #include "Inspection/Nearest.h"
 #include "Inspection/Usable.h"
 #include "Inspection/Values.h"
-#include "Proc/EffectSettings/HelperSettings.h"
 #include "Proc/EffectSettings/SettingsEffectFacePackage.h"
 #include "Proc/EffectSettings/TileSettings.h"
-#include "Proc/ImplNames.h"
 #include "Proc/Settings/StoredKeys.h"
 
 #include <algorithm>
 #include <exception>
-#include <map>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -22,21 +19,10 @@
 
 namespace Ombrel::Inspection
 {
-namespace
-{
 
-using PhotoCore::HelperSettings;
 using Proc::FieldSchema;
-using Proc::RecordSchema;
-using Proc::ValueKind;
-using Proc::ValueSchema;
 
 namespace StoredKeys = Proc::StoredKeys;
-
-constexpr Proc::ReadFlags READ{.resetMissing = true};
-constexpr Proc::WriteFlags WRITE{.resetTargets = false, .omitDefaults = true};
-
-} // namespace
 
 // Failures of a caller's code are findings.
 template <class Action> bool EffectCheck::Try(FindingCode code, const Place& place, const PropertyTree* at, Action action)
@@ -268,57 +254,6 @@ bool EffectCheck::Make()
                });
 }
 
-void EffectCheck::CheckBaseMembers(const Map& map)
-{
-    m_baseMembers = 1; // the name
-    const bool isLost = m_node.isCopied && m_schema == &PhotoCore::TileSettings::Schema();
-    if (const auto found = map.find(StoredKeys::IMPL_NAME); found != map.end())
-    {
-        ++m_baseMembers;
-        const Place place{.parent = m_node.place, .key = StoredKeys::IMPL_NAME};
-        const std::size_t errors = m_findings.ErrorCount();
-        m_values.Check(found->second, IMPL_NAME_VALUE, place);
-        if (m_findings.ErrorCount() == errors)
-        {
-            EndBaseMember(found->second, found->second.getScalar().toString() == Proc::ImplNames::DEFAULT_NAME, isLost, place);
-        }
-    }
-    if (const auto found = map.find(StoredKeys::HELPER_SETTINGS); found != map.end())
-    {
-        ++m_baseMembers;
-        const Place place{.parent = m_node.place, .key = StoredKeys::HELPER_SETTINGS};
-        m_values.Check(found->second, HELPER_SETTINGS_VALUE, place);
-        if (m_findings.HasError(found->second))
-        {
-            return;
-        }
-        const RecordSchema& schema = HelperSettings::Schema();
-        HelperSettings helper;
-        PropertyTree usable;
-        CopyUsable(found->second, usable, HELPER_SETTINGS_VALUE, place, m_findings, nullptr);
-        schema.read(&helper, usable.getMap(), &READ);
-        const bool isDefault = schema.equal(&helper, schema.defaults());
-        EndBaseMember(found->second, isDefault, isLost, place);
-        if (!isDefault && !isLost)
-        {
-            PropertyTree written;
-            schema.write(&helper, written.makeMap(), &WRITE, 0);
-            m_comparison.CompareMembers(found->second.getMap(), written.getMap(), schema, place);
-        }
-    }
-}
-
-void EffectCheck::EndBaseMember(const PropertyTree& value, bool isDefault, bool isLost, const Place& place)
-{
-    if (isDefault || isLost)
-    {
-        Finding& finding = m_findings.Add(isDefault ? FindingCode::DefaultWritten : FindingCode::LostByCopy, place, &value,
-                                          isDefault ? "it has its default and is not written again"
-                                                    : "a face package copies the tile, and copies of tiles do not have it");
-        finding.mend = Mend::Remove;
-    }
-}
-
 // A caller's setters may refuse a value, so each is tried where it stands. The library's own may not, so they are tried at
 // once.
 void EffectCheck::CheckFields(const Children& children, bool isOwn)
@@ -424,72 +359,6 @@ void EffectCheck::CompareWithWritten(const Map& map, const Children& children)
         {
             m_comparison.OmittedInElements(*children[index], *field.value, place);
         }
-    }
-}
-
-// Looks at the effect once more, as it would be mended. A changed value can be replaced by what it becomes if that then stays
-// as it is, and what has its default without a name that goes need not be written either.
-void EffectCheck::FindMends(const Map& map)
-{
-    const bool hasNames =
-        std::ranges::any_of(m_findings.Items(),
-                            [](const auto& item)
-                            {
-                                const Finding* finding = std::get_if<Finding>(item.get());
-                                return finding && Findings::IsLeftOut(*finding) && SeverityOf(finding->code) != Severity::Error;
-                            });
-    if (m_isAgain || (m_comparison.Changed().empty() && !hasNames))
-    {
-        return;
-    }
-    PropertyTree mended;
-    Copies copies;
-    PropertyTree::Map& fields = mended.makeMap(map.size());
-    fields[StoredKeys::NAME] = map.at(StoredKeys::NAME);
-    for (const auto& [key, child] : map)
-    {
-        const auto field = Proc::FindField(*m_schema, key);
-        if (field && !m_findings.IsLeftOut(child))
-        {
-            const Place place{.parent = m_node.place, .key = key};
-            CopyUsable(child, fields[key], *m_schema->fields[*field].value, place, m_findings, &copies);
-        }
-    }
-    for (const auto& [finding, given] : m_comparison.Changed())
-    {
-        if (const auto copy = copies.find(given); copy != copies.end())
-        {
-            *copy->second.value = finding->becomes;
-        }
-    }
-    EffectNode node = m_node;
-    node.tree = &mended;
-    EffectCheck again(node, m_context);
-    again.m_isAgain = true;
-    again.Run();
-    for (const auto& [finding, given] : m_comparison.Changed())
-    {
-        const auto copy = copies.find(given);
-        const Finding* left = copy == copies.end() ? nullptr : again.m_findings.About(*copy->second.value);
-        if (copy != copies.end() && (!left || left->code != FindingCode::ChangesOnWrite))
-        {
-            finding->mend = Mend::Replace;
-        }
-    }
-    std::map<std::vector<PathStep>, const PropertyTree*> defaults; // in one order, whatever that of the copies is
-    for (const auto& [given, copy] : copies)
-    {
-        const Finding* left = again.m_findings.About(*copy.value);
-        if (left && left->code == FindingCode::DefaultWritten && !m_findings.About(*given))
-        {
-            defaults.emplace(copy.path.steps, given);
-        }
-    }
-    for (const auto& [steps, given] : defaults)
-    {
-        Finding& finding = m_findings.Add(FindingCode::DefaultWritten, *m_node.place, given, "it then has its default");
-        finding.path.steps = steps;
-        finding.mend = Mend::Remove;
     }
 }
 

@@ -30,6 +30,9 @@ public:
 private:
     using Map = PropertyTree::Map;
 
+    static constexpr Proc::ReadFlags READ{.resetMissing = true};
+    static constexpr Proc::WriteFlags WRITE{.resetTargets = false, .omitDefaults = true};
+
     bool FindClass(const Map& map);
     void CheckEffect(const Map& map);
     bool IsSameBesideBaseMembers(const Map& map, const Map& written) const;

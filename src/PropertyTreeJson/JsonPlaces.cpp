@@ -2,32 +2,15 @@
 
 #include "PropertyTreeJson/JsonPlaceTable.h"
 #include "PropertyTreeJson/JsonScanner.h"
+#include "PropertyTreeJson/MessageText.h"
 
 #include <algorithm>
-#include <charconv>
 #include <numeric>
 #include <tuple>
 #include <utility>
 
 namespace Ombrel
 {
-namespace
-{
-
-// The index, if `step` is one without leading zeros.
-std::optional<std::size_t> IndexOf(std::string_view step)
-{
-    std::size_t index = 0;
-    const auto [end, error] = std::from_chars(step.data(), step.data() + step.size(), index);
-    if (error != std::errc() || end != step.data() + step.size() || (step.size() > 1 && step.front() == '0'))
-    {
-        return std::nullopt;
-    }
-    return index;
-}
-
-} // namespace
-
 void JsonPlaceTable::AddValue(std::size_t offset)
 {
     Value& value = m_values.emplace_back(Value{.parent = 0, .index = 0, .key = {}, .offset = offset});
@@ -87,7 +70,7 @@ std::optional<JsonPlace> JsonPlaceTable::Find(std::span<const std::string> steps
 
 const JsonPlaceTable::Value* JsonPlaceTable::ChildOf(const Value& parent, const std::string& step) const
 {
-    const std::optional<std::size_t> index = parent.isList ? IndexOf(step) : std::size_t{0};
+    const std::optional<std::size_t> index = parent.isList ? MessageText::IndexOf(step) : std::size_t{0};
     if (!index)
     {
         return nullptr;

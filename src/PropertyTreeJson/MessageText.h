@@ -4,9 +4,12 @@
 #include "PropertyTree/Characters.h"
 
 #include <array>
+#include <charconv>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 // Paths and texts of trees in messages. Inline, since the command line uses it too and the library does not export it.
 namespace Ombrel::MessageText
@@ -57,6 +60,18 @@ private:
     std::string m_text;
     bool m_isTop = true; // an empty text does not tell, since a key may be empty
 };
+
+/// The index that a step of such a path is, if it is a decimal number without sign and leading zeros.
+inline std::optional<std::size_t> IndexOf(std::string_view step)
+{
+    std::size_t index = 0;
+    const auto [end, error] = std::from_chars(step.data(), step.data() + step.size(), index);
+    if (error != std::errc() || end != step.data() + step.size() || (step.size() > 1 && step.front() == '0'))
+    {
+        return std::nullopt;
+    }
+    return index;
+}
 
 /// The escape of the code point `character`, which is below 256: a quote, a backslash or a control character. The text is in
 /// `space`. An escape is rare, and would only make the loops larger that ask for it.

@@ -1,4 +1,4 @@
-#include "Mutation.h"
+#include "RandomTrees.h"
 #include "StoredEffects.h"
 
 #include "Inspection/Check.h"
@@ -10,7 +10,6 @@
 #include "Proc/Settings/SettingsRecord.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
-#include <charconv>
 #include <cstdint>
 #include <cstdlib>
 #include <fstream>
@@ -160,13 +159,6 @@ void WriteTree(std::ofstream& file, const PropertyTree& tree, bool isClosed)
     file << WriteJson(line, AS_TEXTS) << '\n';
 }
 
-unsigned NumberOf(std::string_view text)
-{
-    unsigned number = 0;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -187,8 +179,8 @@ int main(int argc, char** argv)
         WriteTree(file, tree, true);
         WriteTree(file, tree, false);
     }
-    Fuzz::Mutation mutation(NumberOf(argv[3]));
-    for (unsigned left = NumberOf(argv[2]); left != 0;)
+    Fuzz::Mutation mutation(Fuzz::NumberOf(argv[3]));
+    for (unsigned left = Fuzz::NumberOf(argv[2]); left != 0;)
     {
         PropertyTree tree;
         for (std::size_t changes = 1 + mutation.Below(6); changes != 0 && left != 0; --changes, --left)

@@ -30,7 +30,7 @@ bool IsRegistered(const EffectClass& effectClass)
 bool Contains(std::string_view text, std::string_view part)
 {
     const auto areSame = [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); };
-    return part.empty() || std::ranges::search(text, part, areSame).begin() != text.end();
+    return std::search(text.begin(), text.end(), part.begin(), part.end(), areSame) != text.end() || part.empty();
 }
 
 std::string TableOf(const std::vector<const EffectClass*>& classes)

@@ -17,33 +17,28 @@ using Inspection::Severity;
 namespace
 {
 
-// Both forms read the same; if they ever do not, nothing is written.
-void CompareWhatIsRead(const Document& document, const PropertyTree& changed, Report& report)
+// The form reads the same as the file; if it ever does not, nothing is written.
+Report InForm(const Document& document, const PropertyTree& changed)
 {
+    Report report;
+    report.SetDocument(document, changed);
     for (const Difference& difference : DifferencesOf(FullForm(document.Tree()), FullForm(changed)))
     {
         report.Complain(ExitCode::Findings, document.Name() + ": " + PathText(difference.path) + ": " + TextOf(difference));
     }
+    return report;
 }
 
 } // namespace
 
 Report ThinDocument(const Document& document)
 {
-    Report report;
-    const PropertyTree thin = Inspection::Thin(document.Tree());
-    report.SetDocument(document, thin);
-    CompareWhatIsRead(document, thin, report);
-    return report;
+    return InForm(document, Inspection::Thin(document.Tree()));
 }
 
 Report FreezeDocument(const Document& document)
 {
-    Report report;
-    const PropertyTree frozen = Inspection::Freeze(document.Tree());
-    report.SetDocument(document, frozen);
-    CompareWhatIsRead(document, frozen, report);
-    return report;
+    return InForm(document, Inspection::Freeze(document.Tree()));
 }
 
 Report NormaliseDocument(const Document& document)

@@ -3,7 +3,6 @@
 #include "PropertyTreeJson/MessageText.h"
 #include "Values.h"
 
-#include <charconv>
 #include <stdexcept>
 #include <variant>
 
@@ -73,13 +72,7 @@ std::string PathTexts(const std::vector<std::string>& steps)
 
 std::optional<std::size_t> IndexOf(std::string_view step)
 {
-    std::size_t index = 0;
-    const auto [end, error] = std::from_chars(step.data(), step.data() + step.size(), index);
-    if (error != std::errc() || end != step.data() + step.size() || (step.size() > 1 && step.front() == '0'))
-    {
-        return std::nullopt;
-    }
-    return index;
+    return MessageText::IndexOf(step);
 }
 
 const PropertyTree* FindChild(const PropertyTree& tree, const std::string& step)

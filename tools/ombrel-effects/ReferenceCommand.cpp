@@ -27,7 +27,7 @@ std::string KeyOf(const PropertyTree& container, const std::string& step)
 }
 
 // JSON on one line, with a space behind each comma and colon. The examples are small, so recursion is safe here and below.
-std::string OnOneLine(const PropertyTree& tree)
+std::string InOneLine(const PropertyTree& tree)
 {
     if (!tree.isMap() && !tree.isList())
     {
@@ -36,7 +36,7 @@ std::string OnOneLine(const PropertyTree& tree)
     std::string text;
     for (const std::string& step : StepsOf(tree))
     {
-        text += (text.empty() ? "" : ", ") + KeyOf(tree, step) + OnOneLine(*FindChild(tree, step));
+        text += (text.empty() ? "" : ", ") + KeyOf(tree, step) + InOneLine(*FindChild(tree, step));
     }
     return tree.isList() ? "[" + text + "]" : "{" + text + "}";
 }
@@ -45,7 +45,7 @@ std::string OnOneLine(const PropertyTree& tree)
 std::string Compact(const PropertyTree& tree, std::size_t indent)
 {
     constexpr std::size_t width = 100;
-    std::string line = OnOneLine(tree);
+    std::string line = InOneLine(tree);
     if (indent + line.size() <= width || !(tree.isMap() || tree.isList()))
     {
         return line;

@@ -112,6 +112,10 @@ public:
             m_next = m_files.size();
         }
         m_change.notify_all();
+        for (std::thread& thread : m_threads)
+        {
+            thread.join();
+        }
     }
 
     /// Waits for the report of a file; false if it is not there within a second.
@@ -160,7 +164,7 @@ private:
     std::vector<std::optional<Report>> m_reports;
     std::size_t m_next = 0;
     std::size_t m_printed = 0;
-    std::vector<std::jthread> m_threads; // which end before all else goes
+    std::vector<std::thread> m_threads;
 };
 
 /// A line on a terminal that says how far the work is, after the first second.

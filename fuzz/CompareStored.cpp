@@ -1,10 +1,8 @@
-#include "Mutation.h"
+#include "RandomTrees.h"
 #include "StoredComparison.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdlib>
-#include <iostream>
 #include <string_view>
 
 // compare-stored COUNT SEED: COUNT random trees of all classes, which are the same for the same SEED, loaded, changed and
@@ -13,13 +11,6 @@ namespace
 {
 
 using Ombrel::PropertyTree;
-
-unsigned NumberOf(std::string_view text)
-{
-    unsigned number = 0;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number;
-}
 
 // What a newer version or another program may have stored: other classes, other keys.
 void AddUnknown(PropertyTree& tree, Fuzz::Mutation& mutation)
@@ -157,30 +148,20 @@ void ChangeLists(PropertyTree& tree, Fuzz::Mutation& mutation)
 
 int main(int argc, char** argv)
 {
-    if (argc != 3)
-    {
-        std::cerr << "usage: compare-stored COUNT SEED\n";
-        return EXIT_FAILURE;
-    }
-    Fuzz::Mutation mutation(NumberOf(argv[2]));
     PropertyTree::List seen;
-    for (unsigned left = NumberOf(argv[1]); left != 0;)
-    {
-        PropertyTree tree;
-        for (std::size_t changes = 1 + mutation.Below(12); changes != 0 && left != 0; --changes, --left)
-        {
-            mutation.ChangeInput(tree);
-            seen.resize(std::min<std::size_t>(seen.size() + 1, 100));
-            seen[mutation.Below(seen.size())] = tree.isList() ? tree.getList().back() : tree;
-            PropertyTree given = mutation.IsOneIn(2) ? tree : Nested(seen, mutation);
-            AddUnknown(given, mutation);
-            PropertyTree other = given;
-            ChangeSome(other, mutation);
-            if (mutation.IsOneIn(2))
-            {
-                ChangeLists(other, mutation);
-            }
-            Fuzz::CompareStored(given, other);
-        }
-    }
+    return Fuzz::CompareRandomTrees(argc, argv,
+                                    [&seen](const PropertyTree& tree, Fuzz::Mutation& mutation)
+                                    {
+                                        seen.resize(std::min<std::size_t>(seen.size() + 1, 100));
+                                        seen[mutation.Below(seen.size())] = tree.isList() ? tree.getList().back() : tree;
+                                        PropertyTree given = mutation.IsOneIn(2) ? tree : Nested(seen, mutation);
+                                        AddUnknown(given, mutation);
+                                        PropertyTree other = given;
+                                        ChangeSome(other, mutation);
+                                        if (mutation.IsOneIn(2))
+                                        {
+                                            ChangeLists(other, mutation);
+                                        }
+                                        Fuzz::CompareStored(given, other);
+                                    });
 }

@@ -1,0 +1,113 @@
+#include "CommandRuns.h"
+
+#include "Inputs.h"
+#include "Inspection/Nearest.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include <unistd.h>
+
+namespace Ombrel::EffectsTool
+{
+namespace
+{
+
+std::string SummaryOf(const Counts& counts)
+{
+    const auto text = [](std::size_t count, const char* name)
+    { return std::to_string(count) + " " + name + (count == 1 ? "" : "s"); };
+    return text(counts.errors, "error") + ", " + text(counts.warnings, "warning") + ", " + text(counts.notes, "note");
+}
+
+bool HasColours()
+{
+    const char* const noColour = std::getenv("NO_COLOR"); // NOLINT(concurrency-mt-unsafe): before any thread starts
+    const char* const terminal = std::getenv("TERM");     // NOLINT(concurrency-mt-unsafe)
+    return ::isatty(STDOUT_FILENO) != 0 && (!noColour || !*noColour) && terminal && std::string_view(terminal) != "dumb";
+}
+
+} // namespace
+
+Report OnFile(Arguments& arguments, const Work& work)
+{
+    if (arguments.run.isInPlace && arguments.file == "-")
+    {
+        throw ToolError(ExitCode::Usage, "<stdin>: cannot be replaced, expected a file with --in-place");
+    }
+    Report report;
+    RunOnFiles({arguments.file}, arguments.run, work, report);
+    return report;
+}
+
+Report OnFiles(Arguments& arguments, bool hasDocuments, const Work& work)
+{
+    if (arguments.areLines && arguments.run.isInPlace)
+    {
+        throw ToolError(ExitCode::Usage, "--lines prints what becomes of each line, so that it excludes --in-place");
+    }
+    Report report;
+    const std::vector<std::string> files = FilesOf(arguments.files, report.complaints);
+    if (!report.complaints.empty())
+    {
+        report.Raise(ExitCode::File);
+    }
+    for (const std::string& file : files)
+    {
+        if (arguments.run.isInPlace && file == "-")
+        {
+            throw ToolError(ExitCode::Usage, "<stdin>: cannot be replaced, expected a file with --in-place");
+        }
+    }
+    if (arguments.areLines)
+    {
+        RunOnLines(files, arguments.run, hasDocuments, work, report);
+        return report;
+    }
+    if (hasDocuments && files.size() > 1 && !arguments.run.isInPlace)
+    {
+        throw ToolError(ExitCode::Usage, "several files need --in-place, since only one document can be printed");
+    }
+    RunOnFiles(files, arguments.run, work, report);
+    return report;
+}
+
+Report RunCheck(Arguments& arguments)
+{
+    CheckSettings& settings = arguments.check;
+    for (const std::string& text : arguments.ignoredCodes)
+    {
+        const auto code = CodeOf(text);
+        if (!code)
+        {
+            Inspection::NearestName nearest(text);
+            std::string all;
+            for (std::uint8_t number = 0; number <= static_cast<std::uint8_t>(Inspection::FindingCode::NoSchema); ++number)
+            {
+                const std::string known(TextOf(Inspection::FindingCode{number}));
+                nearest.Try(known);
+                all += (all.empty() ? "" : ", ") + known;
+            }
+            throw ToolError(ExitCode::Usage,
+                            text + ": no such code, " +
+                                (nearest.Get().empty() ? "expected one of " + all : "did you mean " + nearest.Get() + "?"));
+        }
+        settings.ignored.push_back(*code);
+    }
+    if (arguments.run.isInPlace && !settings.isFixing)
+    {
+        throw ToolError(ExitCode::Usage, "--in-place needs --fix");
+    }
+    settings.isJson = arguments.isJson;
+    settings.isColoured = HasColours();
+    Report report = OnFiles(arguments, settings.isFixing,
+                            [&settings](const Document& document) { return CheckDocument(document, settings); });
+    if (!arguments.run.isQuiet)
+    {
+        report.complaints.push_back(SummaryOf(report.counts) + (settings.isFixing ? " left" : ""));
+    }
+    return report;
+}
+
+} // namespace Ombrel::EffectsTool
