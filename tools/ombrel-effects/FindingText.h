@@ -18,7 +18,7 @@ std::string MessageOf(const Inspection::Finding& finding);
 /// @param isColoured with the colours of a terminal
 std::string LineOf(const Inspection::Finding& finding, const Document& document, bool isColoured);
 
-/// The finding as the JSON output has it: see check-output.schema.json.
+/// The finding as the JSON output has it: see docs/check-output.schema.json.
 PropertyTree JsonOf(const Inspection::Finding& finding, const Document& document);
 
 } // namespace Ombrel::EffectsTool
