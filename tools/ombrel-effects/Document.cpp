@@ -27,28 +27,33 @@ bool IsIndentingCheap(const PropertyTree& tree, std::size_t plainSize)
 {
     constexpr std::size_t deepest = 64; // deeper lines are not indented further
     std::size_t added = 0;
-    std::vector<std::pair<const PropertyTree*, std::size_t>> pending{{&tree, 0}};
+    struct Part
+    {
+        const PropertyTree* tree;
+        std::size_t depth;
+    };
+    std::vector<Part> pending{{&tree, 0}};
     while (!pending.empty())
     {
-        const auto [value, depth] = pending.back();
+        const Part part = pending.back();
         pending.pop_back();
-        const std::size_t line = 1 + INDENT * std::min(depth + 1, deepest);
+        const std::size_t line = 1 + INDENT * std::min(part.depth + 1, deepest);
         const auto add = [&](const PropertyTree& child)
         {
             added += line + 1;
             if (child.isMap() || child.isList())
             {
-                pending.emplace_back(&child, depth + 1);
+                pending.push_back({&child, part.depth + 1});
                 added += line;
             }
         };
-        if (value->isMap())
+        if (part.tree->isMap())
         {
-            std::ranges::for_each(value->getMap(), [&](const auto& entry) { add(entry.second); });
+            std::ranges::for_each(part.tree->getMap(), [&](const auto& entry) { add(entry.second); });
         }
-        else if (value->isList())
+        else if (part.tree->isList())
         {
-            std::ranges::for_each(value->getList(), add);
+            std::ranges::for_each(part.tree->getList(), add);
         }
     }
     return added <= 6 * plainSize + 65536;
