@@ -61,6 +61,7 @@ extern "C"
 {
     ssize_t __real_write(int descriptor, const void* data, size_t size);
     int __real_mkostemp(char* name, int flags);
+    int __real_mkostemp64(char* name, int flags);
     int __real_fchown(int descriptor, uid_t user, gid_t group);
     int __real_fchmod(int descriptor, mode_t mode);
     int __real_fsync(int descriptor);
@@ -78,6 +79,12 @@ extern "C"
     int __wrap_mkostemp(char* name, int flags)
     {
         return IsAt("mkostemp") ? -1 : __real_mkostemp(name, flags);
+    }
+
+    // Its name where files of a 32-bit program may be large.
+    int __wrap_mkostemp64(char* name, int flags)
+    {
+        return IsAt("mkostemp") ? -1 : __real_mkostemp64(name, flags);
     }
 
     int __wrap_fchown(int descriptor, uid_t user, gid_t group)
