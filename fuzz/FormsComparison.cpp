@@ -158,7 +158,7 @@ std::string LastingFindings(const PropertyTree& tree)
         if (finding.code != FindingCode::DefaultWritten && finding.code != FindingCode::ChangesOnWrite &&
             finding.code != FindingCode::NullEffect)
         {
-            const bool isValue = finding.code != FindingCode::Refused && !finding.path.steps.empty();
+            const bool isValue = finding.code != FindingCode::Refused && !finding.path.Steps().empty();
             lines += std::string(Inspection::TextOf(finding.code)) + " at " + finding.path.ToText() + ": " +
                      (isValue ? TextOf(finding.found) : "") + '\n';
         }

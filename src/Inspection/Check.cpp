@@ -19,7 +19,7 @@ std::vector<Finding> Check(const PropertyTree& effectOrList, const CheckOptions&
         const PropertyTree::List& list = effectOrList.getList();
         for (std::size_t index = list.size(); index-- != 0;)
         {
-            context.places.push_back({.parent = &ROOT, .key = {}, .index = index, .isKept = true});
+            context.places.push_back({.parent = &ROOT, .key = {}, .index = index, .isOfEffect = true});
             pending.emplace_back(EffectNode{.tree = &list[index], .place = &context.places.back()});
         }
     }

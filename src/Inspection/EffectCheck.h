@@ -20,7 +20,8 @@ class EffectCheck
 {
 public:
     EffectCheck(const EffectNode& node, CheckContext& context)
-        : m_node(node), m_context(context), m_values(m_findings, context), m_comparison(m_findings, context)
+        : m_node(node), m_context(context), m_findings(context), m_values(m_findings, context),
+          m_comparison(m_findings, context)
     {
     }
 

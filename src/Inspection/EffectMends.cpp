@@ -65,13 +65,13 @@ void EffectCheck::FindMends(const Map& map)
         const Finding* left = again.m_findings.About(*copy.value);
         if (left && left->code == FindingCode::DefaultWritten && !m_findings.About(*given))
         {
-            defaults.emplace(copy.path.steps, given);
+            defaults.emplace(copy.steps, given);
         }
     }
     for (const auto& [steps, given] : defaults)
     {
         Finding& finding = m_findings.Add(FindingCode::DefaultWritten, *m_node.place, given, "it then has its default");
-        finding.path.steps = steps;
+        finding.path = Path(finding.path.Start(), steps);
         finding.mend = Mend::Remove;
     }
 }

@@ -8,7 +8,12 @@ namespace Ombrel::Inspection
 Finding& Findings::Add(FindingCode code, const Place& place, const PropertyTree* at, std::string message)
 {
     Finding& finding = std::get<Finding>(*m_items.emplace_back(std::make_unique<Item>(Finding())));
-    finding.path = place.ToPath();
+    if (const Place& effect = place.Effect(); m_effect != &effect)
+    {
+        m_pathOfEffect = m_context.PathOfEffect(effect);
+        m_effect = &effect;
+    }
+    finding.path = Path(m_pathOfEffect, place.StepsFrom(*m_effect));
     finding.code = code;
     finding.message = std::move(message);
     if (at)

@@ -1,6 +1,7 @@
 #ifndef OMBREL_INSPECTION_FINDINGS_H
 #define OMBREL_INSPECTION_FINDINGS_H
 
+#include "Inspection/CheckContext.h"
 #include "Inspection/Finding.h"
 #include "Inspection/Place.h"
 
@@ -29,6 +30,8 @@ class Findings
 public:
     using Item = std::variant<Finding, EffectNode>;
 
+    explicit Findings(CheckContext& context) : m_context(context) {}
+
     /// `at` is the value that the finding is about; null for one that is missing.
     Finding& Add(FindingCode code, const Place& place, const PropertyTree* at, std::string message);
 
@@ -49,6 +52,9 @@ public:
     std::vector<std::unique_ptr<Item>>& Items() noexcept { return m_items; }
 
 private:
+    CheckContext& m_context;
+    const Place* m_effect = nullptr; // the last in which something was found, with its path
+    std::shared_ptr<const Path> m_pathOfEffect;
     std::vector<std::unique_ptr<Item>> m_items; // which stay where they are
     std::unordered_map<const PropertyTree*, Finding*> m_byValue;
     std::size_t m_errors = 0;

@@ -5,6 +5,7 @@
 #include "Inspection/EffectCheck.h"
 #include "Inspection/FormDefaults.h"
 #include "Inspection/KnownClass.h"
+#include "Inspection/Values.h"
 #include "Proc/EffectSettings/EffectSettings.h"
 #include "Proc/EffectSettings/SettingsEffectFacePackage.h"
 #include "Proc/EffectSettings/TileSettings.h"
@@ -138,11 +139,11 @@ bool FormWalk::FindRefused(const Effect& effect)
         const Finding* const finding = std::get_if<Finding>(item.get());
         if (finding && finding->code == FindingCode::Refused)
         {
-            if (finding->path.steps.empty())
+            if (finding->path.OwnSteps().empty())
             {
                 return false;
             }
-            m_kept.push_back(std::get<std::string>(finding->path.steps.front()));
+            m_kept.push_back(std::get<std::string>(finding->path.OwnSteps().front()));
         }
     }
     return true;
@@ -305,8 +306,24 @@ void FormWalk::VisitValue(PropertyTree& value, const ValueSchema& schema)
     }
 }
 
+// Spares a list of effects that are not known a failure for each.
+bool CanBeMade(const PropertyTree& effect)
+{
+    if (!effect.isMap())
+    {
+        return false;
+    }
+    const auto name = effect.getMap().find(StoredKeys::NAME);
+    return name != effect.getMap().end() && IsText(name->second) &&
+           PhotoCore::IsRegistered(name->second.getScalar().toString());
+}
+
 void NormaliseEffect(PropertyTree& tree)
 {
+    if (!CanBeMade(tree))
+    {
+        return;
+    }
     Attempt(
         [&tree]
         {

@@ -1,28 +1,73 @@
 #include "Inspection/Path.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace Ombrel::Inspection
 {
+namespace
+{
+
+// A path and those that it begins with, the longest first.
+template <class Visit> void ForEachPart(const Path& path, const Visit& visit)
+{
+    for (const Path* part = &path; part; part = part->Start().get())
+    {
+        visit(part->OwnSteps());
+    }
+}
+
+} // namespace
+
+std::vector<PathStep> Path::Steps() const
+{
+    if (!m_start)
+    {
+        return m_ownSteps;
+    }
+    std::size_t count = 0;
+    ForEachPart(*this, [&count](const std::vector<PathStep>& steps) { count += steps.size(); });
+    std::vector<PathStep> all(count);
+    auto end = all.end();
+    ForEachPart(*this,
+                [&end](const std::vector<PathStep>& steps) { end = std::copy_backward(steps.begin(), steps.end(), end); });
+    return all;
+}
 
 std::string Path::ToText() const
 {
+    std::vector<const std::vector<PathStep>*> parts;
+    ForEachPart(*this, [&parts](const std::vector<PathStep>& steps) { parts.push_back(&steps); });
     std::string text;
-    for (const PathStep& step : steps)
+    bool isFirst = true;
+    for (auto part = parts.rbegin(); part != parts.rend(); ++part)
     {
-        if (&step != steps.data())
+        for (const PathStep& step : **part)
         {
-            text += '/';
-        }
-        if (const std::size_t* index = std::get_if<std::size_t>(&step))
-        {
-            text += std::to_string(*index);
-            continue;
-        }
-        for (const char c : std::get<std::string>(step))
-        {
-            text += c == '~' ? "~0" : c == '/' ? "~1" : std::string(1, c);
+            text += std::exchange(isFirst, false) ? "" : "/";
+            if (const std::size_t* index = std::get_if<std::size_t>(&step))
+            {
+                text += std::to_string(*index);
+                continue;
+            }
+            const std::string& key = std::get<std::string>(step);
+            if (key.find_first_of("~/") == std::string::npos)
+            {
+                text += key;
+                continue;
+            }
+            for (const char c : key)
+            {
+                text += c == '~' ? "~0" : c == '/' ? "~1" : std::string(1, c);
+            }
         }
     }
     return text;
+}
+
+bool Path::operator==(const Path& other) const
+{
+    return m_start == other.m_start ? m_ownSteps == other.m_ownSteps : Steps() == other.Steps();
 }
 
 } // namespace Ombrel::Inspection

@@ -16,24 +16,35 @@ struct Place
     const Place* parent = nullptr; // null for the root, which has no step
     std::string_view key;
     std::size_t index = NO_INDEX; // in place of the key
-    bool isKept = false;          // beyond the walk that came here, with all before it
+    bool isOfEffect = false;      // of a tree that is a list or holds effects in effects
 
     static constexpr std::size_t NO_INDEX = static_cast<std::size_t>(-1);
 
-    Path ToPath() const
+    /// The effect in which the place is, or the root.
+    const Place& Effect() const noexcept
+    {
+        const Place* place = this;
+        while (place->parent && !place->isOfEffect)
+        {
+            place = place->parent;
+        }
+        return *place;
+    }
+
+    /// The steps that lead here from `start`, which is on the way.
+    std::vector<PathStep> StepsFrom(const Place& start) const
     {
         std::size_t count = 0;
-        for (const Place* place = this; place->parent; place = place->parent)
+        for (const Place* place = this; place != &start; place = place->parent)
         {
             ++count;
         }
-        Path path;
-        path.steps.resize(count);
-        for (const Place* place = this; place->parent; place = place->parent)
+        std::vector<PathStep> steps(count);
+        for (const Place* place = this; place != &start; place = place->parent)
         {
-            path.steps[--count] = place->index == NO_INDEX ? PathStep(std::string(place->key)) : PathStep(place->index);
+            steps[--count] = place->index == NO_INDEX ? PathStep(std::string(place->key)) : PathStep(place->index);
         }
-        return path;
+        return steps;
     }
 };
 

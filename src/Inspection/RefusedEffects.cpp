@@ -11,6 +11,7 @@
 #include <exception>
 #include <new>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <variant>
 
@@ -64,41 +65,44 @@ void ForEachHolder(const PropertyTree& value, const ValueSchema& schema, RecordI
     }
 }
 
-// The effect in which a path ends.
-const PropertyTree& InnermostEffect(const PropertyTree& effect, std::span<const PathStep> path)
+// What a path leads to, which is there. Each path that others begin with is followed once.
+class PathTargets
 {
-    const PropertyTree* innermost = &effect;
-    const PropertyTree* value = &effect;
-    const ValueSchema* schema = &EFFECT_VALUE;
-    for (const PathStep& step : path)
+public:
+    /// @param skipped how many steps of all paths lead to the root
+    PathTargets(const PropertyTree& root, std::size_t skipped) : m_root(root), m_skipped(skipped) {}
+
+    const PropertyTree& At(const Path* path)
     {
-        if (const std::size_t* index = std::get_if<std::size_t>(&step))
+        std::vector<const Path*> pending;
+        const PropertyTree* target = nullptr;
+        for (; path && !target; path = path->Start().get())
         {
-            if (!schema->element || !value->isList() || *index >= value->getList().size())
+            const auto found = m_targets.find(path);
+            target = found == m_targets.end() ? nullptr : found->second;
+            if (!target)
             {
-                break;
+                pending.push_back(path);
             }
-            value = &value->getList()[*index];
-            schema = schema->element;
         }
-        else
+        target = target ? target : &m_root;
+        for (auto next = pending.rbegin(); next != pending.rend(); ++next)
         {
-            const RecordSchema* record = FieldsOf(*value, *schema);
-            const auto field = record ? Proc::FindField(*record, std::get<std::string>(step)) : std::nullopt;
-            if (!field || !value->contains(record->fields[*field].key))
+            for (const PathStep& step : std::span((*next)->OwnSteps()).subspan((*next)->Start() ? 0 : m_skipped))
             {
-                break;
+                const std::size_t* index = std::get_if<std::size_t>(&step);
+                target = index ? &target->getList()[*index] : &target->getMap().at(std::get<std::string>(step));
             }
-            value = &(*value)[record->fields[*field].key];
-            schema = record->fields[*field].value;
+            m_targets.emplace(*next, target);
         }
-        if (schema->kind == ValueKind::Effect)
-        {
-            innermost = value;
-        }
+        return *target;
     }
-    return *innermost;
-}
+
+private:
+    const PropertyTree& m_root;
+    const std::size_t m_skipped;
+    std::unordered_map<const Path*, const PropertyTree*> m_targets;
+};
 
 // A part of a tree that is still to be copied.
 struct Copying
@@ -163,11 +167,12 @@ const RecordSchema* SchemaOfEffect(const PropertyTree& effect)
 
 void AddRefused(const PropertyTree& effect, std::span<const Finding> findings, std::size_t steps, EffectSet& refused)
 {
+    PathTargets effects(effect, steps);
     for (const Finding& finding : findings)
     {
         if (SeverityOf(finding.code) == Severity::Error)
         {
-            refused.insert(&InnermostEffect(effect, std::span(finding.path.steps).subspan(steps)));
+            refused.insert(&effects.At(finding.path.Start().get()));
         }
     }
 }
@@ -186,7 +191,8 @@ PropertyTree WithoutEffects(const PropertyTree& effect, const EffectSet* without
 }
 
 // Each effect is tried without the effects in it, so that all of them together are read once.
-void AddFailing(const PropertyTree& effect, const Path& base, EffectSet& refused, std::vector<Finding>& findings)
+void AddFailing(const PropertyTree& effect, const std::shared_ptr<const Path>& base, EffectSet& refused,
+                std::vector<Finding>& findings)
 {
     struct Part
     {
@@ -213,10 +219,7 @@ void AddFailing(const PropertyTree& effect, const Path& base, EffectSet& refused
             const std::string reason = ReadAndWrite(WithoutEffects(*part.value, nullptr, infos), alone, written);
             if (!reason.empty())
             {
-                Path path = base;
-                const Path inner = part.place->ToPath();
-                path.steps.insert(path.steps.end(), inner.steps.begin(), inner.steps.end());
-                AddFailing(*part.value, std::move(path), reason, refused, findings);
+                AddFailing(*part.value, Path(base, part.place->StepsFrom(root)), reason, refused, findings);
                 continue;
             }
         }

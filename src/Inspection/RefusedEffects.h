@@ -29,14 +29,15 @@ using EffectSet = std::unordered_set<const PropertyTree*>;
 /// The schema of the class that the map of a stored effect names; null if there is none.
 const Proc::RecordSchema* SchemaOfEffect(const PropertyTree& effect);
 
-/// Adds the innermost effects that have an error.
+/// Adds the effects that have an error, but not those around them.
 /// @param findings what a check says of the effect
 /// @param steps how many steps of their paths lead to the effect
 void AddRefused(const PropertyTree& effect, std::span<const Finding> findings, std::size_t steps, EffectSet& refused);
 
 /// Adds the effects whose classes fail to read or to write them although no error is known of them, with a finding for each.
-/// @param base the path of the effect
-void AddFailing(const PropertyTree& effect, const Path& base, EffectSet& refused, std::vector<Finding>& findings);
+/// @param base the path of the effect; null for the root
+void AddFailing(const PropertyTree& effect, const std::shared_ptr<const Path>& base, EffectSet& refused,
+                std::vector<Finding>& findings);
 
 /// Adds one effect with the finding that its class refuses it.
 void AddFailing(const PropertyTree& effect, Path path, const std::string& reason, EffectSet& refused,

@@ -127,7 +127,7 @@ std::string EffectMerge::KeyOfElement(const PropertyTree& element, const ValueSc
 {
     static constexpr Place nowhere{};
     m_context.searches = 0;
-    Findings findings;
+    Findings findings(m_context);
     ValueCheck(findings, m_context).Check(element, schema, nowhere);
     return KeyOf(WrittenComparison(findings, m_context).ReadAs(element));
 }

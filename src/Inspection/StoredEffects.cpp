@@ -33,21 +33,27 @@ PropertyTree::List TreesOf(PropertyTree effectOrList)
     return list;
 }
 
-Path PathOfItem(std::size_t index, bool isSingle)
+// Null for the root.
+std::shared_ptr<const Path> PathOfItem(std::size_t index, bool isSingle)
 {
-    Path path;
-    if (!isSingle)
+    return isSingle ? nullptr : std::make_shared<const Path>(std::vector<PathStep>{index});
+}
+
+// The place in a list of the effect that a finding is about.
+std::size_t ItemOf(const Finding& finding)
+{
+    const Path* first = &finding.path;
+    while (first->Start())
     {
-        path.steps.emplace_back(index);
+        first = first->Start().get();
     }
-    return path;
+    return std::get<std::size_t>(first->OwnSteps().front());
 }
 
 // How many of the findings, which are in reading order, are about the item.
 std::size_t CountAbout(std::span<const Finding> findings, std::size_t index, bool isSingle)
 {
-    const auto isOther = [&](const Finding& finding)
-    { return !isSingle && std::get<std::size_t>(finding.path.steps[0]) != index; };
+    const auto isOther = [&](const Finding& finding) { return !isSingle && ItemOf(finding) != index; };
     return static_cast<std::size_t>(std::ranges::find_if(findings, isOther) - findings.begin());
 }
 
@@ -55,11 +61,11 @@ std::size_t CountAbout(std::span<const Finding> findings, std::size_t index, boo
 class TolerantRead
 {
 public:
-    TolerantRead(const PropertyTree& tree, Path path, std::span<const Finding> about, EffectSet& kept,
+    TolerantRead(const PropertyTree& tree, std::shared_ptr<const Path> path, std::span<const Finding> about, EffectSet& kept,
                  std::vector<Finding>& findings)
         : m_tree(tree), m_path(std::move(path)), m_kept(kept), m_findings(findings)
     {
-        AddRefused(tree, about, m_path.steps.size(), kept);
+        AddRefused(tree, about, m_path ? 1 : 0, kept);
         m_isPartial =
             std::ranges::any_of(about, [](const Finding& finding) { return SeverityOf(finding.code) == Severity::Error; });
     }
@@ -76,7 +82,7 @@ public:
         m_isPartial = true;
         if (!m_kept.contains(&m_tree) && !Try(effect, written))
         {
-            AddFailing(m_tree, m_path, m_reason, m_kept, m_findings);
+            AddFailing(m_tree, Path(m_path, {}), m_reason, m_kept, m_findings);
         }
     }
 
@@ -98,7 +104,7 @@ private:
     }
 
     const PropertyTree& m_tree;
-    Path m_path;
+    std::shared_ptr<const Path> m_path;
     EffectSet& m_kept;
     std::vector<Finding>& m_findings;
     bool m_isPartial = false;

@@ -21,7 +21,7 @@ void CopyUsable(const PropertyTree& from, PropertyTree& to, const ValueSchema& s
 {
     if (copies)
     {
-        copies->emplace(&from, Copy{&to, place.ToPath()});
+        copies->emplace(&from, Copy{&to, place.StepsFrom(place.Effect())});
     }
     if (from.isList() && schema.element)
     {

@@ -6,6 +6,7 @@
 #include "PropertyTree/PropertyTree.h"
 
 #include <unordered_map>
+#include <vector>
 
 namespace Ombrel::Inspection
 {
@@ -13,7 +14,7 @@ namespace Ombrel::Inspection
 struct Copy
 {
     PropertyTree* value = nullptr;
-    Path path; // of the original
+    std::vector<PathStep> steps; // from the effect to the original
 };
 using Copies = std::unordered_map<const PropertyTree*, Copy>; // by the originals
 

@@ -271,7 +271,7 @@ const Place* ValueCheck::Kept(const Place& place)
 {
     std::vector<const Place*> chain;
     const Place* kept = &place;
-    while (kept->parent && !kept->isKept)
+    while (kept->parent && !kept->isOfEffect)
     {
         chain.push_back(kept);
         kept = kept->parent;
@@ -280,7 +280,7 @@ const Place* ValueCheck::Kept(const Place& place)
     {
         Place copy = **step;
         copy.parent = kept;
-        copy.isKept = true;
+        copy.isOfEffect = *step == &place;
         kept = &m_context.places.emplace_back(copy);
     }
     return kept;

@@ -2,6 +2,8 @@
 
 #include "PropertyTree/PropertyTreeOutput.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -108,9 +110,10 @@ std::string Shown(const PropertyTree& value)
         return std::to_string(scalar.toInt());
     case Kind::Float:
     {
-        std::ostringstream text;
-        text << scalar;
-        return text.str();
+        std::array<char, 32> digits; // enough for every double
+        char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), scalar.toDouble()).ptr;
+        const std::string text(digits.data(), end);
+        return text.find_first_of(".en") == std::string::npos ? text + ".0" : text; // unlike an integer, an infinity or a NaN
     }
     default:
         return Quoted(scalar.toString());

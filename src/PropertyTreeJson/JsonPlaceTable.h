@@ -27,7 +27,9 @@ public:
     /// The text has ended.
     void Finish(std::string_view text);
 
-    std::optional<JsonPlace> Find(std::span<const std::string> steps) const;
+    /// The number of the value below the one with the number `parent`, in the order of the text.
+    std::optional<std::size_t> Below(std::size_t parent, std::string_view step) const;
+    JsonPlace PlaceOf(std::size_t value) const;
 
 private:
     // The one value of the text that has no parent is its own.
@@ -45,9 +47,6 @@ private:
         std::size_t value;
         std::size_t count = 0; // of its values so far, in a list
     };
-
-    const Value* ChildOf(const Value& parent, const std::string& step) const;
-    JsonPlace PlaceOf(std::size_t offset) const;
 
     std::vector<Value> m_values;
     std::vector<std::size_t> m_sorted; // places in `m_values`, by the parent and the step below it

@@ -54,45 +54,24 @@ void JsonPlaceTable::Finish(std::string_view text)
                       });
 }
 
-std::optional<JsonPlace> JsonPlaceTable::Find(std::span<const std::string> steps) const
+std::optional<std::size_t> JsonPlaceTable::Below(std::size_t parent, std::string_view step) const
 {
-    const Value* value = &m_values.front();
-    for (const std::string& step : steps)
-    {
-        value = ChildOf(*value, step);
-        if (!value)
-        {
-            return std::nullopt;
-        }
-    }
-    return PlaceOf(value->offset);
-}
-
-const JsonPlaceTable::Value* JsonPlaceTable::ChildOf(const Value& parent, const std::string& step) const
-{
-    const std::optional<std::size_t> index = parent.isList ? MessageText::IndexOf(step) : std::size_t{0};
+    const bool isOfList = m_values[parent].isList;
+    const std::optional<std::size_t> index = isOfList ? MessageText::IndexOf(step) : std::size_t{0};
     if (!index)
     {
-        return nullptr;
+        return std::nullopt;
     }
-    const auto number = static_cast<std::size_t>(&parent - m_values.data());
-    const std::string_view key = parent.isList ? std::string_view() : step;
-    const auto found = std::ranges::lower_bound(m_sorted, std::tuple(number, *index, key), {},
-                                                [this](std::size_t place)
-                                                {
-                                                    const Value& value = m_values[place];
-                                                    return std::tuple(value.parent, value.index, std::string_view(value.key));
-                                                });
-    if (found == m_sorted.end())
-    {
-        return nullptr;
-    }
-    const Value& value = m_values[*found];
-    return value.parent == number && value.index == *index && value.key == key ? &value : nullptr;
+    const std::string_view key = isOfList ? std::string_view() : step;
+    const auto wayTo = [this](std::size_t value)
+    { return std::tuple(m_values[value].parent, m_values[value].index, std::string_view(m_values[value].key)); };
+    const auto found = std::ranges::lower_bound(m_sorted, std::tuple(parent, *index, key), {}, wayTo);
+    return found != m_sorted.end() && wayTo(*found) == std::tuple(parent, *index, key) ? std::optional(*found) : std::nullopt;
 }
 
-JsonPlace JsonPlaceTable::PlaceOf(std::size_t offset) const
+JsonPlace JsonPlaceTable::PlaceOf(std::size_t value) const
 {
+    const std::size_t offset = m_values[value].offset;
     const auto next = std::ranges::upper_bound(m_lines, offset);
     return {.line = static_cast<std::size_t>(next - m_lines.begin()), .column = offset - *std::prev(next) + 1};
 }
@@ -109,9 +88,25 @@ JsonPlaces::JsonPlaces(JsonPlaces&& other) noexcept = default;
 JsonPlaces& JsonPlaces::operator=(JsonPlaces&& other) noexcept = default;
 JsonPlaces::~JsonPlaces() = default;
 
+std::optional<JsonPlaces::Value> JsonPlaces::Below(Value value, std::string_view step) const
+{
+    const std::optional<std::size_t> below = m_table->Below(static_cast<std::size_t>(value), step);
+    return below ? std::optional(Value{*below}) : std::nullopt;
+}
+
+JsonPlace JsonPlaces::PlaceOf(Value value) const
+{
+    return m_table->PlaceOf(static_cast<std::size_t>(value));
+}
+
 std::optional<JsonPlace> JsonPlaces::Find(std::span<const std::string> steps) const
 {
-    return m_table->Find(steps);
+    std::optional<Value> value = Value::Top;
+    for (auto step = steps.begin(); value && step != steps.end(); ++step)
+    {
+        value = Below(*value, *step);
+    }
+    return value ? std::optional(PlaceOf(*value)) : std::nullopt;
 }
 
 } // namespace Ombrel

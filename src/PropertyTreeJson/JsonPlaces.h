@@ -38,6 +38,18 @@ public:
     JsonPlaces& operator=(JsonPlaces&& other) noexcept;
     ~JsonPlaces();
 
+    /// A value of the text, to be used with these places alone.
+    enum class Value : std::size_t
+    {
+        Top,
+    };
+
+    /// The value that a key of a map or an index of a list leads to, the index as a decimal number; nothing if there is none.
+    std::optional<Value> Below(Value value, std::string_view step) const;
+
+    /// Where the value begins.
+    JsonPlace PlaceOf(Value value) const;
+
     /// Where the value begins that `steps` lead to: keys of maps, and indices of lists from 0 as decimal numbers; no step leads
     /// to the top value. Nothing if there is no such value.
     std::optional<JsonPlace> Find(std::span<const std::string> steps) const;

@@ -75,7 +75,7 @@ public:
 
 EffectClass ClassAs(const char* id, std::shared_ptr<IEffectSettings> (*create)())
 {
-    return {"OddSettings", id, create, &OddSettings::GetSchema, &OddSettings::StoredOf, Registration::Factory};
+    return {"OddSettings", id, create, &OddSettings::GetSchema, OddSettings::GetStoredSource(), Registration::Factory};
 }
 
 TEST(CheckOfCallers, ASetterThatRefusesIsAnError)
@@ -107,7 +107,7 @@ TEST(CheckOfCallers, WithoutASchemaNothingIsLookedAt)
 {
     IEffectSettings::RegisterFactory("EFFECT_ODD_FACTORY", &OddSettings::CreateBase);
     RegisterEffectClass({"UnlistedSettings", "EFFECT_ODD_UNLISTED", &UnlistedSettings::CreateBase, &UnlistedSettings::GetSchema,
-                         &UnlistedSettings::StoredOf, Registration::Factory});
+                         UnlistedSettings::GetStoredSource(), Registration::Factory});
     EXPECT_EQ(CheckedLines(R"([{"name": "EFFECT_ODD_FACTORY", "x": 1}, {"name": "EFFECT_ODD_UNLISTED", "implName": 3}])"),
               "note no-schema at 0\nnote no-schema at 1\n");
 }

@@ -208,7 +208,7 @@ TEST(Check, TellsWhatWasFoundAndExpected)
     EXPECT_EQ(findings[0].expected, "one of the names \"NoRotation\", \"Angle_90\", \"Angle_180\", \"Angle_270\"");
     EXPECT_EQ(findings[0].nearest, "Angle_90");
     EXPECT_EQ(findings[0].message, "\"angle_90\" reads as \"NoRotation\"");
-    EXPECT_EQ(findings[1].path.steps, (std::vector<PathStep>{"axis"}));
+    EXPECT_EQ(findings[1].path.Steps(), (std::vector<PathStep>{"axis"}));
     EXPECT_EQ(findings[1].found, PropertyTree(1));
     EXPECT_EQ(findings[1].nearest, "");
     EXPECT_EQ(Check(ReadJson(R"({"name": "EFFECT_VIBRENCE"})"))[0].nearest, "EFFECT_VIBRANCE");
@@ -243,7 +243,7 @@ TEST(Check, FindsWhatIsNestedTooDeep)
     const std::vector<Finding> findings = Check(NestedTiles(100000));
     ASSERT_EQ(findings.size(), 1u);
     EXPECT_EQ(findings[0].code, FindingCode::TooDeep);
-    EXPECT_EQ(findings[0].path.steps.size(), 2u * 512);
+    EXPECT_EQ(findings[0].path.Steps().size(), 2u * 512);
 }
 
 TEST(Check, PassesThroughAnyDepthOfPlainTrees)

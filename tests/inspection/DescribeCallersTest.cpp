@@ -178,7 +178,7 @@ TEST(DescribeCallers, ARecordThatHoldsItselfIsDescribedOnce)
 TEST(DescribeCallers, AnInheritedMemberWithoutAKeyIsListed)
 {
     RegisterEffectClass({"TreeSettings", "EFFECT_DESCRIBED_TREE_2", &TreeSettings::CreateBase, &TreeSettings::GetSchema,
-                         &TreeSettings::StoredOf, Registration::Factory});
+                         TreeSettings::GetStoredSource(), Registration::Factory});
     const auto tree = Inspection::Describe("EFFECT_DESCRIBED_TREE_2");
     ASSERT_EQ(tree->members.size(), 6U);
     EXPECT_EQ(tree->members[5].member, "neuralMode");
@@ -212,7 +212,7 @@ TEST(DescribeCallers, WithoutASchemaTheKeysAreNotKnown)
     EXPECT_EQ(factory->fields.size(), 2U);
 
     RegisterEffectClass({"UnlistedSettings", "EFFECT_DESCRIBED_UNLISTED", &UnlistedSettings::CreateBase,
-                         &UnlistedSettings::GetSchema, &UnlistedSettings::StoredOf, Registration::Factory});
+                         &UnlistedSettings::GetSchema, UnlistedSettings::GetStoredSource(), Registration::Factory});
     const auto unlisted = Inspection::Describe("EFFECT_DESCRIBED_UNLISTED");
     ASSERT_TRUE(unlisted);
     EXPECT_EQ(unlisted->className, "UnlistedSettings");

@@ -268,10 +268,10 @@ TEST(FormsOfCallers, WithoutKnownDefaultsTheRecordStays)
 TEST(FormsOfCallers, AClassThatCannotBeMadeStays)
 {
     RegisterEffectClass({"PickySettings", "EFFECT_FORMS_NULL", []() -> std::shared_ptr<IEffectSettings> { return nullptr; },
-                         &PickySettings::GetSchema, &PickySettings::StoredOf, Registration::Factory});
+                         &PickySettings::GetSchema, PickySettings::GetStoredSource(), Registration::Factory});
     RegisterEffectClass({"PickySettings", "EFFECT_FORMS_THROWS",
                          []() -> std::shared_ptr<IEffectSettings> { throw std::runtime_error("no licence"); },
-                         &PickySettings::GetSchema, &PickySettings::StoredOf, Registration::Factory});
+                         &PickySettings::GetSchema, PickySettings::GetStoredSource(), Registration::Factory});
     IEffectSettings::RegisterFactory("EFFECT_FORMS_FACTORY", &PickySettings::CreateBase);
     const char* const given = R"([{"implName":"default","name":"EFFECT_FORMS_NULL","pair":{}},)"
                               R"({"implName":"default","name":"EFFECT_FORMS_THROWS","pair":{}},)"

@@ -199,7 +199,7 @@ TEST(JsonSchema, LeavesOpenWhatIsNotKnown)
 {
     IEffectSettings::RegisterFactory("EFFECT_SCHEMA_FACTORY", &HedgeSettings::CreateBase);
     RegisterEffectClass({"UnlistedSettings", "EFFECT_SCHEMA_UNLISTED", &UnlistedSettings::CreateBase,
-                         &UnlistedSettings::GetSchema, &UnlistedSettings::StoredOf, Registration::Factory});
+                         &UnlistedSettings::GetSchema, UnlistedSettings::GetStoredSource(), Registration::Factory});
     const PropertyTree schema = JsonSchema({.allowUnknownKeys = false});
     EXPECT_EQ(TextOf(schema["$defs"]["effect.EFFECT_SCHEMA_FACTORY"]),
               R"({"properties":{"name":{"const":"EFFECT_SCHEMA_FACTORY"}},"title":"EFFECT_SCHEMA_FACTORY"})");

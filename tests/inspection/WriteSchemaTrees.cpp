@@ -90,7 +90,7 @@ void RegisterClasses()
 {
     PhotoCore::RegisterEffectClass<PlanSettings>();
     PhotoCore::RegisterEffectClass({"UnlistedSettings", "UNLISTED", &UnlistedSettings::CreateBase, &UnlistedSettings::GetSchema,
-                                    &UnlistedSettings::StoredOf, PhotoCore::Registration::Factory});
+                                    UnlistedSettings::GetStoredSource(), PhotoCore::Registration::Factory});
     PhotoCore::IEffectSettings::RegisterFactory("FACTORY", &PlanSettings::CreateBase);
 }
 

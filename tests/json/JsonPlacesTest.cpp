@@ -58,6 +58,22 @@ TEST(JsonPlaces, AreNothingForWhatIsNotThere)
     EXPECT_EQ(PlaceIn("5", {}), "1:1");
 }
 
+TEST(JsonPlaces, CanBeFollowedStepByStep)
+{
+    const JsonPlaces places(LOOK);
+    using Value = JsonPlaces::Value;
+    EXPECT_EQ(places.PlaceOf(Value::Top), (JsonPlace{.line = 1, .column = 1}));
+    const std::optional<Value> last = places.Below(Value::Top, "6");
+    ASSERT_TRUE(last);
+    EXPECT_EQ(places.PlaceOf(*last), (JsonPlace{.line = 5, .column = 3}));
+    const std::optional<Value> text = places.Below(*last, "a/b~");
+    ASSERT_TRUE(text);
+    EXPECT_EQ(places.PlaceOf(*text), (JsonPlace{.line = 5, .column = 30}));
+    EXPECT_FALSE(places.Below(*last, "0"));
+    EXPECT_FALSE(places.Below(*text, ""));
+    EXPECT_FALSE(places.Below(Value::Top, "06"));
+}
+
 TEST(JsonPlaces, CountBytesWithoutAByteOrderMark)
 {
     EXPECT_EQ(PlaceIn("\xEF\xBB\xBF[1]", {}), "1:1");

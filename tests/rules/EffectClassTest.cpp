@@ -70,7 +70,7 @@ std::string RefusalOf(const EffectClass& effectClass)
 
 EffectClass GrainAs(const char* id)
 {
-    return {"GrainSettings",      id, &GrainSettings::CreateBase, &GrainSettings::GetSchema, &GrainSettings::StoredOf,
+    return {"GrainSettings",      id, &GrainSettings::CreateBase, &GrainSettings::GetSchema, GrainSettings::GetStoredSource(),
             Registration::Factory};
 }
 
@@ -135,8 +135,8 @@ TEST(EffectClass, ItsTextsAreCopied)
     {
         const std::string name = "OtherGrainSettings of a library that goes";
         const std::string id = "EFFECT_GRAIN_WITH_A_LONG_NAME";
-        RegisterEffectClass({name, id.c_str(), &GrainSettings::CreateBase, &GrainSettings::GetSchema, &GrainSettings::StoredOf,
-                             Registration::None});
+        RegisterEffectClass({name, id.c_str(), &GrainSettings::CreateBase, &GrainSettings::GetSchema,
+                             GrainSettings::GetStoredSource(), Registration::None});
     }
     const EffectClass* found = FindEffectClass("EFFECT_GRAIN_WITH_A_LONG_NAME");
     EXPECT_EQ(found->className, "OtherGrainSettings of a library that goes");

@@ -2,6 +2,7 @@
 #define OMBREL_EFFECTS_TOOL_CHECK_COMMAND_H
 
 #include "Document.h"
+#include "FindingText.h"
 #include "Inspection/Finding.h"
 #include "Report.h"
 
@@ -19,7 +20,7 @@ struct CheckSettings
     bool isFixing = false; // the document is mended, and the findings are complaints
     bool isJson = false;
     bool isColoured = false;
-    std::size_t maxFindings = 1000;
+    std::size_t maxFindings = MOST_SHOWN;
     std::vector<Inspection::FindingCode> ignored;
 };
 

@@ -135,20 +135,46 @@ JsonPlace Document::PlaceOf(const Inspection::Path& path) const
     {
         m_places.emplace(m_text, JsonReadOptions{.nonFiniteAsText = m_options.nonFinite});
     }
-    Path steps;
-    if (m_around)
+    const JsonPlace place = m_places->PlaceOf(ValueAt(path.OwnSteps(), StartAt(path.Start())));
+    return {.line = m_line.value_or(place.line), .column = place.column};
+}
+
+// The value that paths begin with; each such path is followed once.
+JsonPlaces::Value Document::StartAt(const std::shared_ptr<const Inspection::Path>& start) const
+{
+    JsonPlaces::Value value = m_around ? *m_places->Below(JsonPlaces::Value::Top, EFFECTS) : JsonPlaces::Value::Top;
+    std::vector<std::shared_ptr<const Inspection::Path>> pending;
+    for (std::shared_ptr<const Inspection::Path> part = start; part; part = part->Start())
     {
-        steps.push_back(EFFECTS);
+        if (const auto found = m_starts.find(part); found != m_starts.end())
+        {
+            value = found->second;
+            break;
+        }
+        pending.push_back(part);
     }
-    const Path below = StepsOf(path);
-    steps.insert(steps.end(), below.begin(), below.end());
-    std::optional<JsonPlace> place = m_places->Find(steps);
-    while (!place)
+    for (auto part = pending.rbegin(); part != pending.rend(); ++part)
     {
-        steps.pop_back();
-        place = m_places->Find(steps);
+        value = ValueAt((*part)->OwnSteps(), value);
+        m_starts.emplace(*part, value);
     }
-    return {.line = m_line.value_or(place->line), .column = place->column};
+    return value;
+}
+
+// The last value on the way that is there.
+JsonPlaces::Value Document::ValueAt(std::span<const Inspection::PathStep> steps, JsonPlaces::Value value) const
+{
+    for (const Inspection::PathStep& step : steps)
+    {
+        const std::size_t* index = std::get_if<std::size_t>(&step);
+        const auto below = m_places->Below(value, index ? std::to_string(*index) : std::get<std::string>(step));
+        if (!below)
+        {
+            break;
+        }
+        value = *below;
+    }
+    return value;
 }
 
 std::string Document::TextOf(const Inspection::Path& path) const

@@ -6,8 +6,11 @@
 #include "PropertyTreeJson/JsonPlaces.h"
 
 #include <cstddef>
+#include <memory>
 #include <optional>
+#include <span>
 #include <string>
+#include <unordered_map>
 
 namespace Ombrel::EffectsTool
 {
@@ -72,13 +75,18 @@ public:
 private:
     Document(const std::string& file, std::string text, const ReadingOptions& options, std::optional<std::size_t> line);
 
+    JsonPlaces::Value StartAt(const std::shared_ptr<const Inspection::Path>& start) const;
+    JsonPlaces::Value ValueAt(std::span<const Inspection::PathStep> steps, JsonPlaces::Value value) const;
+
     std::string m_name;
     std::string m_text;
     ReadingOptions m_options;
     std::optional<std::size_t> m_line;    // of JSON Lines
     std::optional<PropertyTree> m_around; // the map that has the effects
     PropertyTree m_tree;
-    mutable std::optional<JsonPlaces> m_places; // once they have been asked for
+    // Once places have been asked for.
+    mutable std::optional<JsonPlaces> m_places;
+    mutable std::unordered_map<std::shared_ptr<const Inspection::Path>, JsonPlaces::Value> m_starts;
 };
 
 } // namespace Ombrel::EffectsTool

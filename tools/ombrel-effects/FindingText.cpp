@@ -2,6 +2,9 @@
 
 #include "PropertyTreeJson/MessageText.h"
 
+#include <utility>
+#include <vector>
+
 namespace Ombrel::EffectsTool
 {
 
@@ -72,6 +75,22 @@ std::string LineOf(const Finding& finding, const Document& document, bool isColo
                     isColoured) +
            " " + Coloured(std::string(TextOf(severity)) + ":", ColourOf(severity), isColoured) + " " + path +
            (path.empty() ? "" : ": ") + MessageOf(finding);
+}
+
+std::string LineOf(Finding finding, const Document& document, std::size_t index)
+{
+    if (document.IsList())
+    {
+        std::vector<Inspection::PathStep> steps = finding.path.Steps();
+        steps.emplace(steps.begin(), index);
+        finding.path = Inspection::Path(std::move(steps));
+    }
+    return LineOf(finding, document, false);
+}
+
+std::string MoreText(const Document& document, std::size_t count)
+{
+    return document.Name() + ": " + std::to_string(count) + " more, which check --max-findings shows";
 }
 
 PropertyTree JsonOf(const Finding& finding, const Document& document)

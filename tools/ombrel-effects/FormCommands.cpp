@@ -1,11 +1,14 @@
 #include "FormCommands.h"
 
+#include "Address.h"
 #include "FindingText.h"
 #include "Inspection/Check.h"
 #include "Inspection/Forms.h"
 #include "Reading.h"
 #include "TreeDifference.h"
 #include "Values.h"
+
+#include <cstddef>
 
 namespace Ombrel::EffectsTool
 {
@@ -17,14 +20,23 @@ using Inspection::Severity;
 namespace
 {
 
-// The form reads the same as the file; if it ever does not, nothing is written.
+// The form reads the same as the file; if it ever does not, nothing is written. What it left alone need not be read.
 Report InForm(const Document& document, const PropertyTree& changed)
 {
     Report report;
     report.SetDocument(document, changed);
-    for (const Difference& difference : DifferencesOf(FullForm(document.Tree()), FullForm(changed)))
+    for (std::size_t index = 0; index != document.Size(); ++index)
     {
-        report.Complain(ExitCode::Findings, document.Name() + ": " + PathText(difference.path) + ": " + TextOf(difference));
+        const PropertyTree& before = document[index];
+        const PropertyTree& after = document.IsList() ? changed.getList()[index] : changed;
+        if (before == after)
+        {
+            continue;
+        }
+        for (const Difference& difference : DifferencesOf(FullForm(before), FullForm(after)))
+        {
+            report.Complain(ExitCode::Findings, Where(document, index, difference.path) + TextOf(difference));
+        }
     }
     return report;
 }
@@ -44,16 +56,16 @@ Report FreezeDocument(const Document& document)
 Report NormaliseDocument(const Document& document)
 {
     Report report;
-    for (const Finding& finding : Inspection::Check(document.Tree()))
-    {
-        const Severity severity = SeverityOf(finding.code);
-        if (severity == Severity::Note || IsOfUnknownEffect(finding))
-        {
-            continue; // nothing is lost, and an effect that is not known stays as it is
-        }
-        report.Complain(severity == Severity::Error ? ExitCode::BadInput : ExitCode::Findings,
-                        LineOf(finding, document, false));
-    }
+    ComplainOf(Inspection::Check(document.Tree()), document, report,
+               [](const Finding& finding) -> std::optional<ExitCode>
+               {
+                   const Severity severity = SeverityOf(finding.code);
+                   if (severity == Severity::Note || IsOfUnknownEffect(finding))
+                   {
+                       return std::nullopt; // nothing is lost, and an effect that is not known stays as it is
+                   }
+                   return severity == Severity::Error ? ExitCode::BadInput : ExitCode::Findings;
+               });
     report.SetDocument(document, Inspection::Normalise(document.Tree()));
     return report;
 }

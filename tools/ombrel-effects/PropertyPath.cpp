@@ -3,7 +3,9 @@
 #include "PropertyTreeJson/MessageText.h"
 #include "Values.h"
 
+#include <algorithm>
 #include <stdexcept>
+#include <utility>
 #include <variant>
 
 namespace Ombrel::EffectsTool
@@ -20,6 +22,42 @@ std::string Unescaped(std::string_view key)
         result += !isEscape ? key[i] : key[++i] == '0' ? '~' : '/';
     }
     return result;
+}
+
+bool IsSame(const Inspection::PathStep& step, const std::string& text)
+{
+    const std::size_t* index = std::get_if<std::size_t>(&step);
+    return index ? IndexOf(text) == *index : std::get<std::string>(step) == text;
+}
+
+std::size_t CountSteps(const Inspection::Path& path)
+{
+    std::size_t count = 0;
+    for (const Inspection::Path* part = &path; part; part = part->Start().get())
+    {
+        count += part->OwnSteps().size();
+    }
+    return count;
+}
+
+// Whether the steps of a path are the same as these, up to the end of the shorter one.
+bool AreFirstSame(const Inspection::Path& path, std::size_t count, PathView steps)
+{
+    std::size_t end = count; // of the part
+    for (const Inspection::Path* part = &path; part; part = part->Start().get())
+    {
+        const std::vector<Inspection::PathStep>& own = part->OwnSteps();
+        const std::size_t begin = end - own.size();
+        for (std::size_t step = begin; step < std::min(end, steps.size()); ++step)
+        {
+            if (!IsSame(own[step - begin], steps[step]))
+            {
+                return false;
+            }
+        }
+        end = begin;
+    }
+    return true;
 }
 
 } // namespace
@@ -52,12 +90,29 @@ std::string PathText(PathView path)
 Path StepsOf(const Inspection::Path& path)
 {
     Path steps;
-    for (const Inspection::PathStep& step : path.steps)
+    for (Inspection::PathStep& step : path.Steps())
     {
         const std::size_t* index = std::get_if<std::size_t>(&step);
-        steps.push_back(index ? std::to_string(*index) : std::get<std::string>(step));
+        steps.push_back(index ? std::to_string(*index) : std::move(std::get<std::string>(step)));
     }
     return steps;
+}
+
+bool StartsWith(PathView path, PathView beginning)
+{
+    return beginning.size() <= path.size() && std::ranges::equal(path.first(beginning.size()), beginning);
+}
+
+bool StartsWith(PathView path, const Inspection::Path& beginning)
+{
+    const std::size_t count = CountSteps(beginning);
+    return count <= path.size() && AreFirstSame(beginning, count, path);
+}
+
+bool StartsWith(const Inspection::Path& path, PathView beginning)
+{
+    const std::size_t count = CountSteps(path);
+    return beginning.size() <= count && AreFirstSame(path, count, beginning);
 }
 
 std::string PathTexts(const std::vector<std::string>& steps)

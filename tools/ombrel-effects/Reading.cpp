@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
+#include <variant>
 #include <vector>
 
 namespace Ombrel::EffectsTool
@@ -25,28 +27,37 @@ bool IsError(const Finding& finding)
     return SeverityOf(finding.code) == Severity::Error;
 }
 
-// Takes out an effect that is refused as a whole.
-void TakeOut(PropertyTree& tree, const Finding& finding)
+// The path of an effect whose name is refused, which is as good as the effect; otherwise the path itself.
+Inspection::Path WithoutName(const Inspection::Path& path)
 {
-    Path path = StepsOf(finding.path);
-    if (!path.empty() && path.back() == Proc::StoredKeys::NAME)
+    std::vector<Inspection::PathStep> steps = path.OwnSteps();
+    if (!steps.empty() && steps.back() == Inspection::PathStep(std::string(Proc::StoredKeys::NAME)))
     {
-        path.pop_back(); // the name of an effect is as good as the effect
+        steps.pop_back();
     }
-    if (path.empty())
+    return {path.Start(), std::move(steps)};
+}
+
+// How an error is mended; an effect that is refused as a whole is taken out.
+Finding MendableOf(const Finding& error)
+{
+    Finding mendable;
+    if (error.mend != Mend::None)
     {
-        tree = {};
-        return;
+        mendable.path = error.path;
+        mendable.mend = error.mend;
+        mendable.becomes = error.becomes;
+        return mendable;
     }
-    PropertyTree* parent = Find(tree, PathView(path).first(path.size() - 1));
-    if (parent && parent->isMap())
+    mendable.path = WithoutName(error.path);
+    const Inspection::Path* path = &mendable.path;
+    while (path->OwnSteps().empty() && path->Start())
     {
-        parent->getMap().erase(path.back());
+        path = path->Start().get();
     }
-    else if (parent && parent->isList() && FindChild(*parent, path.back()))
-    {
-        *Find(*parent, PathView(path).last(1)) = {};
-    }
+    const bool isOfMap = !path->OwnSteps().empty() && std::holds_alternative<std::string>(path->OwnSteps().back());
+    mendable.mend = isOfMap ? Mend::Remove : Mend::Replace; // by null
+    return mendable;
 }
 
 } // namespace
@@ -62,34 +73,32 @@ bool IsReadable(std::span<const Finding> findings, bool isUnknownAnError)
                                 { return IsError(finding) && (isUnknownAnError || !IsOfUnknownEffect(finding)); });
 }
 
+bool IsAround(const Finding& error, PathView place)
+{
+    return StartsWith(place, WithoutName(error.path));
+}
+
 PropertyTree WithoutErrors(const PropertyTree& tree, std::span<const Finding> findings)
 {
-    PropertyTree readable = tree;
     std::vector<Finding> mendable;
     for (const Finding& finding : findings)
     {
-        if (IsError(finding) && finding.mend == Mend::None)
+        if (IsError(finding))
         {
-            TakeOut(readable, finding);
-        }
-        else if (IsError(finding))
-        {
-            mendable.push_back(finding);
+            mendable.push_back(MendableOf(finding));
         }
     }
-    return mendable.empty() ? readable : Mended(std::move(readable), mendable);
+    return Mended(tree, mendable);
+}
+
+PropertyTree WrittenForm(const PropertyTree& tree, std::span<const Finding> findings)
+{
+    return Inspection::Normalise(IsReadable(findings, true) ? tree : WithoutErrors(tree, findings));
 }
 
 PropertyTree FullForm(const PropertyTree& tree, std::span<const Finding> findings)
 {
-    const PropertyTree* readable = &tree;
-    PropertyTree changed;
-    if (!IsReadable(findings, true))
-    {
-        changed = WithoutErrors(tree, findings);
-        readable = &changed;
-    }
-    return Inspection::Freeze(Inspection::Normalise(*readable));
+    return Inspection::Freeze(WrittenForm(tree, findings));
 }
 
 PropertyTree FullForm(const PropertyTree& tree)

@@ -25,11 +25,6 @@ using Inspection::Severity;
 using Proc::ValueKind;
 using Proc::ValueSchema;
 
-bool StartsWith(PathView path, PathView beginning)
-{
-    return beginning.size() <= path.size() && std::ranges::equal(path.first(beginning.size()), beginning);
-}
-
 /// One effect of a document that is changed at one place. What is read of it is compared with what was read before.
 class Change
 {
@@ -133,10 +128,9 @@ void Change::RefuseErrors(const std::vector<Finding>& findings) const
 {
     for (const Finding& finding : findings)
     {
-        const Path path = StepsOf(finding.path);
-        if (SeverityOf(finding.code) == Severity::Error && StartsWith(path, Place()))
+        if (SeverityOf(finding.code) == Severity::Error && StartsWith(finding.path, Place()))
         {
-            throw ToolError(ExitCode::Usage, WhereIs(path) + MessageOf(finding));
+            throw ToolError(ExitCode::Usage, WhereIs(StepsOf(finding.path)) + MessageOf(finding));
         }
     }
 }
@@ -146,10 +140,12 @@ void Change::ComplainOfLostKeys(const std::vector<Finding>& findings, Report& re
 {
     for (const Finding& finding : findings)
     {
-        const bool isNew = std::ranges::none_of(m_findings, [&](const Finding& before)
-                                                { return before.code == finding.code && before.path == finding.path; });
+        if (finding.code != FindingCode::UnknownKey || !StartsWith(finding.path, Place()))
+        {
+            continue;
+        }
         const Path path = StepsOf(finding.path);
-        if (isNew && finding.code == FindingCode::UnknownKey && StartsWith(path, Place()))
+        if (!Find(m_given, path))
         {
             report.Complain(ExitCode::Findings, WhereIs(path) + MessageOf(finding));
         }
@@ -160,9 +156,8 @@ void Change::ComplainOfLostKeys(const std::vector<Finding>& findings, Report& re
 bool Change::IsKeptByMeaning(const ValueSchema& schema, const std::vector<Finding>& findings) const
 {
     return (schema.kind == ValueKind::Set || schema.kind == ValueKind::ColorMap) &&
-           std::ranges::none_of(
-               findings, [this](const Finding& finding)
-               { return SeverityOf(finding.code) != Severity::Note && StartsWith(StepsOf(finding.path), Place()); });
+           std::ranges::none_of(findings, [this](const Finding& finding)
+                                { return SeverityOf(finding.code) != Severity::Note && StartsWith(finding.path, Place()); });
 }
 
 void Change::ComplainOfOthers(const PropertyTree& after, Report& report) const
@@ -220,7 +215,7 @@ PropertyTree Change::Pruned(PropertyTree without) const
         }
         parent.getMap().erase(Place()[length - 1]);
     }
-    return DifferencesOf(FullForm(without), FullForm(pruned)).empty() ? pruned : without;
+    return pruned == without || !DifferencesOf(FullForm(without), FullForm(pruned)).empty() ? without : pruned;
 }
 
 void Change::SetDocument(PropertyTree element, Report& report) const
@@ -255,7 +250,8 @@ Report Change::Set(const std::string& text)
     const std::vector<Finding> findings = Inspection::Check(changed);
     RefuseErrors(findings);
     ComplainOfLostKeys(findings, report);
-    const PropertyTree after = FullForm(changed, findings);
+    const PropertyTree written = WrittenForm(changed, findings);
+    const PropertyTree after = Inspection::Freeze(written);
     const PropertyTree* read = Find(after, Place());
     if (!read || !(IsStoredAs(given, *read) || IsKeptByMeaning(*schema, findings)))
     {
@@ -263,8 +259,8 @@ Report Change::Set(const std::string& text)
                                                 (read ? ShownInBrief(*read) : "nothing"));
     }
     ComplainOfOthers(after, report);
-    PropertyTree stored = Stored(changed, Inspection::Normalise(WithoutErrors(changed, findings)), *schema);
-    if (!DifferencesOf(FullForm(stored), after).empty())
+    PropertyTree stored = Stored(changed, written, *schema);
+    if (stored != changed && !DifferencesOf(FullForm(stored), after).empty())
     {
         stored = changed;
     }

@@ -35,59 +35,88 @@ std::string HeadOf(const PropertyTree& effect)
     return MessageText::Printable(id) + (effectClass ? "  " + std::string(effectClass->className) : std::string());
 }
 
-// What the file holds and a read changes, loses or refuses, with what stands there.
-std::string LinesOf(const std::vector<Finding>& findings)
+// The effects of a document, a line for each key, with what a read changes, loses or refuses and what stands there.
+class Listing
 {
-    std::string text;
-    for (const Finding& finding : findings)
-    {
-        if (SeverityOf(finding.code) != Severity::Note)
-        {
-            const std::string path = MessageText::Printable(finding.path.ToText());
-            text += "  ! " + path + (path.empty() ? "" : " = ") + (path.empty() ? "" : ShownInBrief(finding.found)) +
-                    (path.empty() ? "" : ": ") + MessageOf(finding) + "\n";
-        }
-    }
-    return text;
-}
+public:
+    Listing(const Document& document, bool isChangedOnly) : m_document(document), m_isChangedOnly(isChangedOnly) {}
 
-std::string ListingOf(const PropertyTree& effect, const std::vector<Finding>& findings, bool isChangedOnly)
-{
-    std::string text = HeadOf(effect) + "\n";
-    const PropertyTree written = Inspection::Normalise(WithoutErrors(effect, findings));
-    const PropertyTree full = Inspection::Freeze(written);
-    if (full.isMap())
+    void Add(const PropertyTree& effect, const std::vector<Finding>& findings)
     {
-        for (const auto& [key, value] : full.getMap())
+        m_text += HeadOf(effect) + "\n";
+        const PropertyTree written = WrittenForm(effect, findings);
+        const PropertyTree full = Inspection::Freeze(written);
+        if (full.isMap())
+        {
+            AddKeys(full.getMap(), written);
+        }
+        AddFindings(findings);
+    }
+
+    void Add(const std::string& text) { m_text += text; }
+
+    std::string Text() const
+    {
+        return m_findings <= MOST_SHOWN ? m_text : m_text + MoreText(m_document, m_findings - MOST_SHOWN) + "\n";
+    }
+
+private:
+    void AddKeys(const PropertyTree::Map& full, const PropertyTree& written)
+    {
+        for (const auto& [key, value] : full)
         {
             // What has its default is not written.
             const bool isChanged = written.contains(key);
             const bool isOfEveryEffect = std::ranges::find(Proc::StoredKeys::RESERVED, key) != Proc::StoredKeys::RESERVED.end();
-            if (key != Proc::StoredKeys::NAME && (isChanged || (!isChangedOnly && !isOfEveryEffect)))
+            if (key != Proc::StoredKeys::NAME && (isChanged || (!m_isChangedOnly && !isOfEveryEffect)))
             {
-                text += std::string(isChanged ? "  * " : "    ") + key + " = " + Shown(value) + '\n';
+                m_text += std::string(isChanged ? "  * " : "    ") + key + " = " + Shown(value) + '\n';
             }
         }
     }
-    return text + LinesOf(findings);
-}
+
+    void AddFindings(const std::vector<Finding>& findings)
+    {
+        for (const Finding& finding : findings)
+        {
+            if (SeverityOf(finding.code) != Severity::Note && ++m_findings <= MOST_SHOWN)
+            {
+                const std::string path = MessageText::Printable(finding.path.ToText());
+                m_text += "  ! " + path + (path.empty() ? "" : " = " + ShownInBrief(finding.found) + ": ") +
+                          MessageOf(finding) + "\n";
+            }
+        }
+    }
+
+    const Document& m_document;
+    const bool m_isChangedOnly;
+    std::string m_text;
+    std::size_t m_findings = 0;
+};
 
 } // namespace
 
 Report ShowDocument(const Document& document, bool isChangedOnly)
 {
     Report report;
+    Listing listing(document, isChangedOnly);
     for (std::size_t index = 0; index < document.Size(); ++index)
     {
         const PropertyTree& effect = document[index];
+        listing.Add(document.IsList() ? std::to_string(index) + "  " : "");
+        if (effect.isNull())
+        {
+            listing.Add("null\n");
+            continue;
+        }
         const std::vector<Finding> findings = Inspection::Check(effect);
-        report.out += document.IsList() ? std::to_string(index) + "  " : "";
-        report.out += effect.isNull() ? "null\n" : ListingOf(effect, findings, isChangedOnly);
+        listing.Add(effect, findings);
         if (!IsReadable(findings, false))
         {
             report.Raise(ExitCode::BadInput);
         }
     }
+    report.out = listing.Text();
     return report;
 }
 
@@ -96,13 +125,15 @@ Report ShowAsJson(const Document& document)
     Report report;
     const std::vector<Finding> findings = Inspection::Check(document.Tree());
     report.out = document.TextWith(FullForm(document.Tree(), findings));
-    for (const Finding& finding : findings)
-    {
-        if (SeverityOf(finding.code) == Severity::Error)
-        {
-            report.Complain(IsOfUnknownEffect(finding) ? ExitCode::Fine : ExitCode::BadInput, LineOf(finding, document, false));
-        }
-    }
+    ComplainOf(findings, document, report,
+               [](const Finding& finding) -> std::optional<ExitCode>
+               {
+                   if (SeverityOf(finding.code) != Severity::Error)
+                   {
+                       return std::nullopt;
+                   }
+                   return IsOfUnknownEffect(finding) ? ExitCode::Fine : ExitCode::BadInput;
+               });
     return report;
 }
 

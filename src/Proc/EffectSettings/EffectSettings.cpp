@@ -147,6 +147,11 @@ std::unique_ptr<const PhotoUtil::ISerializableBase::IPropertyAccess> EffectSetti
     return MakePropertyAccess(getSchema, const_cast<void*>(record));
 }
 
+void* EffectSettings::RecordOf(IEffectSettings& effect) noexcept
+{
+    return dynamic_cast<void*>(&effect.GetEffectSettingsRef());
+}
+
 bool EffectSettings::HasClassId(const IEffectSettings& effect, const std::string& id)
 {
     const std::string& other = effect.GetEffectSettings().GetClassId();

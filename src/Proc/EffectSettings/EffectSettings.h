@@ -59,6 +59,7 @@ protected:
     EffectSettings();
 
     using SchemaSource = const Proc::RecordSchema*() noexcept;
+    using StoredSource = void*(IEffectSettings& effect) noexcept;
 
     /// Also the fields of `object`, which the schema describes; none without a schema.
     void SerializeWith(PropertyTree& tree, SchemaSource* getSchema, const void* object) const;
@@ -67,6 +68,9 @@ protected:
     /// Access to the fields of `record`; an empty pointer without a source or a schema.
     static std::unique_ptr<IPropertyAccess> MakePropertyAccess(SchemaSource* getSchema, void* record);
     static std::unique_ptr<const IPropertyAccess> MakePropertyAccess(SchemaSource* getSchema, const void* record);
+
+    /// The record of `effect`, as an object of its own class.
+    static void* RecordOf(IEffectSettings& effect) noexcept;
 
     /// Whether the record of `effect` has the class id.
     static bool HasClassId(const IEffectSettings& effect, const std::string& id);

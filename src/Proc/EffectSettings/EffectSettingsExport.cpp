@@ -153,9 +153,9 @@ void* GetNothing(IEffectSettings&) noexcept
 
 template <class Effect> consteval auto StoredOf()
 {
-    if constexpr (requires { &Effect::StoredOf; })
+    if constexpr (requires { Effect::GetStoredSource(); })
     {
-        return &Effect::StoredOf;
+        return Effect::GetStoredSource();
     }
     else
     {

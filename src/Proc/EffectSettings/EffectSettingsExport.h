@@ -57,7 +57,7 @@ template <class Effect> void RegisterEffectClass()
                          .classId = Effect::RecordType::CLASS_NAME,
                          .create = &Effect::CreateBase,
                          .getSchema = &Effect::GetSchema,
-                         .getStored = &Effect::StoredOf,
+                         .getStored = Effect::GetStoredSource(),
                          .registration = Registration::Factory});
 }
 

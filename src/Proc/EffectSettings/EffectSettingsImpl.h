@@ -53,10 +53,18 @@ public:
         }
     }
 
-    /// The object whose fields the schema describes: the record, or the effect where it stores itself.
-    OMBREL_LOCAL static void* StoredOf(IEffectSettings& effect) noexcept
+    /// Finds in an effect of this class the object whose fields the schema describes: the record, or the effect where it stores
+    /// itself.
+    OMBREL_LOCAL static consteval StoredSource* GetStoredSource() noexcept
     {
-        return const_cast<void*>(static_cast<const EffectSettingsImpl&>(effect).GetStored());
+        if constexpr (StoresItself<Derived>)
+        {
+            return [](IEffectSettings& effect) noexcept -> void* { return &static_cast<Derived&>(effect); };
+        }
+        else
+        {
+            return &RecordOf;
+        }
     }
 
     OMBREL_LOCAL Record& GetTypedSettings() noexcept { return settings; }

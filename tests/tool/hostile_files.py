@@ -1,0 +1,107 @@
+"""Files that are made to take long, through all commands that take a file: each ends in time, with a code that says how."""
+
+import pathlib
+import resource
+import subprocess
+import sys
+import tempfile
+
+program, size, seconds = sys.argv[1], int(sys.argv[2]), float(sys.argv[3])
+
+DEEPEST = min(510, size // 160)  # effects in effects
+
+
+def repeated(head, part, tail, separator=",", room=size):
+    """As many parts as have room; "%d" in a part becomes its number."""
+    parts = []
+    length = len(head) + len(tail)
+    while length < room:
+        parts.append(part.replace("%d", str(len(parts))))
+        length += len(parts[-1]) + len(separator)
+    return head + separator.join(parts) + tail
+
+
+def listed(part):
+    return repeated("[", part, "]")
+
+
+def nested(levels, inner):
+    begin = '{"name":"effectSettingsTileStub","effectRows":[{"cols":[['
+    return begin * levels + inner + "]]}]}" * levels
+
+
+def deep(head, part, tail):
+    """As deep as can be read, with as many parts as have room."""
+    return nested(DEEPEST, repeated(head, part, tail, room=size - len(nested(DEEPEST, ""))))
+
+
+ACID = '{"name":"EFFECT_ACID",'
+# Each with a value that may be in it.
+FILES = {
+    "brackets": ("[" * size, "0"),
+    "lists in lists": ("[" * 4000 + "]" * 4000, "0/0/0"),
+    "short lists in lists": (listed("[" * 400 + "]" * 400), "0/0/0"),
+    "spaces": (" " * size + "[]", "0"),
+    "nulls": (listed("null"), "0"),
+    "empty maps": (listed("{}"), "0/name"),
+    "empty maps and a default": (listed("{}")[:-1] + ',{"name":"EFFECT_ACID","implName":"default"}]', "0/name"),
+    "long key": (ACID + '"' + "a" * size + '":1}', "radius"),
+    "long name": ('{"name":"' + "E" * size + '"}', "name"),
+    "long text of control characters": (repeated('{"name":"EFFECT_ACID","implName":"', "\\u001b", '"}', ""), "implName"),
+    "unknown effects": (listed('{"name":"EFFECT_%d"}'), "0/radius"),
+    "unknown keys": (repeated(ACID, '"radiu%d":0', "}"), "radius"),
+    "defaults": (listed(ACID + '"radius":0,"sigma":0.5}'), "0/radius"),
+    "wrong kinds": (listed(ACID + '"radius":"x","sigma":[]}'), "0/radius"),
+    "much of an effect": (listed('{"name":"EFFECT_ADJUSTER","smartBlur":{"lumaRadius":5.5,"x":1},"vibrance":{}}'), "0/smartBlur/lumaRadius"),
+    "computed values": (listed('{"name":"EFFECT_FISH_EYE","intensity":3.0,"deviation":%d.5}'), "0/deviation"),
+    "a long list": (repeated('{"name":"EFFECT_BLUR_RADIAL","trace":[', '{"x":1.5,"y":"a"}', "]}"), "trace/0/x"),
+    "a long map of colours": (repeated('{"name":"EFFECT_GRADIENT","gradient":[', '{"key":%d,"value":"ff0000ff"}', "]}"), "gradient/0/value"),
+    "one element many times": (repeated(ACID + '"helperSettings":{"applyMode":[', '"ApplyStop"', "]}}"), "helperSettings/applyMode/0"),
+    "many unknown elements": (repeated(ACID + '"helperSettings":{"applyMode":[', '"Apply%d"', "]}}"), "helperSettings/applyMode/0"),
+    "many rows": (repeated('{"name":"effectSettingsTileStub","effectRows":[', '{"cols":[[' + ACID + '"radius":0}]]}', "]}"), "effectRows/0/cols/0/0/radius"),
+    "too deep": (nested(600, ACID + '"radius":1}'), "effectRows/0/cols/0/0/effectRows"),
+    "deep unknown keys": (deep(ACID, '"k%d":0', "}"), "implName"),
+    "deep unknown effects": (deep("", '{"name":"EFFECT_%d"}', ""), "implName"),
+    "deep wrong kinds": (deep("", ACID + '"radius":"x"}', ""), "implName"),
+    "deep computed values": (deep("", '{"name":"EFFECT_FISH_EYE","intensity":3.0,"deviation":%d.5}', ""), "implName"),
+}
+COMMANDS = [
+    ["check", "FILE"],
+    ["check", "--json", "FILE"],
+    ["check", "--fix", "FILE"],
+    ["show", "FILE"],
+    ["show", "--changed", "FILE"],
+    ["show", "--json", "FILE"],
+    ["thin", "FILE"],
+    ["freeze", "FILE"],
+    ["normalise", "FILE"],
+    ["get", "FILE", "PATH"],
+    ["get", "--raw", "FILE", "PATH"],
+    ["set", "FILE", "PATH", "5"],
+    ["set", "--in-place", "--force", "FILE", "PATH", "ffffffff"],
+    ["unset", "FILE", "PATH"],
+]
+
+
+def run(file, path, command):
+    """The processor time that it takes, which does not depend on what else the machine does."""
+    arguments = [{"FILE": file, "PATH": path}.get(word, word) for word in command]
+    before = resource.getrusage(resource.RUSAGE_CHILDREN)
+    ended = subprocess.run([program, *arguments], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=300)
+    after = resource.getrusage(resource.RUSAGE_CHILDREN)
+    return ended.returncode, after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
+
+
+failures = []
+longest = (0.0, "", [])
+with tempfile.TemporaryDirectory() as folder:
+    for name, (text, path) in FILES.items():
+        file = str(pathlib.Path(folder) / "hostile.json")
+        for command in COMMANDS:
+            pathlib.Path(file).write_text(text)
+            code, taken = run(file, path, command)
+            longest = max(longest, (taken, name, command))
+            if not 0 <= code <= 4 or taken > seconds:
+                failures.append(f"{name}: {' '.join(command)}: code {code}, {taken:.2f} s")
+print(f"the longest: {longest[0]:.2f} s, {longest[1]}: {' '.join(longest[2])}")
+sys.exit("\n".join(failures) or 0)
