@@ -358,6 +358,10 @@ TEST_F(ToolUnset, RefusesWhatIsNoKeyOfTheFile)
     EXPECT_EQ(
         RunOn(content, {"unset", "helperSettings/applyMode/0"}),
         (ToolResult{2, "", "f.json: helperSettings/applyMode/0: an element of a list cannot be unset, expected a key\n"}));
+    EXPECT_EQ(RunOn(R"({"name":"EFFECT_GRADIENT","gradient":[{"key":1,"value":"ff0000ff"}]})", {"unset", "gradient/0/value"}),
+              (ToolResult{2, "",
+                          "f.json: gradient/0/value: the key cannot be unset: the map has no \"value\"; expected a map with "
+                          "\"key\" and \"value\" [wrong-kind]\n"}));
 }
 
 TEST_F(ToolUnset, SaysWhatElseIsReadAsAnother)

@@ -46,6 +46,7 @@ private:
     PropertyTree Stored(const PropertyTree& changed, const PropertyTree& written, const ValueSchema& schema) const;
     PropertyTree Pruned(PropertyTree without) const;
     void RefuseErrors(const std::vector<Finding>& findings) const;
+    void RefuseMissingKey(const std::vector<Finding>& findings) const;
     void ComplainOfLostKeys(const std::vector<Finding>& findings, Report& report) const;
     bool IsKeptByMeaning(const ValueSchema& schema, const std::vector<Finding>& findings) const;
     void ComplainOfOthers(const PropertyTree& after, Report& report) const;
@@ -132,6 +133,18 @@ void Change::RefuseErrors(const std::vector<Finding>& findings) const
         {
             throw ToolError(ExitCode::Usage, WhereIs(StepsOf(finding.path)) + MessageOf(finding));
         }
+    }
+}
+
+// Elements of a map of colours must have both keys.
+void Change::RefuseMissingKey(const std::vector<Finding>& findings) const
+{
+    const auto isErrorAround = [this](const Finding& finding)
+    { return SeverityOf(finding.code) == Severity::Error && StartsWith(Place(), finding.path); };
+    const auto error = std::ranges::find_if(findings, isErrorAround);
+    if (error != findings.end() && std::ranges::none_of(m_findings, isErrorAround))
+    {
+        throw ToolError(ExitCode::Usage, WhereIs(Place()) + "the key cannot be unset: " + MessageOf(*error));
     }
 }
 
@@ -282,8 +295,10 @@ Report Change::Unset()
     }
     parent.getMap().erase(Place().back());
     changed = Pruned(std::move(changed));
+    const std::vector<Finding> findings = Inspection::Check(changed);
+    RefuseMissingKey(findings);
     Report report;
-    ComplainOfOthers(FullForm(changed), report);
+    ComplainOfOthers(FullForm(changed, findings), report);
     SetDocument(std::move(changed), report);
     return report;
 }
