@@ -198,8 +198,8 @@ public:
             return;
         }
         ++m_depth;
-        Require(effect.contains("implName") && effect.contains("helperSettings"), "a frozen effect lacks a key of its own",
-                TextOf(m_tree));
+        RequireKey(effect, "implName");
+        RequireKey(effect, "helperSettings");
         if (m_depth == 1 || effect["name"].getScalar().toString() != "effectSettingsTileStub") // a copied tile loses them
         {
             RequireRecord(effect["helperSettings"], PhotoCore::HelperSettings::Schema());
@@ -212,12 +212,20 @@ public:
     }
 
 private:
+    // The text of a deep tree is long, so it is made only for a fault.
+    void RequireKey(const PropertyTree& map, std::string_view key)
+    {
+        if (!map.contains(std::string(key)))
+        {
+            Require(false, "a frozen map lacks a key", std::string(key) + " in " + TextOf(m_tree));
+        }
+    }
+
     void RequireRecord(const PropertyTree& record, const Proc::RecordSchema& schema)
     {
         for (const Proc::FieldSchema& field : record.isMap() ? schema.fields : decltype(schema.fields){})
         {
-            Require(record.contains(field.key), "a frozen record lacks a key",
-                    std::string(field.key) + " in " + TextOf(m_tree));
+            RequireKey(record, field.key);
             RequireValue(record[field.key], *field.value);
         }
     }
