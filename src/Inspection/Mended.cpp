@@ -1,4 +1,5 @@
 #include "Inspection/Finding.h"
+#include "Inspection/TreeSteps.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -12,20 +13,6 @@ namespace Ombrel::Inspection
 {
 namespace
 {
-
-PropertyTree* ChildOf(PropertyTree* parent, const PathStep& step)
-{
-    if (const std::size_t* index = std::get_if<std::size_t>(&step))
-    {
-        return parent && parent->isList() && *index < parent->getList().size() ? &parent->getList()[*index] : nullptr;
-    }
-    if (!parent || !parent->isMap())
-    {
-        return nullptr;
-    }
-    const auto found = parent->getMap().find(std::get<std::string>(step));
-    return found == parent->getMap().end() ? nullptr : &found->second;
-}
 
 // The places that paths lead to, as a tree of their own. The steps that paths share are followed once.
 class Places
@@ -72,7 +59,7 @@ std::size_t Places::Below(std::size_t parent, const PathStep& step)
     {
         Place& above = m_places[parent];
         above.hasBelow = true;
-        m_places.push_back({.value = ChildOf(above.value, step), .depth = above.depth + 1});
+        m_places.push_back({.value = ChildAt(above.value, step), .depth = above.depth + 1});
     }
     return found->second;
 }
@@ -134,7 +121,7 @@ void Places::FindAgain(std::size_t parent)
         const auto [begin, end] = StepsBelow(place);
         for (auto step = begin; step != end; ++step)
         {
-            m_places[step->second].value = ChildOf(m_places[place].value, step->first.second);
+            m_places[step->second].value = ChildAt(m_places[place].value, step->first.second);
             pending.push_back(step->second);
         }
     }
@@ -219,7 +206,7 @@ PropertyTree Mended(PropertyTree tree, std::span<const Finding> findings)
         else if (finding.mend != Mend::None)
         {
             const std::size_t parts = finding.mend == Mend::RemoveElement ? 1 : 0; // of the element, below it
-            places.MarkRemoved(places.At(finding.path, parts)); // the root stays
+            places.MarkRemoved(places.At(finding.path, parts));                    // the root stays
         }
     }
     places.Remove();

@@ -2,11 +2,13 @@
 
 #include "PropertyTree/PropertyTreeOutput.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <sstream>
 #include <stdexcept>
 #include <utility>
@@ -136,7 +138,7 @@ std::string KeyOf(const PropertyTree& value)
         std::string key;
         for (const auto& [name, child] : value.getMap())
         {
-            key += name + ' ' + KeyOf(child) + ' ';
+            key += std::to_string(name.size()) + ' ' + name + KeyOf(child) + ' ';
         }
         return key;
     }
@@ -197,6 +199,28 @@ bool AreSame(const PropertyTree& a, const PropertyTree& b)
         }
     }
     return true;
+}
+
+bool AreSameUnordered(const PropertyTree& a, const PropertyTree& b)
+{
+    const auto isFlat = [](const PropertyTree& element)
+    {
+        const auto isNoContainer = [](const auto& entry) { return !entry.second.isMap() && !entry.second.isList(); };
+        return element.isMap() ? std::ranges::all_of(element.getMap(), isNoContainer) : !element.isList();
+    };
+    if (!a.isList() || !b.isList() || a.getList().size() != b.getList().size() || AreSame(a, b) ||
+        !std::ranges::all_of(a.getList(), isFlat) || !std::ranges::all_of(b.getList(), isFlat))
+    {
+        return AreSame(a, b);
+    }
+    const auto keysOf = [](const PropertyTree& list)
+    {
+        std::vector<std::string> keys;
+        std::ranges::transform(list.getList(), std::back_inserter(keys), &KeyOf);
+        std::ranges::sort(keys);
+        return keys;
+    };
+    return keysOf(a) == keysOf(b);
 }
 
 } // namespace Ombrel::Inspection

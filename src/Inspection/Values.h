@@ -34,6 +34,9 @@ std::string KeyOf(const PropertyTree& value);
 /// Whether two trees hold the same: numbers by value, so that 5 is 5.0 and -0.0 is 0.0, and a NaN is a NaN.
 bool AreSame(const PropertyTree& a, const PropertyTree& b);
 
+/// The same for sets and maps of colours, whose elements have no order.
+bool AreSameUnordered(const PropertyTree& a, const PropertyTree& b);
+
 } // namespace Ombrel::Inspection
 
 #endif
