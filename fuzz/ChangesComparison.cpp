@@ -4,6 +4,7 @@
 #include "Inspection/Changes.h"
 #include "Inspection/Forms.h"
 #include "Inspection/JsonPatch.h"
+#include "Inspection/Merge.h"
 #include "Proc/EffectSettings/HelperSettings.h"
 #include "Proc/Reflection/Schema.h"
 #include "PropertyTree/PropertyTreeOutput.h"
@@ -165,6 +166,31 @@ void CompareChanges(const PropertyTree& before, const PropertyTree& after)
     Require(isAfter(Applied(joined, before, "the joined changes do not apply", text)), "the joined changes make another tree",
             text);
     Require(joined.size() <= 3 * changes.size(), "joining makes more changes", text);
+}
+
+void CompareMerge(const PropertyTree& base, const PropertyTree& ours, const PropertyTree& theirs)
+{
+    const std::string text = "base " + TextOf(base) + "\nours " + TextOf(ours) + "\ntheirs " + TextOf(theirs);
+    const auto requireMerged = [&text](const MergeResult& result, const PropertyTree& expected, std::string_view what)
+    {
+        Require(result.conflicts.empty() && TextOf(FullMeaning(result.merged)) == TextOf(FullMeaning(expected)), what,
+                text + "\nmerged " + TextOf(result.merged));
+    };
+    requireMerged(Merge(base, base, theirs), theirs, "what theirs has changed is not taken");
+    requireMerged(Merge(base, ours, ours), ours, "the same changes are not taken");
+    const MergeResult unchanged = Merge(base, ours, base);
+    requireMerged(unchanged, ours, "what ours has changed is not kept");
+    RequireSame(ours, unchanged.merged, "ours is stored otherwise");
+
+    const MergeResult result = Merge(base, ours, theirs);
+    const MergeResult turned = Merge(base, theirs, ours);
+    Require(result.conflicts.empty() == turned.conflicts.empty(), "one side has a conflict and the other has none", text);
+    const std::string merged = text + "\nmerged " + TextOf(result.merged);
+    for (const MergeConflict& conflict : result.conflicts)
+    {
+        Require(conflict.ours.has_value() || conflict.theirs.has_value() || conflict.base.has_value(), "an empty conflict",
+                merged);
+    }
 }
 
 } // namespace Fuzz

@@ -10,6 +10,9 @@ namespace Fuzz
 /// as a JSON Patch they do the same.
 void CompareChanges(const Ombrel::PropertyTree& before, const Ombrel::PropertyTree& after);
 
+/// Ends the program unless a merge takes what one side alone has changed, and says the same of both sides.
+void CompareMerge(const Ombrel::PropertyTree& base, const Ombrel::PropertyTree& ours, const Ombrel::PropertyTree& theirs);
+
 } // namespace Fuzz
 
 #endif

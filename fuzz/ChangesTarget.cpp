@@ -17,5 +17,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     all.makeList().assign(trees.begin(), trees.end());
     reversed.makeList().assign(trees.rbegin(), trees.rend());
     Fuzz::CompareChanges(all, reversed);
+    if (trees.size() > 2)
+    {
+        Fuzz::CompareMerge(trees[0], trees[1], trees[2]);
+    }
     return 0;
 }

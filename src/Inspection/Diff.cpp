@@ -1,19 +1,15 @@
-#include "Inspection/Changes.h"
+#include "Inspection/DiffWalk.h"
 
-#include "Inspection/CheckContext.h"
-#include "Inspection/Fingerprints.h"
 #include "Inspection/Forms.h"
 #include "Inspection/KnownClass.h"
 #include "Inspection/ListAlignment.h"
 #include "Inspection/ListMoves.h"
-#include "Inspection/Place.h"
 #include "Inspection/RefusedEffects.h"
 #include "Inspection/TreeSteps.h"
 #include "Inspection/Values.h"
 #include "Proc/Settings/StoredKeys.h"
 
 #include <algorithm>
-#include <deque>
 #include <numeric>
 #include <utility>
 
@@ -80,73 +76,7 @@ const ValueSchema* SchemaOfKey(const ValueSchema& schema, const PropertyTree& ma
     return field ? record->fields[*field].value : nullptr;
 }
 
-// Compares two documents. Parts wait on a stack, so that nesting costs no stack of the thread; they come off it in the order of
-// the keys. First comes what a list has more or less, then what differs within its elements, which by then have their new
-// indices.
-class DiffWalk
-{
-public:
-    ChangeList Run(const PropertyTree& before, const PropertyTree& after);
-
-private:
-    // The record or list that stands around a value by default alone. The first change in it stores the whole.
-    struct Absent
-    {
-        const PropertyTree* whole;
-        const Place* place;
-        bool isStored = false;
-    };
-
-    // One value in both documents, full and as it is stored; null where it is missing.
-    struct Value
-    {
-        const PropertyTree* before = nullptr;
-        const PropertyTree* after = nullptr;
-        const PropertyTree* storedBefore = nullptr;
-        const PropertyTree* storedAfter = nullptr;
-        const ValueSchema* schema = nullptr; // null where nothing is known of it
-        const Place* place = nullptr;
-        Absent* absent = nullptr;        // around it
-        bool isStoredAroundAfter = true; // whether a key that is not stored after has the default beside its neighbours
-    };
-
-    // The elements of a list that are left to be compared.
-    struct ListRest
-    {
-        Value list;
-        std::size_t offset = 0; // of the first of them in the list
-        std::span<const PropertyTree> before;
-        std::span<const PropertyTree> after;
-        const PropertyTree* storedBefore = nullptr; // the first of them, or null
-        const PropertyTree* storedAfter = nullptr;
-        std::vector<std::size_t> origins; // of those after
-        Absent* absent = nullptr;         // around them
-    };
-
-    void Visit(const Value& value);
-    void VisitMap(const Value& value);
-    void VisitKey(const Value& map, Absent* absent, std::string_view key, const PropertyTree* before,
-                  const PropertyTree* after);
-    void VisitElements(ListRest rest);
-    void AddStructure(const ListRest& rest);
-
-    Absent* AbsentIn(const Value& container);
-    const Place* Below(const Place* parent, std::string_view key, bool isOfEffect);
-    const Place* Below(const Place* parent, std::size_t index, bool isOfEffect);
-    const PropertyTree& Frozen(std::span<const PropertyTree> elements);
-
-    Path PathOf(const Place& place);
-    void AddValue(const Value& value);
-    void AddElement(const ListRest& rest, Change change, std::size_t index, const PropertyTree& stored);
-    Change::Storing WholeOf(Absent& absent, const Change& change);
-
-    CheckContext m_context;
-    Fingerprints m_prints;
-    std::deque<PropertyTree> m_frozen;
-    std::deque<Absent> m_absent;
-    std::vector<Value> m_pending;
-    ChangeList m_changes;
-};
+} // namespace
 
 ChangeList DiffWalk::Run(const PropertyTree& before, const PropertyTree& after)
 {
@@ -173,11 +103,11 @@ ChangeList DiffWalk::Run(const PropertyTree& before, const PropertyTree& after)
         const bool isOneSided = one.empty() || other.empty();
         VisitElements({.list = root,
                        .offset = offset,
+                       .base = {},
                        .before = isOneSided ? one : Frozen(one).getList(),
                        .after = isOneSided ? other : Frozen(other).getList(),
                        .storedBefore = one.data(),
-                       .storedAfter = other.data(),
-                       .origins = {}});
+                       .storedAfter = other.data()});
     }
     else if (!AreSame(before, after))
     {
@@ -185,13 +115,18 @@ ChangeList DiffWalk::Run(const PropertyTree& before, const PropertyTree& after)
         root.after = &m_frozen.emplace_back(Freeze(after));
         Visit(root);
     }
+    VisitPending();
+    return std::move(m_changes);
+}
+
+void DiffWalk::VisitPending()
+{
     while (!m_pending.empty())
     {
         const Value value = m_pending.back();
         m_pending.pop_back();
-        Visit(value);
+        m_conflicts ? VisitThree(value) : Visit(value);
     }
-    return std::move(m_changes);
 }
 
 const PropertyTree& DiffWalk::Frozen(std::span<const PropertyTree> elements)
@@ -203,7 +138,9 @@ const PropertyTree& DiffWalk::Frozen(std::span<const PropertyTree> elements)
 
 void DiffWalk::Visit(const Value& value)
 {
-    const auto& [before, after, storedBefore, storedAfter, schema, place, absent, isAround] = value;
+    const PropertyTree* const before = value.before;
+    const PropertyTree* const after = value.after;
+    const ValueSchema* const schema = value.schema;
     const ValueKind kind = schema ? schema->kind : ValueKind::Other;
     if (!before || !after)
     {
@@ -216,20 +153,27 @@ void DiffWalk::Visit(const Value& value)
     }
     else if (kind == ValueKind::List && AreBothLists(*before, *after))
     {
-        const bool isStored = storedBefore && storedBefore->isList();
-        const bool isStoredAfter = storedAfter && storedAfter->isList();
-        VisitElements({.list = value,
-                       .before = before->getList(),
-                       .after = after->getList(),
-                       .storedBefore = isStored ? storedBefore->getList().data() : nullptr,
-                       .storedAfter = isStoredAfter ? storedAfter->getList().data() : nullptr,
-                       .origins = {}});
+        VisitElements(ElementsOf(value));
     }
     else if ((kind == ValueKind::Set || kind == ValueKind::ColorMap) ? !AreSameUnordered(*before, *after)
                                                                      : !AreSame(*before, *after))
     {
         AddValue(value);
     }
+}
+
+DiffWalk::ListRest DiffWalk::ElementsOf(const Value& list)
+{
+    const bool isStored = list.storedBefore && list.storedBefore->isList();
+    const bool isStoredAfter = list.storedAfter && list.storedAfter->isList();
+    return {.list = list,
+            .base = list.base && list.base->isList() ? std::span<const PropertyTree>(list.base->getList())
+                                                     : std::span<const PropertyTree>(),
+            .before = list.before->getList(),
+            .after = list.after->getList(),
+            .storedBefore = isStored ? list.storedBefore->getList().data() : nullptr,
+            .storedAfter = isStoredAfter ? list.storedAfter->getList().data() : nullptr,
+            .areEffects = list.schema->element->kind == ValueKind::Effect};
 }
 
 void DiffWalk::VisitMap(const Value& value)
@@ -271,41 +215,62 @@ void DiffWalk::VisitKey(const Value& map, Absent* absent, std::string_view key, 
                                  .after = after,
                                  .storedBefore = ChildAt(map.storedBefore, step),
                                  .storedAfter = ChildAt(map.storedAfter, step),
+                                 .base = ChildAt(map.base, step),
                                  .schema = schema,
                                  .place = Below(map.place, key, schema && schema->kind == ValueKind::Effect),
                                  .absent = absent,
                                  .isStoredAroundAfter = map.storedAfter != nullptr});
 }
 
-void DiffWalk::VisitElements(ListRest rest)
+void DiffWalk::VisitElements(const ListRest& rest)
+{
+    VisitEntries(rest, EntriesOf(rest));
+}
+
+DiffWalk::Entries DiffWalk::EntriesOf(const ListRest& rest)
+{
+    Entries entries;
+    if (rest.areEffects)
+    {
+        const ListAlignment alignment(rest.before, rest.after, true, m_prints);
+        for (std::size_t index = 0; index != rest.after.size(); ++index)
+        {
+            entries.push_back({.before = alignment.Origins()[index], .after = index, .base = NONE});
+        }
+        return entries;
+    }
+    for (std::size_t index = 0; index != rest.after.size(); ++index)
+    {
+        entries.push_back({.before = index < rest.before.size() ? index : NONE,
+                           .after = index,
+                           .base = index < rest.base.size() ? index : NONE});
+    }
+    return entries;
+}
+
+void DiffWalk::VisitEntries(ListRest rest, const Entries& entries)
 {
     const ValueSchema* schema = rest.list.before ? rest.list.schema->element : &EFFECT_VALUE;
-    const bool areEffects = schema->kind == ValueKind::Effect;
-    if (areEffects)
-    {
-        rest.origins = ListAlignment(rest.before, rest.after, true, m_prints).Origins();
-    }
-    else
-    {
-        rest.origins.resize(rest.after.size(), ListAlignment::NONE);
-        const std::size_t common = std::min(rest.before.size(), rest.after.size());
-        std::iota(rest.origins.begin(), rest.origins.begin() + static_cast<std::ptrdiff_t>(common), std::size_t{0});
-    }
     rest.absent = rest.list.before ? AbsentIn(rest.list) : nullptr;
-    AddStructure(rest);
-    for (std::size_t index = rest.after.size(); index-- != 0;)
+    AddStructure(rest, entries);
+    for (std::size_t index = entries.size(); index-- != 0;)
     {
-        const std::size_t origin = rest.origins[index];
-        const PropertyTree* before = origin == ListAlignment::NONE ? nullptr : &rest.before[origin];
-        const PropertyTree& after = rest.after[index];
-        if (before && !(before->isScalar() && after.isScalar() && AreSame(*before, after)))
+        const Entry& entry = entries[index];
+        if (entry.before == NONE || entry.after == NONE)
         {
-            m_pending.push_back({.before = before,
+            continue;
+        }
+        const PropertyTree& before = rest.before[entry.before];
+        const PropertyTree& after = rest.after[entry.after];
+        if (!(before.isScalar() && after.isScalar() && AreSame(before, after)))
+        {
+            m_pending.push_back({.before = &before,
                                  .after = &after,
-                                 .storedBefore = rest.storedBefore ? rest.storedBefore + origin : nullptr,
-                                 .storedAfter = rest.storedAfter ? rest.storedAfter + index : nullptr,
+                                 .storedBefore = rest.storedBefore ? rest.storedBefore + entry.before : nullptr,
+                                 .storedAfter = rest.storedAfter ? rest.storedAfter + entry.after : nullptr,
+                                 .base = entry.base == NONE ? nullptr : &rest.base[entry.base],
                                  .schema = schema,
-                                 .place = Below(rest.list.place, rest.offset + index, areEffects),
+                                 .place = Below(rest.list.place, rest.offset + index, rest.areEffects),
                                  .absent = rest.absent,
                                  .isStoredAroundAfter = rest.storedAfter != nullptr});
         }
@@ -313,14 +278,14 @@ void DiffWalk::VisitElements(ListRest rest)
 }
 
 // What went, from behind; what moved; what came, from the front.
-void DiffWalk::AddStructure(const ListRest& rest)
+void DiffWalk::AddStructure(const ListRest& rest, const Entries& entries)
 {
-    std::vector<std::size_t> kept(rest.before.size(), ListAlignment::NONE); // by index before: 0 if it is found again
-    for (const std::size_t origin : rest.origins)
+    std::vector<std::size_t> places(rest.before.size(), NONE); // by index before: the one without those that went
+    for (const Entry& entry : entries)
     {
-        if (origin != ListAlignment::NONE)
+        if (entry.before != NONE)
         {
-            kept[origin] = 0;
+            places[entry.before] = 0;
         }
     }
     // The full form of an effect is many times as long. It can be made from the stored one where it does not depend on effects
@@ -330,48 +295,47 @@ void DiffWalk::AddStructure(const ListRest& rest)
     { return isOfDocument ? inFile[index] : full[index]; };
     const auto stored = [](std::span<const PropertyTree> full, const PropertyTree* inFile,
                            std::size_t index) -> const PropertyTree& { return inFile ? inFile[index] : full[index]; };
-    for (std::size_t index = kept.size(); index-- != 0;)
+    for (std::size_t index = places.size(); index-- != 0;)
     {
-        if (kept[index] == ListAlignment::NONE)
+        if (places[index] == NONE)
         {
-            Change change{.kind = ChangeKind::Remove, .path = {}, .before = given(rest.before, rest.storedBefore, index)};
+            Change change{.kind = ChangeKind::Remove, .before = given(rest.before, rest.storedBefore, index)};
             AddElement(rest, std::move(change), index, stored(rest.before, rest.storedBefore, index));
         }
     }
     std::size_t count = 0; // of those that are left
-    for (std::size_t& place : kept)
+    for (std::size_t& place : places)
     {
-        if (place != ListAlignment::NONE)
+        if (place != NONE)
         {
             place = count++;
         }
     }
-    std::vector<std::size_t> order; // of those that are left, what each was
+    std::vector<std::size_t> order; // of those that are left, where each was
     std::vector<std::size_t> origins;
-    for (const std::size_t origin : rest.origins)
+    for (const Entry& entry : entries)
     {
-        if (origin != ListAlignment::NONE)
+        if (entry.before != NONE)
         {
-            order.push_back(kept[origin]);
-            origins.push_back(origin);
+            order.push_back(places[entry.before]);
+            origins.push_back(entry.before);
         }
     }
     for (const ListMove& move : MovesTo(order))
     {
         const std::size_t origin = origins[move.element];
-        Change change{.kind = ChangeKind::Move,
-                      .path = {},
-                      .target = rest.offset + move.to,
-                      .before = given(rest.before, rest.storedBefore, origin)};
+        Change change{
+            .kind = ChangeKind::Move, .target = rest.offset + move.to, .before = given(rest.before, rest.storedBefore, origin)};
         change.after = change.before;
         AddElement(rest, std::move(change), move.from, stored(rest.before, rest.storedBefore, origin));
     }
-    for (std::size_t index = 0; index != rest.after.size(); ++index)
+    for (std::size_t index = 0; index != entries.size(); ++index)
     {
-        if (rest.origins[index] == ListAlignment::NONE)
+        if (entries[index].before == NONE)
         {
-            Change change{.kind = ChangeKind::Insert, .path = {}, .after = given(rest.after, rest.storedAfter, index)};
-            AddElement(rest, std::move(change), index, stored(rest.after, rest.storedAfter, index));
+            const std::size_t after = entries[index].after;
+            Change change{.kind = ChangeKind::Insert, .after = given(rest.after, rest.storedAfter, after)};
+            AddElement(rest, std::move(change), index, stored(rest.after, rest.storedAfter, after));
         }
     }
 }
@@ -450,8 +414,6 @@ Change::Storing DiffWalk::WholeOf(Absent& absent, const Change& change)
     Execute(*stored.after, Steps(steps).subspan(stored.path.Steps().size()), change, change.after);
     return stored;
 }
-
-} // namespace
 
 ChangeList Diff(const PropertyTree& before, const PropertyTree& after)
 {
