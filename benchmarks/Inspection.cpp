@@ -1,10 +1,12 @@
-// Checks or reads the tree of 1,000 mixed effects that nothing is wrong with. Counted under callgrind, with
+// Checks, reads or compares the tree of so many mixed effects that nothing is wrong with. Counted under callgrind, with
 // `--toggle-collect=Measured*`, it gives the instructions of that alone.
 
 #include "EffectLists.h"
+#include "Inspection/Changes.h"
 #include "Inspection/Check.h"
 #include "Samples.h"
 
+#include <cstddef>
 #include <cstdlib>
 #include <functional>
 #include <iostream>
@@ -22,10 +24,10 @@ extern "C" [[gnu::noinline]] void Measured(const std::function<void()>& work)
 namespace
 {
 
-PropertyTree MixedEffects()
+PropertyTree MixedEffects(std::size_t count)
 {
     PhotoCore::IEffectSettings::List effects;
-    for (const std::unique_ptr<Proc::Settings>& record : Benchmarks::FullRecords(1000, Benchmarks::Faces::Without))
+    for (const std::unique_ptr<Proc::Settings>& record : Benchmarks::FullRecords(count, Benchmarks::Faces::Without))
     {
         effects.push_back(PhotoCore::IEffectSettings::CreateEffectSettings(record->GetClassId()));
         effects.back()->SetEffectSettings(*record);
@@ -37,9 +39,10 @@ PropertyTree MixedEffects()
 
 int main(int argc, char** argv)
 {
-    const std::string_view what = argc == 2 ? argv[1] : "";
-    const PropertyTree tree = MixedEffects();
-    if (!Inspection::Check(tree).empty() || Benchmarks::ReadEffects(tree).size() != 1000) // does all for the first time, too
+    const std::string_view what = argc == 3 ? argv[1] : "";
+    const std::size_t count = argc == 3 ? std::strtoul(argv[2], nullptr, 10) : 0;
+    const PropertyTree tree = MixedEffects(count);
+    if (!Inspection::Check(tree).empty() || Benchmarks::ReadEffects(tree).size() != count) // does all for the first time, too
     {
         std::cerr << "the effects are not read as they are written\n";
         return EXIT_FAILURE;
@@ -54,6 +57,12 @@ int main(int argc, char** argv)
         Measured([&] { Benchmarks::ReadEffects(tree); });
         return EXIT_SUCCESS;
     }
-    std::cerr << "usage: " << argv[0] << " check|read\n";
+    if (what == "diff") // with themselves
+    {
+        const PropertyTree copy = tree;
+        Measured([&] { Inspection::Diff(tree, copy); });
+        return EXIT_SUCCESS;
+    }
+    std::cerr << "usage: " << argv[0] << " check|read|diff COUNT\n";
     return EXIT_FAILURE;
 }

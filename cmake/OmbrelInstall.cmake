@@ -87,10 +87,11 @@ if(TARGET ombrel_EffectInspection)
   ombrel_install_library(EffectInspection
     DESCRIPTION "What stored effects hold, and what is wrong with them"
     FOLDERS Inspection
-    PRIVATE_HEADERS Attempt.h CheckContext.h EffectCheck.h EffectMerge.h Findings.h Fingerprints.h FormDefaults.h
-                    KeylessMembers.h KnownClass.h ListAlignment.h Place.h RecordInfo.h RefusedEffects.h
-                    SchemaParts.h Trials.h Usable.h ValueCheck.h Values.h WrittenComparison.h
+    PRIVATE_HEADERS Attempt.h CheckContext.h DiffWalk.h EffectCheck.h EffectMerge.h Findings.h Fingerprints.h FormDefaults.h
+                    KeylessMembers.h KnownClass.h ListAlignment.h ListMoves.h Place.h RecordInfo.h RefusedEffects.h
+                    SchemaParts.h TreeSteps.h Trials.h Usable.h ValueCheck.h Values.h WrittenComparison.h
     REQUIRES ombrel-effect-settings)
+  install(FILES ${PROJECT_SOURCE_DIR}/examples/undo.cpp DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)
 endif()
 if(TARGET ombrel-effects) # its own rule installs it
   file(RELATIVE_PATH toLibraries "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")

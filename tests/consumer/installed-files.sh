@@ -24,6 +24,7 @@ expect "libraries" "$expected" "$(find "$libdir" -mindepth 1 -maxdepth 1 -name '
 private_headers="
 Inspection/Attempt.h
 Inspection/CheckContext.h
+Inspection/DiffWalk.h
 Inspection/EffectCheck.h
 Inspection/EffectMerge.h
 Inspection/Findings.h
@@ -32,10 +33,12 @@ Inspection/FormDefaults.h
 Inspection/KeylessMembers.h
 Inspection/KnownClass.h
 Inspection/ListAlignment.h
+Inspection/ListMoves.h
 Inspection/Place.h
 Inspection/RecordInfo.h
 Inspection/RefusedEffects.h
 Inspection/SchemaParts.h
+Inspection/TreeSteps.h
 Inspection/Trials.h
 Inspection/Usable.h
 Inspection/ValueCheck.h
@@ -70,6 +73,16 @@ sed 's/.*/#include "&"/' <<<"$expected" | "$CXX" -std=c++20 -fsyntax-only -I "$i
 
 expect "what shows trees in a debugger" "$(printf '%s\n' ombrel.natvis ombrel_gdb.py)" \
     "$(find "$prefix/share/ombrel-effect-settings" -type f -printf '%f\n' | sort)"
+
+tool_files="
+share/bash-completion/completions/ombrel-effects
+share/fish/vendor_completions.d/ombrel-effects.fish
+share/man/man1/ombrel-effects.1
+share/zsh/site-functions/_ombrel-effects
+"
+expect "manual and completions of the tool" "$(xargs -n1 <<<"$tool_files")" \
+    "$(cd "$prefix" && find share -type f -not -path 'share/ombrel-effect-settings/*' -not -path 'share/doc/*' | sort)"
+expect "examples" "undo.cpp" "$(find "$prefix/share/doc" -type f -printf '%f\n' | sort)"
 
 # A shared library shows its interface alone: neither the parts of the reader nor the folds of the library's own records.
 if [[ $LAYOUT == shared-* ]]; then

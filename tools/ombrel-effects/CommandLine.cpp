@@ -1,9 +1,13 @@
 #include "CommandLine.h"
+#include "ChangeCommands.h"
 
 #include "ClassCommands.h"
+#include "CommandOutline.h"
 #include "CommandRuns.h"
+#include "Completions.h"
 #include "FormCommands.h"
 #include "Inspection/Nearest.h"
+#include "ManualPage.h"
 #include "PropertyPath.h"
 #include "PropertyTreeJson/MessageText.h"
 #include "ShowCommand.h"
@@ -30,16 +34,60 @@ constexpr const char* PATH_HELP =
     "Path to a value: the effect's index from 0, a property, then map keys and list indices, joined by \"/\", such as "
     "2/smartBlur/lumaRadius. If the file is a single effect, its index is left out. Within a key, ~1 is \"/\" and ~0 is \"~\"";
 
-constexpr const char* FOOTER =
-    "Exit codes, of which the highest counts:\n"
-    "  0  fine\n"
-    "  1  check found an error or a warning; a command would change or lose what it was not asked to\n"
-    "  2  wrong usage; a path, class id, key or name that does not exist\n"
-    "  3  a file cannot be read or written\n"
-    "  4  not JSON, or an effect that the command needs and cannot be read";
-
 constexpr const char* FORCE_HELP =
     "Write the result even if something is changed or lost that was not asked for; the exit code stays 1";
+
+constexpr ExitCodeHelp EXIT_CODES[] = {
+    {ExitCode::Fine, "fine"},
+    {ExitCode::Findings,
+     "check found an error or a warning; what is compared differs; a patch or a merge has a conflict; a command would "
+     "change or lose what it was not asked to"},
+    {ExitCode::Usage, "wrong usage; a path, class id, key or name that does not exist"},
+    {ExitCode::File, "a file cannot be read or written"},
+    {ExitCode::BadInput, "not JSON, or an effect that the command needs and cannot be read"},
+};
+
+constexpr ExitStatusHelp EXIT_STATUS{"Exit codes, of which the highest counts", EXIT_CODES};
+
+constexpr const char* PROGRAM_VERSION = "ombrel-effects " OMBREL_EFFECTS_VERSION;
+
+// The command that shells ask for class ids, which stand in its second column.
+constexpr const char* LIST_COMMAND = "list";
+
+std::string Footer()
+{
+    std::string footer = EXIT_STATUS.heading + std::string(":");
+    for (const ExitCodeHelp& exitCode : EXIT_STATUS.codes)
+    {
+        footer += "\n  " + std::to_string(static_cast<int>(exitCode.code)) + "  " + exitCode.meaning;
+    }
+    return footer;
+}
+
+/// What a shell offers for each name that a value has in the help.
+Offers ShellOffers()
+{
+    const Offer classIds{.source = Offer::Source::Command, .command = LIST_COMMAND};
+    const Offer files{.source = Offer::Source::Files};
+    return {
+        {"AFTER", files},
+        {"BASE", files},
+        {"BEFORE", files},
+        {"CODE", {.source = Offer::Source::Words, .words = FindingCodes()}},
+        {"DIR", {.source = Offer::Source::Folders}},
+        {"FILE", files},
+        {"FROM", {}},
+        {"ID", classIds},
+        {"N", {}},
+        {"OURS", files},
+        {"PATCH", files},
+        {"PATH", {}},
+        {"PATTERN", classIds},
+        {"THEIRS", files},
+        {"TO", {}},
+        {"VALUE", {}},
+    };
+}
 
 /// The commands with their options, and the run of the one that is named.
 class CommandLine
@@ -62,6 +110,9 @@ private:
     void AddValueCommands();
     void AddCheck();
     void AddForms();
+    void AddComparisons();
+    void AddListCommands();
+    void AddWritings();
     int Complain(const CLI::ParseError& error);
     std::string NearestTo(const std::string& word) const;
 
@@ -71,13 +122,16 @@ private:
 
 CommandLine::CommandLine() : m_app(DESCRIPTION, "ombrel-effects")
 {
-    m_app.footer(FOOTER);
-    m_app.set_version_flag("--version", "ombrel-effects " OMBREL_EFFECTS_VERSION);
+    m_app.footer(Footer());
+    m_app.set_version_flag("--version", PROGRAM_VERSION);
     m_app.require_subcommand(1);
     AddClassCommands();
     AddValueCommands();
     AddCheck();
     AddForms();
+    AddComparisons();
+    AddListCommands();
+    AddWritings();
 }
 
 CLI::App* CommandLine::Add(const char* name, const char* help, Command command)
@@ -92,6 +146,7 @@ void CommandLine::AddReading(CLI::App* command)
     command->add_flag("--non-finite", m_arguments.run.reading.nonFinite,
                       "Read and write floats that are no finite numbers as the strings \"NaN\", \"Infinity\", \"-Infinity\"");
     command->add_option("--max-bytes", m_arguments.run.reading.maxBytes, "Refuse a file, or with --lines a line, of more bytes")
+        ->type_name("N")
         ->capture_default_str();
 }
 
@@ -116,7 +171,9 @@ void CommandLine::AddFiles(CLI::App* command, bool hasDocuments)
     command->add_option("FILE", m_arguments.files, "JSON files and folders, or - for the standard input")->required();
     AddReading(command);
     command->add_flag("--quiet", m_arguments.run.isQuiet, "No summary and no progress");
-    command->add_option("--jobs", m_arguments.run.jobs, "Work on so many files at once")->check(CLI::Range(1, 256));
+    command->add_option("--jobs", m_arguments.run.jobs, "Work on so many files at once")
+        ->type_name("N")
+        ->check(CLI::Range(1, 256).description("1 to 256"));
     command->add_flag("--lines", m_arguments.areLines,
                       std::string("JSON Lines: each line is an effect, a list of effects, or {\"id\": ..., \"effects\": ...}") +
                           (hasDocuments ? "; each becomes a line, and one that cannot be worked on stays as it is" : ""));
@@ -129,7 +186,7 @@ void CommandLine::AddJson(CLI::App* command, const char* help)
 
 void CommandLine::AddClassCommands()
 {
-    CLI::App* list = Add("list", "List the effect classes: class, class id, inputs, registered or not",
+    CLI::App* list = Add(LIST_COMMAND, "List the effect classes: class, class id, inputs, registered or not",
                          [](Arguments& arguments) { return ListClasses(arguments.name, arguments.isJson); });
     list->add_option("PATTERN", m_arguments.name, "Those alone that have this in their name or id");
     AddJson(list, "As a JSON list");
@@ -159,11 +216,14 @@ void CommandLine::AddClassCommands()
     reference
         ->add_option("--notes", m_arguments.notesFolder,
                      "Folder with the notes on each class: what it compares, when it is empty, its members without a key")
+        ->type_name("DIR")
         ->required();
     reference
         ->add_option("--examples", m_arguments.examplesFolder, "Folder with a stored effect of each class: <class id>.json")
+        ->type_name("DIR")
         ->required();
     reference->add_option("--output", m_arguments.outputFolder, "Folder for the pages; created if it does not exist")
+        ->type_name("DIR")
         ->required();
 }
 
@@ -212,8 +272,10 @@ void CommandLine::AddCheck()
     check->add_flag("--fix", m_arguments.check.isFixing,
                     "Mend what can be mended and print the document; the findings go to the standard error");
     check->add_option("--ignore", m_arguments.ignoredCodes, "Leave a code out, such as unknown-key; may be given several times")
+        ->type_name("CODE")
         ->allow_extra_args(false);
     check->add_option("--max-findings", m_arguments.check.maxFindings, "End the check of a file with so many findings")
+        ->type_name("N")
         ->capture_default_str();
     check->add_flag("--in-place", m_arguments.run.isInPlace, "With --fix: replace the files, each all or nothing");
 }
@@ -242,6 +304,106 @@ void CommandLine::AddForms()
     addForm("thin", "Print the effects without what has its default", &ThinDocument);
     addForm("freeze", "Print the effects with every key, so that no later default can change them", &FreezeDocument);
     addForm("normalise", "Print the effects as the library reads and writes them", &NormaliseDocument);
+}
+
+void CommandLine::AddComparisons()
+{
+    CLI::App* diff = Add("diff", "Say what differs between two files by what is read, or between the files of two folders",
+                         [](Arguments& arguments) {
+                             return CompareFiles(arguments.otherFile, arguments.file, arguments.run.reading, arguments.isJson);
+                         });
+    diff->add_option("BEFORE", m_arguments.otherFile, "JSON file or folder")->required();
+    diff->add_option("AFTER", m_arguments.file, "JSON file or folder")->required();
+    AddReading(diff);
+    AddJson(diff, "As the JSON Patch (RFC 6902) that makes the one of the other");
+
+    CLI::App* patch =
+        Add("patch", "Do what a JSON Patch (RFC 6902) says, all of it or nothing",
+            [](Arguments& arguments)
+            {
+                const Document changes = Document::Load(arguments.otherFile, arguments.run.reading);
+                return OnFile(arguments, [&changes](const Document& document) { return PatchDocument(document, changes); });
+            });
+    AddFile(patch, true);
+    patch->add_option("PATCH", m_arguments.otherFile, "JSON file with the patch, such as diff --json prints")->required();
+
+    CLI::App* merge =
+        Add("merge", "Put together what two files have made of a third; a conflict takes the value of OURS",
+            [](Arguments& arguments)
+            {
+                const Document base = Document::Load(arguments.otherFile, arguments.run.reading);
+                const Document theirs = Document::Load(arguments.thirdFile, arguments.run.reading);
+                return OnFile(arguments, [&base, &theirs](const Document& ours) { return MergeDocuments(ours, base, theirs); });
+            });
+    merge->add_option("BASE", m_arguments.otherFile, "JSON file from which both come")->required();
+    merge->add_option("OURS", m_arguments.file, "JSON file; --in-place replaces it")->required();
+    merge->add_option("THEIRS", m_arguments.thirdFile, "JSON file")->required();
+    AddReading(merge);
+    AddWriting(merge);
+}
+
+void CommandLine::AddListCommands()
+{
+    constexpr const char* element = "Index in the list of effects, or keys and indices that end with one, such as 2 or 0/pre/1";
+    CLI::App* insert = Add("insert", "Put an effect, or another element, into a list",
+                           [](Arguments& arguments)
+                           {
+                               return OnFile(arguments, [&arguments](const Document& document)
+                                             { return InsertElement(document, ParsePath(arguments.path), arguments.value); });
+                           });
+    AddFile(insert, true);
+    insert->add_option("PATH", m_arguments.path, std::string(element) + "; - for the end")->required();
+    insert->add_option("VALUE", m_arguments.value, "Class id of a default effect, or JSON")->required();
+
+    CLI::App* remove = Add("remove", "Take an effect, or another element, out of a list",
+                           [](Arguments& arguments)
+                           {
+                               return OnFile(arguments, [&arguments](const Document& document)
+                                             { return RemoveElement(document, ParsePath(arguments.path)); });
+                           });
+    AddFile(remove, true);
+    remove->add_option("PATH", m_arguments.path, element)->required();
+
+    CLI::App* move =
+        Add("move", "Give an effect, or another element, another place in its list or another one",
+            [](Arguments& arguments)
+            {
+                return OnFile(arguments, [&arguments](const Document& document)
+                              { return MoveElement(document, ParsePath(arguments.path), ParsePath(arguments.value)); });
+            });
+    AddFile(move, true);
+    move->add_option("FROM", m_arguments.path, element)->required();
+    move->add_option("TO", m_arguments.value, "Where it then is, counted without it; - for the end")->required();
+
+    CLI::App* extract = Add("extract", "Print one effect, or another value, as it stands in the file",
+                            [](Arguments& arguments)
+                            {
+                                return OnFile(arguments, [&arguments](const Document& document)
+                                              { return GetValue(document, ParsePath(arguments.path), true); });
+                            });
+    AddFile(extract, false);
+    extract->add_option("PATH", m_arguments.path, PATH_HELP)->required();
+}
+
+void CommandLine::AddWritings()
+{
+    const auto outline = [this] { return OutlineOf(m_app, ShellOffers()); };
+    Add("manual", "Print the manual page, for man",
+        [outline](Arguments&)
+        {
+            Report report;
+            report.out = ManualPage(outline(), EXIT_STATUS, PROGRAM_VERSION);
+            return report;
+        });
+
+    CLI::App* completion = Add("completion", "Print the script by which a shell completes commands, options and values",
+                               [outline](Arguments& arguments)
+                               {
+                                   Report report;
+                                   report.out = Completion(outline(), arguments.shell);
+                                   return report;
+                               });
+    completion->add_option("SHELL", m_arguments.shell, "The shell for which it is")->required()->check(CLI::IsMember(Shells()));
 }
 
 std::string CommandLine::NearestTo(const std::string& word) const

@@ -81,11 +81,11 @@ Report RunCheck(Arguments& arguments)
         const auto code = CodeOf(text);
         if (!code)
         {
+            const std::vector<std::string> codes = FindingCodes(); // to which the nearest may refer
             Inspection::NearestName nearest(text);
             std::string all;
-            for (std::uint8_t number = 0; number <= static_cast<std::uint8_t>(Inspection::FindingCode::NoSchema); ++number)
+            for (const std::string& known : codes)
             {
-                const std::string known(TextOf(Inspection::FindingCode{number}));
                 nearest.Try(known);
                 all += (all.empty() ? "" : ", ") + known;
             }
@@ -108,6 +108,16 @@ Report RunCheck(Arguments& arguments)
         report.complaints.push_back(SummaryOf(report.counts) + (settings.isFixing ? " left" : ""));
     }
     return report;
+}
+
+std::vector<std::string> FindingCodes()
+{
+    std::vector<std::string> codes;
+    for (std::uint8_t number = 0; number <= static_cast<std::uint8_t>(Inspection::FindingCode::NoSchema); ++number)
+    {
+        codes.emplace_back(TextOf(Inspection::FindingCode{number}));
+    }
+    return codes;
 }
 
 } // namespace Ombrel::EffectsTool

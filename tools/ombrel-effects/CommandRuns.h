@@ -17,9 +17,12 @@ struct Arguments
 {
     std::vector<std::string> files;
     std::string file;
+    std::string otherFile;
+    std::string thirdFile;
     std::string path;
     std::string value;
     std::string name; // a class id or a part of one
+    std::string shell;
     std::string notesFolder;
     std::string examplesFolder;
     std::string outputFolder;
@@ -45,6 +48,9 @@ Report OnFile(Arguments& arguments, const Work& work);
 Report OnFiles(Arguments& arguments, bool hasDocuments, const Work& work);
 
 Report RunCheck(Arguments& arguments);
+
+/// The texts of all codes that `check` knows.
+std::vector<std::string> FindingCodes();
 
 } // namespace Ombrel::EffectsTool
 
