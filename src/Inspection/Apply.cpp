@@ -6,6 +6,8 @@
 #include "Proc/EffectSettings/EffectSettings.h"
 
 #include <algorithm>
+#include <iterator>
+#include <memory>
 #include <utility>
 
 namespace Ombrel::Inspection
@@ -16,10 +18,35 @@ namespace
 using EffectPtr = std::shared_ptr<PhotoCore::IEffectSettings>;
 using PhotoCore::EffectSettings;
 
-std::optional<PropertyTree> CopyAt(const PropertyTree& tree, Steps steps)
+// Where a path ends: the path that it begins with, or null, and the steps behind that, of which there is one if the path has
+// any.
+struct Way
 {
-    const PropertyTree* value = Find(tree, steps);
-    return value ? std::optional(*value) : std::nullopt;
+    explicit Way(const Path& path)
+    {
+        const Path* part = &path;
+        while (part->OwnSteps().empty() && part->Start())
+        {
+            part = part->Start().get();
+        }
+        start = part->Start().get();
+        steps = part->OwnSteps();
+    }
+
+    const Path* start;
+    Steps steps;
+};
+
+// The parts of a path that others may share, the outermost first.
+std::vector<const Path*> StartsOf(const Way& way)
+{
+    std::vector<const Path*> starts;
+    for (const Path* start = way.start; start; start = start->Start().get())
+    {
+        starts.push_back(start);
+    }
+    std::ranges::reverse(starts);
+    return starts;
 }
 
 bool IsThere(const PropertyTree* found, const std::optional<PropertyTree>& expected)
@@ -55,7 +82,8 @@ public:
     /// Whether this is the given effect, which may be stored otherwise.
     bool Is(const PropertyTree& effect) { return AreSame(Stored(), effect) || AreSame(Full(), Freeze(effect)); }
 
-    void Change(const Inspection::Change& change, Steps steps, Steps storedSteps);
+    /// @param skipped how many steps of the paths lead to the effect
+    void Change(const Inspection::Change& change, std::size_t skipped);
 
     /// The effect, which is read anew if it has changed.
     EffectPtr TakeEffect()
@@ -70,12 +98,22 @@ public:
     PropertyTree TakeTree() { return std::move(*m_stored); }
 
 private:
+    // A place in both trees; null in the stored one if that lacks it.
+    struct Both
+    {
+        const Path* start = nullptr;
+        PropertyTree* full = nullptr;
+        PropertyTree* stored = nullptr;
+    };
+
     static void Require(const Inspection::Change& change, const PropertyTree* found);
-    void Store(const Inspection::Change& change, Steps steps, Steps storedSteps);
+    Both Follow(const Way& way, std::size_t skipped);
+    void Store(const Inspection::Change& change, const Both& start, Steps steps, std::size_t skipped);
 
     EffectPtr m_effect;
     std::optional<PropertyTree> m_stored;
     std::optional<PropertyTree> m_full;
+    std::vector<Both> m_way; // to the last change: its effect and those around it, which stay where they are
     bool m_isChanged = false;
 };
 
@@ -90,42 +128,106 @@ void Element::Require(const Inspection::Change& change, const PropertyTree* foun
     }
 }
 
-void Element::Change(const Inspection::Change& change, Steps steps, Steps storedSteps)
+// Changes of one effect come one after the other, so what leads to it is followed once.
+Element::Both Element::Follow(const Way& way, std::size_t skipped)
+{
+    const std::vector<const Path*> starts = StartsOf(way);
+    std::size_t common = 0;
+    while (common != starts.size() && common != m_way.size() && m_way[common].start == starts[common])
+    {
+        ++common;
+    }
+    m_way.resize(common);
+    Both at{.start = nullptr, .full = &*m_full, .stored = &*m_stored};
+    if (!m_way.empty())
+    {
+        at = m_way.back();
+    }
+    for (std::size_t index = common; index != starts.size(); ++index)
+    {
+        const Steps steps = Steps(starts[index]->OwnSteps()).subspan(index == 0 ? skipped : 0);
+        at = {.start = starts[index],
+              .full = at.full ? Find(*at.full, steps) : nullptr,
+              .stored = at.stored ? Find(*at.stored, steps) : nullptr};
+        m_way.push_back(at);
+    }
+    return at;
+}
+
+void Element::Change(const Inspection::Change& change, std::size_t skipped)
 {
     Full();
+    const Way way(change.path);
+    const Both start = Follow(way, skipped);
+    const Steps steps = way.steps.subspan(way.start ? 0 : skipped);
+    if (!start.full)
+    {
+        throw ConflictError(change.path, change.before, std::nullopt);
+    }
+    const PropertyTree* found = Find(*start.full, steps);
     if (change.kind != ChangeKind::Insert)
     {
-        Require(change, Find(*m_full, steps));
+        Require(change, found);
     }
-    if (!Execute(*m_full, steps, change, change.after))
+    if (!Execute(*start.full, steps, change, change.after))
     {
-        throw ConflictError(change.path, change.before, CopyAt(*m_full, steps));
+        throw ConflictError(change.path, change.before, std::nullopt);
     }
-    Store(change, steps, storedSteps);
+    Store(change, start, steps, skipped);
     m_isChanged = true;
 }
 
 // Where the file holds what it held when the change was found, it then holds what it did after. Elsewhere it gets the value, or
 // all that it lacks around it.
-void Element::Store(const Inspection::Change& change, Steps steps, Steps storedSteps)
+void Element::Store(const Inspection::Change& change, const Both& start, Steps steps, std::size_t skipped)
 {
-    const bool isPlain = steps.size() == storedSteps.size();
-    if ((change.kind == ChangeKind::Value || !isPlain) && IsThere(Find(*m_stored, storedSteps), change.stored.before) &&
-        Put(*m_stored, storedSteps, change.stored.after))
+    const Way storedWay(change.stored.path);
+    const bool isPlain = storedWay.start == start.start && storedWay.steps.size() == steps.size() + (start.start ? 0 : skipped);
+    if (change.kind == ChangeKind::Value || !isPlain)
     {
-        return;
-    }
-    for (std::size_t count = 1; count <= steps.size(); ++count)
-    {
-        const bool isLast = count == steps.size();
-        if (!Find(*m_stored, steps.first(count)) && !(isLast && change.kind != ChangeKind::Value))
+        const std::vector<PathStep> all = storedWay.start == start.start ? std::vector<PathStep>() : change.stored.path.Steps();
+        const bool isFromStart = storedWay.start == start.start && start.stored;
+        PropertyTree& from = isFromStart ? *start.stored : *m_stored;
+        const Steps storedSteps = isFromStart ? storedWay.steps.subspan(start.start ? 0 : skipped)
+                                              : Steps(all).subspan(std::min(skipped, all.size()));
+        const bool canTell = isFromStart || storedWay.start != start.start;
+        if (canTell && IsThere(Find(from, storedSteps), change.stored.before) && Put(from, storedSteps, change.stored.after))
         {
-            Put(*m_stored, steps.first(count), CopyAt(*m_full, steps.first(count)));
+            m_way.resize(isFromStart ? m_way.size() : 0); // what is around the place may be another now
             return;
         }
     }
-    const std::optional<PropertyTree>& stored = isPlain && change.stored.after ? change.stored.after : change.after;
-    Execute(*m_stored, steps, change, change.kind == ChangeKind::Insert ? stored : change.after);
+    // What is missing on the way comes from the full form.
+    const std::vector<PathStep> all = start.stored ? std::vector<PathStep>() : change.path.Steps();
+    PropertyTree* stored = start.stored ? start.stored : &*m_stored;
+    const PropertyTree* full = start.stored ? start.full : &*m_full;
+    const Steps way = start.stored ? steps : Steps(all).subspan(skipped);
+    for (std::size_t count = 0; count != way.size(); ++count)
+    {
+        const bool isElement = count + 1 == way.size() && change.kind != ChangeKind::Value;
+        PropertyTree* const child = ChildAt(stored, way[count]);
+        const PropertyTree* const fullChild = ChildAt(full, way[count]);
+        if (!child && !isElement)
+        {
+            Put(*stored, way.subspan(count, 1), fullChild ? std::optional(*fullChild) : std::nullopt);
+            m_way.resize(start.stored ? m_way.size() : 0);
+            return;
+        }
+        if (isElement)
+        {
+            const bool isFound = isPlain && change.kind == ChangeKind::Insert && change.stored.after;
+            Execute(*stored, way.subspan(count, 1), change, isFound ? change.stored.after : change.after);
+            return;
+        }
+        stored = child;
+        full = fullChild;
+    }
+    if (!change.after)
+    {
+        Put(start.stored ? *start.stored : *m_stored, way, std::nullopt);
+        return;
+    }
+    *stored = *change.after;
 }
 
 // The elements of a document, which is a list or one effect.
@@ -138,34 +240,42 @@ public:
     {
         for (const EffectPtr& effect : effects)
         {
-            m_elements.emplace_back(effect);
+            m_elements.push_back(std::make_unique<Element>(effect));
         }
     }
 
     void Apply(const Change& change)
     {
-        const std::vector<PathStep> all = change.path.Steps();
-        const std::vector<PathStep> stored = change.stored.path.Steps();
-        if (all.empty())
+        const Way way(change.path);
+        const std::vector<const Path*> starts = StartsOf(way);
+        const Steps first = starts.empty() ? way.steps : Steps(starts.front()->OwnSteps());
+        if (first.empty() && starts.empty())
         {
             ReplaceAll(change);
         }
+        else if (first.empty())
+        {
+            Inspection::Change flat = change; // of a path that begins with one that leads nowhere
+            flat.path = Path(change.path.Steps());
+            flat.stored.path = Path(change.stored.path.Steps());
+            Apply(flat);
+        }
         else if (!m_isList)
         {
-            m_elements.front().Change(change, all, stored);
+            m_elements.front()->Change(change, 0);
         }
-        else if (all.size() == 1)
+        else if (starts.empty() && way.steps.size() == 1)
         {
-            ChangeList(change, all.front());
+            ChangeList(change, way.steps.front());
         }
         else
         {
-            const std::size_t* index = std::get_if<std::size_t>(&all.front());
-            if (!index || *index >= m_elements.size() || stored.empty())
+            const std::size_t* index = std::get_if<std::size_t>(&first.front());
+            if (!index || *index >= m_elements.size())
             {
                 throw ConflictError(change.path, change.before, std::nullopt);
             }
-            m_elements[*index].Change(change, Steps(all).subspan(1), Steps(stored).subspan(1));
+            m_elements[*index]->Change(change, 1);
         }
     }
 
@@ -173,13 +283,13 @@ public:
     {
         if (!m_isList)
         {
-            return m_elements.front().TakeTree();
+            return m_elements.front()->TakeTree();
         }
         PropertyTree tree;
         PropertyTree::List& list = tree.makeList(m_elements.size());
-        for (Element& element : m_elements)
+        for (const std::unique_ptr<Element>& element : m_elements)
         {
-            list.push_back(element.TakeTree());
+            list.push_back(element->TakeTree());
         }
         return tree;
     }
@@ -187,7 +297,8 @@ public:
     std::vector<EffectPtr> TakeEffects()
     {
         std::vector<EffectPtr> effects;
-        std::ranges::transform(m_elements, std::back_inserter(effects), &Element::TakeEffect);
+        std::ranges::transform(m_elements, std::back_inserter(effects),
+                               [](const std::unique_ptr<Element>& element) { return element->TakeEffect(); });
         return effects;
     }
 
@@ -198,7 +309,7 @@ private:
         m_isList = tree.isList();
         for (const PropertyTree& element : m_isList ? std::span<const PropertyTree>(tree.getList()) : std::span(&tree, 1))
         {
-            m_elements.emplace_back(element);
+            m_elements.push_back(std::make_unique<Element>(element));
         }
     }
 
@@ -209,14 +320,14 @@ private:
         if (m_isList)
         {
             PropertyTree::List& list = now.makeList(m_elements.size());
-            for (Element& element : m_elements)
+            for (const std::unique_ptr<Element>& element : m_elements)
             {
-                list.push_back(element.Stored());
+                list.push_back(element->Stored());
             }
         }
         else
         {
-            now = m_elements.front().Stored();
+            now = m_elements.front()->Stored();
         }
         const std::optional<PropertyTree>& before = change.before;
         const std::optional<PropertyTree>& after = change.stored.after ? change.stored.after : change.after;
@@ -241,12 +352,12 @@ private:
         const auto at = [this](std::size_t place) { return m_elements.begin() + static_cast<std::ptrdiff_t>(place); };
         if (isInsert)
         {
-            m_elements.emplace(at(*index), after ? *after : PropertyTree());
+            m_elements.insert(at(*index), std::make_unique<Element>(after ? *after : PropertyTree()));
             return;
         }
-        if (!change.before || !m_elements[*index].Is(*change.before))
+        if (!change.before || !m_elements[*index]->Is(*change.before))
         {
-            throw ConflictError(change.path, change.before, m_elements[*index].Stored());
+            throw ConflictError(change.path, change.before, m_elements[*index]->Stored());
         }
         if (change.kind == ChangeKind::Remove)
         {
@@ -254,7 +365,7 @@ private:
         }
         else if (change.kind == ChangeKind::Value)
         {
-            m_elements[*index] = Element(after ? *after : PropertyTree());
+            m_elements[*index] = std::make_unique<Element>(after ? *after : PropertyTree());
         }
         else if (*index < change.target)
         {
@@ -266,7 +377,7 @@ private:
         }
     }
 
-    std::vector<Element> m_elements;
+    std::vector<std::unique_ptr<Element>> m_elements; // which stay where they are
     bool m_isList = false;
 };
 

@@ -197,5 +197,33 @@ TEST_F(ToolFix, ReplacesSeveralFiles)
     EXPECT_EQ(Run({"check", "--in-place", "a.json"}), (ToolResult{2, "", "--in-place needs --fix\n"}));
 }
 
+TEST_F(ToolCheck, WritesATestForEachFile)
+{
+    Write("a.json", R"({"name":"EFFECT_ACID"})");
+    Write("b<&>.json", R"({"name":"EFFECT_ACID","radius":"\"x\"","sigma":3,"other":1})");
+    Write("c.json", "[");
+    Write("d.json", R"({"name":"EFFECT_ACID","implName":"default"})");
+    EXPECT_EQ(Run({"check", "--quiet", "--jobs", "2", "--junit", "r.xml", "a.json", "b<&>.json", "c.json", "d.json"}).code, 4);
+    EXPECT_EQ(Content("r.xml"),
+              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+              "<testsuite name=\"ombrel-effects check\" tests=\"4\" failures=\"1\" errors=\"1\">\n"
+              "  <testcase classname=\"ombrel-effects.check\" name=\"a.json\"/>\n"
+              "  <testcase classname=\"ombrel-effects.check\" name=\"b&lt;&amp;&gt;.json\">\n"
+              "    <failure message=\"1 error, 1 warning, 0 notes\">"
+              "b&lt;&amp;&gt;.json:1:32: error: radius: expected an integer from -2147483648 to 2147483647, found "
+              "&quot;&quot;x&quot;&quot; [wrong-kind]\n"
+              "b&lt;&amp;&gt;.json:1:58: warning: other: the key is not known, so its value is lost [unknown-key]\n"
+              "</failure>\n  </testcase>\n"
+              "  <testcase classname=\"ombrel-effects.check\" name=\"c.json\">\n"
+              "    <error message=\"cannot be checked\">c.json:1:2: at 0: unexpected end of input; expected '[', '{', or a "
+              "literal\n</error>\n  </testcase>\n"
+              "  <testcase classname=\"ombrel-effects.check\" name=\"d.json\">\n"
+              "    <system-out>d.json:1:34: note: implName: it has its default and is not written again [default-written]\n"
+              "</system-out>\n  </testcase>\n</testsuite>\n");
+    EXPECT_EQ(Run({"check", "--lines", "--junit", "r.xml", "a.json"}),
+              (ToolResult{2, "", "--junit has a test for each file, so that it excludes --lines\n"}));
+    EXPECT_EQ(Run({"check", "--quiet", "--junit", "none/r.xml", "a.json"}).code, 3);
+}
+
 } // namespace
 } // namespace Ombrel

@@ -18,6 +18,7 @@
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -50,11 +51,35 @@ std::map<std::string, std::string> FilesBelow(const std::string& folder, Report&
 // A line for each change.
 void AddLines(const Inspection::ChangeList& changes, const std::string& start, Report& report)
 {
+    for (std::size_t index = 0; index < std::min(changes.size(), MOST_SHOWN); ++index)
+    {
+        report.out += start + MessageText::Printable(TextOf(changes[index])) + "\n";
+    }
+    if (changes.size() > MOST_SHOWN)
+    {
+        report.out += start + std::to_string(changes.size() - MOST_SHOWN) + " more changes\n";
+    }
+    report.Raise(changes.empty() ? ExitCode::Fine : ExitCode::Findings);
+}
+
+// The patch from one tree to the other. In effects that stand deep in others the paths of many changes would make a patch of
+// gigabytes, so there it is one of the whole.
+PropertyTree PatchOf(const Inspection::ChangeList& changes, const PropertyTree& before, const PropertyTree& after)
+{
+    constexpr std::size_t most = 2'000'000;
+    std::size_t steps = 0;
     for (const Inspection::Change& change : changes)
     {
-        report.out += start + MessageText::Printable(TextOf(change)) + "\n";
-        report.Raise(ExitCode::Findings);
+        steps += CountSteps(change.path);
     }
+    if (steps <= most)
+    {
+        return ToJsonPatch(changes);
+    }
+    Inspection::Change whole;
+    whole.stored.before = before;
+    whole.stored.after = after;
+    return Inspection::ToJsonPatch(std::span(&whole, 1));
 }
 
 Report CompareFolders(const std::string& before, const std::string& after, const ReadingOptions& options)
@@ -188,7 +213,7 @@ Report CompareFiles(const std::string& before, const std::string& after, const R
     const Inspection::ChangeList changes = Inspection::Diff(one.Tree(), other.Tree());
     if (isJson)
     {
-        report.out = Indented(ToJsonPatch(changes), one.Name() + ": the patch", options.nonFinite);
+        report.out = Indented(PatchOf(changes, one.Tree(), other.Tree()), one.Name() + ": the patch", options.nonFinite);
         report.Raise(changes.empty() ? ExitCode::Fine : ExitCode::Findings);
         return report;
     }

@@ -277,6 +277,8 @@ void CommandLine::AddCheck()
     check->add_option("--max-findings", m_arguments.check.maxFindings, "End the check of a file with so many findings")
         ->type_name("N")
         ->capture_default_str();
+    check->add_option("--junit", m_arguments.junitFile, "Write an XML file too, in which each file is a test")
+        ->type_name("FILE");
     check->add_flag("--in-place", m_arguments.run.isInPlace, "With --fix: replace the files, each all or nothing");
 }
 

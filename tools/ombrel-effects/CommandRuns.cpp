@@ -2,6 +2,8 @@
 
 #include "Inputs.h"
 #include "Inspection/Nearest.h"
+#include "JUnitReport.h"
+#include "TextFile.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -13,13 +15,6 @@ namespace Ombrel::EffectsTool
 {
 namespace
 {
-
-std::string SummaryOf(const Counts& counts)
-{
-    const auto text = [](std::size_t count, const char* name)
-    { return std::to_string(count) + " " + name + (count == 1 ? "" : "s"); };
-    return text(counts.errors, "error") + ", " + text(counts.warnings, "warning") + ", " + text(counts.notes, "note");
-}
 
 bool HasColours()
 {
@@ -99,10 +94,23 @@ Report RunCheck(Arguments& arguments)
     {
         throw ToolError(ExitCode::Usage, "--in-place needs --fix");
     }
+    if (!arguments.junitFile.empty() && arguments.areLines)
+    {
+        throw ToolError(ExitCode::Usage, "--junit has a test for each file, so that it excludes --lines");
+    }
     settings.isJson = arguments.isJson;
-    settings.isColoured = HasColours();
+    settings.isColoured = HasColours() && arguments.junitFile.empty();
+    JUnitReport tests;
+    if (!arguments.junitFile.empty())
+    {
+        arguments.run.whenDone = [&tests](const std::string& file, const Report& part) { tests.Add(file, part); };
+    }
     Report report = OnFiles(arguments, settings.isFixing,
                             [&settings](const Document& document) { return CheckDocument(document, settings); });
+    if (!arguments.junitFile.empty())
+    {
+        WriteTextFile(arguments.junitFile, tests.Text());
+    }
     if (!arguments.run.isQuiet)
     {
         report.complaints.push_back(SummaryOf(report.counts) + (settings.isFixing ? " left" : ""));

@@ -26,6 +26,7 @@ struct Arguments
     std::string notesFolder;
     std::string examplesFolder;
     std::string outputFolder;
+    std::string junitFile;
     std::vector<std::string> ignoredCodes;
     RunOptions run;
     CheckSettings check;

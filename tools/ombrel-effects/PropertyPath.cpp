@@ -30,16 +30,6 @@ bool IsSame(const Inspection::PathStep& step, const std::string& text)
     return index ? IndexOf(text) == *index : std::get<std::string>(step) == text;
 }
 
-std::size_t CountSteps(const Inspection::Path& path)
-{
-    std::size_t count = 0;
-    for (const Inspection::Path* part = &path; part; part = part->Start().get())
-    {
-        count += part->OwnSteps().size();
-    }
-    return count;
-}
-
 // Whether the steps of a path are the same as these, up to the end of the shorter one.
 bool AreFirstSame(const Inspection::Path& path, std::size_t count, PathView steps)
 {
@@ -96,6 +86,16 @@ Path StepsOf(const Inspection::Path& path)
         steps.push_back(index ? std::to_string(*index) : std::move(std::get<std::string>(step)));
     }
     return steps;
+}
+
+std::size_t CountSteps(const Inspection::Path& path)
+{
+    std::size_t count = 0;
+    for (const Inspection::Path* part = &path; part; part = part->Start().get())
+    {
+        count += part->OwnSteps().size();
+    }
+    return count;
 }
 
 bool StartsWith(PathView path, PathView beginning)

@@ -27,6 +27,9 @@ std::string PathText(PathView path);
 /// The same path with indices as text.
 Path StepsOf(const Inspection::Path& path);
 
+/// How many steps the path has.
+std::size_t CountSteps(const Inspection::Path& path);
+
 /// Whether the path begins with these steps. The path of a finding may be long, so no copy of it is made.
 bool StartsWith(PathView path, PathView beginning);
 bool StartsWith(PathView path, const Inspection::Path& beginning);

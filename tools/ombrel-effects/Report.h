@@ -29,6 +29,14 @@ struct Counts
     }
 };
 
+/// "2 errors, 1 warning, 0 notes".
+inline std::string SummaryOf(const Counts& counts)
+{
+    const auto text = [](std::size_t count, const char* name)
+    { return std::to_string(count) + " " + name + (count == 1 ? "" : "s"); };
+    return text(counts.errors, "error") + ", " + text(counts.warnings, "warning") + ", " + text(counts.notes, "note");
+}
+
 /// What a command says of one file. No command prints or writes anything itself.
 struct Report
 {

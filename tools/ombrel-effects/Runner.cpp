@@ -256,13 +256,17 @@ void RunOnFiles(const std::vector<std::string>& files, const RunOptions& options
     report.complaints.clear();
     const DeferredSignals signals(options.isInPlace);
     Progress progress(files.size(), options.isQuiet);
-    const auto take = [&](const Report& part)
+    const auto take = [&](const std::string& file, const Report& part)
     {
         if (part.HasText())
         {
             progress.Clear();
         }
         Print(part);
+        if (options.whenDone)
+        {
+            options.whenDone(file, part);
+        }
         report.Merge(part);
     };
     if (options.jobs < 2 || files.size() < 2)
@@ -270,7 +274,7 @@ void RunOnFiles(const std::vector<std::string>& files, const RunOptions& options
         for (std::size_t index = 0; index != files.size() && !signals.HaveCome(); ++index)
         {
             progress.Show(index);
-            take(ReportOn(files[index], options, work));
+            take(files[index], ReportOn(files[index], options, work));
         }
         progress.Clear();
         return;
@@ -284,7 +288,7 @@ void RunOnFiles(const std::vector<std::string>& files, const RunOptions& options
             progress.Show(index);
         }
         progress.Show(index);
-        take(part);
+        take(files[index], part);
     }
     progress.Clear();
 }

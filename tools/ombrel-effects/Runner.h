@@ -19,6 +19,7 @@ struct RunOptions
     bool isInPlace = false; // documents replace their files
     bool isForced = false;  // also where something is changed or lost that was not asked for
     bool isQuiet = false;   // without a progress line
+    std::function<void(const std::string& file, const Report& report)> whenDone = {}; // of each file, in their order
 };
 
 /// What a command makes of one file.

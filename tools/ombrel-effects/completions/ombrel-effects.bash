@@ -26,7 +26,7 @@ _ombrel_effects_has_value()
     'get --max-bytes') ;;
     'set --max-bytes') ;;
     'unset --max-bytes') ;;
-    'check --max-bytes' | 'check --jobs' | 'check --ignore' | 'check --max-findings') ;;
+    'check --max-bytes' | 'check --jobs' | 'check --ignore' | 'check --max-findings' | 'check --junit') ;;
     'show --max-bytes' | 'show --jobs') ;;
     'thin --max-bytes' | 'thin --jobs') ;;
     'freeze --max-bytes' | 'freeze --jobs') ;;
@@ -94,8 +94,9 @@ _ombrel_effects()
     'unset 2') ;;
     'unset -' | 'unset '[1-9]*) _ombrel_effects_offer "$current" -h --help --non-finite --max-bytes --in-place --force ;;
     'check --ignore') _ombrel_effects_offer "$current" no-name unknown-effect wrong-kind bad-colour number-too-large too-deep not-an-effect not-registered refused unknown-name number-for-name cut-integer truncated-float narrowed-float colour-not-canonical ignored-value duplicate-element unknown-key lost-by-copy changes-on-write default-written null-effect ragged-rows not-a-number no-schema ;;
+    'check --junit') compopt -o default ;;
     'check '[1-9]*) compopt -o default ;;
-    'check -') _ombrel_effects_offer "$current" -h --help --non-finite --max-bytes --quiet --jobs --lines --json --strict --fix --ignore --max-findings --in-place ;;
+    'check -') _ombrel_effects_offer "$current" -h --help --non-finite --max-bytes --quiet --jobs --lines --json --strict --fix --ignore --max-findings --junit --in-place ;;
     'show '[1-9]*) compopt -o default ;;
     'show -') _ombrel_effects_offer "$current" -h --help --non-finite --max-bytes --quiet --jobs --lines --changed --json ;;
     'thin '[1-9]*) compopt -o default ;;

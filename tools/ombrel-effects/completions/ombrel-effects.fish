@@ -15,7 +15,7 @@ function __ombrel_effects_place
             set has_ended 1
         else if string match -q -- '-?*' "$word"; and test -z "$has_ended"
             switch "$command $word"
-                case 'reference --notes' 'reference --examples' 'reference --output' 'get --max-bytes' 'set --max-bytes' 'unset --max-bytes' 'check --max-bytes' 'check --jobs' 'check --ignore' 'check --max-findings' 'show --max-bytes' 'show --jobs' 'thin --max-bytes' 'thin --jobs' 'freeze --max-bytes' 'freeze --jobs' 'normalise --max-bytes' 'normalise --jobs' 'diff --max-bytes' 'patch --max-bytes' 'merge --max-bytes' 'insert --max-bytes' 'remove --max-bytes' 'move --max-bytes' 'extract --max-bytes'
+                case 'reference --notes' 'reference --examples' 'reference --output' 'get --max-bytes' 'set --max-bytes' 'unset --max-bytes' 'check --max-bytes' 'check --jobs' 'check --ignore' 'check --max-findings' 'check --junit' 'show --max-bytes' 'show --jobs' 'thin --max-bytes' 'thin --jobs' 'freeze --max-bytes' 'freeze --jobs' 'normalise --max-bytes' 'normalise --jobs' 'diff --max-bytes' 'patch --max-bytes' 'merge --max-bytes' 'insert --max-bytes' 'remove --max-bytes' 'move --max-bytes' 'extract --max-bytes'
                     set option "$word"
             end
         else if test -z "$command"
@@ -118,6 +118,7 @@ complete -c ombrel-effects -n '__ombrel_effects_at check' -l strict -d 'Notes en
 complete -c ombrel-effects -n '__ombrel_effects_at check' -l fix -d 'Mend what can be mended and print the document; the findings go to the standard error'
 complete -c ombrel-effects -n '__ombrel_effects_at check' -l ignore -x -a '\'no-name\' \'unknown-effect\' \'wrong-kind\' \'bad-colour\' \'number-too-large\' \'too-deep\' \'not-an-effect\' \'not-registered\' \'refused\' \'unknown-name\' \'number-for-name\' \'cut-integer\' \'truncated-float\' \'narrowed-float\' \'colour-not-canonical\' \'ignored-value\' \'duplicate-element\' \'unknown-key\' \'lost-by-copy\' \'changes-on-write\' \'default-written\' \'null-effect\' \'ragged-rows\' \'not-a-number\' \'no-schema\'' -d 'Leave a code out, such as unknown-key; may be given several times'
 complete -c ombrel-effects -n '__ombrel_effects_at check' -l max-findings -x -d 'End the check of a file with so many findings'
+complete -c ombrel-effects -n '__ombrel_effects_at check' -l junit -r -F -d 'Write an XML file too, in which each file is a test'
 complete -c ombrel-effects -n '__ombrel_effects_at check' -l in-place -d 'With --fix: replace the files, each all or nothing'
 complete -c ombrel-effects -n '__ombrel_effects_at check 1' -F
 complete -c ombrel-effects -n '__ombrel_effects_at show' -s h -l help -d 'Print this help message and exit'
