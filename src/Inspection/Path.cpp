@@ -1,6 +1,7 @@
 #include "Inspection/Path.h"
 
 #include <algorithm>
+#include <atomic>
 #include <utility>
 
 namespace Ombrel::Inspection
@@ -18,6 +19,16 @@ template <class Visit> void ForEachPart(const Path& path, const Visit& visit)
 }
 
 } // namespace
+
+// One after the other: beginnings of beginnings may be as many as effects stand in each other.
+Path::~Path()
+{
+    while (m_start && m_start.use_count() == 1)
+    {
+        std::atomic_thread_fence(std::memory_order_acquire); // another thread may have had it until now
+        m_start = std::exchange(m_start->m_start, nullptr);
+    }
+}
 
 std::vector<PathStep> Path::Steps() const
 {

@@ -22,7 +22,13 @@ using PathStep = std::variant<std::string, std::size_t>;
 class Path
 {
 public:
-    Path() = default;
+    Path() noexcept = default;
+    Path(const Path&) = default;
+    Path(Path&&) noexcept = default;
+    Path& operator=(const Path&) = default;
+    Path& operator=(Path&&) noexcept = default;
+    OMBREL_API ~Path();
+
     explicit Path(std::vector<PathStep> steps) noexcept : m_ownSteps(std::move(steps)) {}
 
     /// The steps of `start`, if it is not null, and then `ownSteps`.
@@ -43,7 +49,7 @@ public:
     OMBREL_API bool operator==(const Path& other) const;
 
 private:
-    std::shared_ptr<const Path> m_start;
+    mutable std::shared_ptr<const Path> m_start; // which the last that has it takes apart
     std::vector<PathStep> m_ownSteps;
 };
 
