@@ -98,14 +98,14 @@ std::string OptionForZsh(const ArgumentOutline& option)
         }
         return SingleQuoted("(" + WithSpaces(option.names) + ")") + "{" + names + "}" + SingleQuoted(help);
     }
-    std::string specification;
+    std::string words;
     for (const std::string& name : option.names)
     {
         const std::string way = option.value.empty() ? "" : name.starts_with("--") ? "=" : "+";
-        specification += (specification.empty() ? "" : " ") + SingleQuoted((option.isRepeated ? "*" : "") + name + way + help +
-                                                                           (option.value.empty() ? "" : ValueForZsh(option)));
+        words += (words.empty() ? "" : " ") + SingleQuoted((option.isRepeated ? "*" : "") + name + way + help +
+                                                           (option.value.empty() ? "" : ValueForZsh(option)));
     }
-    return specification;
+    return words;
 }
 
 std::string ArgumentForZsh(const ArgumentOutline& argument, std::size_t place)
