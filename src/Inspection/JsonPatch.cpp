@@ -23,7 +23,13 @@ struct Refusal
 // A path of steps as RFC 6901 writes it.
 std::string PointerOf(const Path& path)
 {
-    return path.OwnSteps().empty() && !path.Start() ? "" : "/" + path.ToText();
+    std::string pointer;
+    if (!path.OwnSteps().empty() || path.Start())
+    {
+        pointer += '/';
+        pointer += path.ToText();
+    }
+    return pointer;
 }
 
 class PatchWriter
