@@ -89,7 +89,7 @@ if(TARGET ombrel_EffectInspection)
     FOLDERS Inspection
     PRIVATE_HEADERS Attempt.h CheckContext.h DiffWalk.h EffectCheck.h EffectMerge.h Findings.h Fingerprints.h FormDefaults.h
                     KeylessMembers.h KnownClass.h ListAlignment.h ListMoves.h Place.h RecordInfo.h RefusedEffects.h
-                    SchemaParts.h TreeSteps.h Trials.h Usable.h ValueCheck.h Values.h WrittenComparison.h
+                    SchemaParts.h SharedPaths.h TreeSteps.h Trials.h Usable.h ValueCheck.h Values.h WrittenComparison.h
     REQUIRES ombrel-effect-settings)
   install(FILES ${PROJECT_SOURCE_DIR}/examples/undo.cpp DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)
 endif()

@@ -12,7 +12,6 @@
 #include "ValueCommands.h"
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 #include <span>
 #include <string>
@@ -45,34 +44,6 @@ PropertyTree TreeOf(const std::string& text)
     return ReadJson(text, {.nonFiniteAsText = true});
 }
 
-// Numbers by value: 5 is 5.0, and a NaN is a NaN.
-bool AreSame(const PropertyTree& a, const PropertyTree& b)
-{
-    if (a.isScalar() && b.isScalar() && a.getScalar().kind() != b.getScalar().kind() &&
-        a.getScalar().kind() != PropertyTreeScalar::Kind::String && b.getScalar().kind() != PropertyTreeScalar::Kind::String)
-    {
-        return a.getScalar().toDouble() == b.getScalar().toDouble();
-    }
-    if (a.isScalar() && b.isScalar() && a.getScalar().kind() == PropertyTreeScalar::Kind::Float &&
-        b.getScalar().kind() == PropertyTreeScalar::Kind::Float)
-    {
-        const double one = a.getScalar().toDouble();
-        const double other = b.getScalar().toDouble();
-        return one == other || (std::isnan(one) && std::isnan(other));
-    }
-    if (a.isList() && b.isList())
-    {
-        return std::ranges::equal(a.getList(), b.getList(), &AreSame);
-    }
-    if (a.isMap() && b.isMap())
-    {
-        return std::ranges::equal(a.getMap(), b.getMap(),
-                                  [](const auto& one, const auto& other)
-                                  { return one.first == other.first && AreSame(one.second, other.second); });
-    }
-    return a == b;
-}
-
 // Whether nothing differs but at the place, around it and below it.
 bool AreOthersSame(const PropertyTree& before, const PropertyTree& after, StepsView place)
 {
@@ -88,7 +59,7 @@ bool AreOthersSame(const PropertyTree& before, const PropertyTree& after, StepsV
             const auto found = after.getMap().find(key);
             return found != after.getMap().end() &&
                    (key == place.front() ? AreOthersSame(child, found->second, place.subspan(1))
-                                         : AreSame(child, found->second));
+                                         : AreSameByValue(child, found->second));
         };
         const auto isNoOther = [&](const auto& entry) { return entry.first == place.front() || before.contains(entry.first); };
         return std::ranges::all_of(before.getMap(),
@@ -104,14 +75,14 @@ bool AreOthersSame(const PropertyTree& before, const PropertyTree& after, StepsV
             const PropertyTree& one = before.getList()[index];
             const PropertyTree& other = after.getList()[index];
             const bool isOnTheWay = std::to_string(index) == place.front();
-            if (isOnTheWay ? !AreOthersSame(one, other, place.subspan(1)) : !AreSame(one, other))
+            if (isOnTheWay ? !AreOthersSame(one, other, place.subspan(1)) : !AreSameByValue(one, other))
             {
                 return false;
             }
         }
         return true;
     }
-    return AreSame(before, after);
+    return AreSameByValue(before, after);
 }
 
 const PropertyTree* Find(const PropertyTree& tree, StepsView place)
@@ -168,7 +139,7 @@ bool IsReadAs(const PropertyTree& given, const PropertyTree& read)
                                                                    { return IsReadAs(element, other); });
                                     }));
     }
-    return AreSame(given, read);
+    return AreSameByValue(given, read);
 }
 
 std::string Described(const PropertyTree& tree, StepsView place, const std::string& value, const Report& report)
@@ -225,9 +196,9 @@ void CompareChange(const PropertyTree& tree, const Steps& place, const std::stri
         const PropertyTree* read = Find(*readAfter, place);
         const std::optional<Report> got =
             Run([&] { return GetValue(Document(FILE_NAME, *report.document, READING), place, false); });
-        Require(read && got && AreSame(TreeOf(got->out), *read), "get says something else", text);
+        Require(read && got && AreSameByValue(TreeOf(got->out), *read), "get says something else", text);
         const PropertyTree asText(value);
-        Require(AreSame(asText, *read) || IsReadAs(TreeOf(value), *read), "the value is not read as it was given",
+        Require(AreSameByValue(asText, *read) || IsReadAs(TreeOf(value), *read), "the value is not read as it was given",
                 text + "\nread " + TextOf(*read));
     }
     Require(isSet || !Find(after, place), "the key is still there", text);
@@ -313,7 +284,7 @@ void CompareForm(const PropertyTree& tree, Report (*command)(const Document&), c
     const std::optional<PropertyTree> readBefore = Read(tree);
     const std::optional<PropertyTree> readAfter = Read(after);
     Require(readBefore.has_value() == readAfter.has_value(), "one of both forms cannot be read", text);
-    Require(!readBefore || AreSame(*readBefore, *readAfter), "a value is read otherwise", text);
+    Require(!readBefore || AreSameByValue(*readBefore, *readAfter), "a value is read otherwise", text);
 }
 
 } // namespace
@@ -324,7 +295,7 @@ void CompareCommands(const PropertyTree& tree, Mutation& mutation)
     try
     {
         file = TextOf(tree);
-        if (!AreSame(TreeOf(file), tree))
+        if (!AreSameByValue(TreeOf(file), tree))
         {
             return;
         }
@@ -346,7 +317,8 @@ void CompareCommands(const PropertyTree& tree, Mutation& mutation)
     }
     if (const auto report = Run([&] { return GetValue(document, place, true); }))
     {
-        Require(Find(tree, place) && AreSame(TreeOf(report->out), *Find(tree, place)), "get --raw", file + "\n" + report->out);
+        Require(Find(tree, place) && AreSameByValue(TreeOf(report->out), *Find(tree, place)), "get --raw",
+                file + "\n" + report->out);
     }
     CompareForm(tree, &EffectsTool::ThinDocument, "thin");
     CompareForm(tree, &EffectsTool::FreezeDocument, "freeze");
@@ -357,7 +329,7 @@ void CompareCommands(const PropertyTree& tree, Mutation& mutation)
     settings.isFixing = true;
     const Report fixed = CheckDocument(document, settings);
     const PropertyTree mended = Inspection::Mended(tree, Inspection::Check(tree));
-    Require(fixed.document && AreSame(TreeOf(*fixed.document), mended), "check --fix", file);
+    Require(fixed.document && AreSameByValue(TreeOf(*fixed.document), mended), "check --fix", file);
     Run([&] { return ShowDocument(document, false); });
     Run([&] { return ShowAsJson(document); });
 }

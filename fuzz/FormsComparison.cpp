@@ -36,42 +36,6 @@ std::string TextOf(const PropertyTree& tree)
     return text.str();
 }
 
-bool AreSameScalars(const PropertyTreeScalar& a, const PropertyTreeScalar& b)
-{
-    const auto isNumber = [](const PropertyTreeScalar& scalar)
-    { return scalar.kind() == Kind::Integer || scalar.kind() == Kind::Float; };
-    if (a.kind() == b.kind() || !isNumber(a) || !isNumber(b))
-    {
-        return a == b ||
-               (a.kind() == Kind::Float && b.kind() == Kind::Float && std::isnan(a.toDouble()) && std::isnan(b.toDouble()));
-    }
-    // A float of 64 bits holds no more digits than this, so both conversions are exact or differ.
-    const double number = a.kind() == Kind::Float ? a.toDouble() : b.toDouble();
-    const std::int64_t integer = a.kind() == Kind::Float ? b.toInt() : a.toInt();
-    return number >= -9223372036854775808.0 && number < 9223372036854775808.0 && static_cast<std::int64_t>(number) == integer &&
-           static_cast<double>(static_cast<std::int64_t>(number)) == number;
-}
-
-// Numbers by value: 5 is 5.0, and a NaN is a NaN.
-bool AreSame(const PropertyTree& a, const PropertyTree& b)
-{
-    if (a.isScalar() && b.isScalar())
-    {
-        return AreSameScalars(a.getScalar(), b.getScalar());
-    }
-    if (a.isList() && b.isList())
-    {
-        return std::ranges::equal(a.getList(), b.getList(), &AreSame);
-    }
-    if (a.isMap() && b.isMap())
-    {
-        return std::ranges::equal(a.getMap(), b.getMap(),
-                                  [](const auto& one, const auto& other)
-                                  { return one.first == other.first && AreSame(one.second, other.second); });
-    }
-    return a.isNull() && b.isNull();
-}
-
 std::vector<PropertyTree> EffectsOf(const PropertyTree& tree)
 {
     return tree.isList() ? tree.getList() : std::vector{tree};
@@ -79,7 +43,7 @@ std::vector<PropertyTree> EffectsOf(const PropertyTree& tree)
 
 void RequireSame(const PropertyTree& one, const PropertyTree& other, std::string_view what, const PropertyTree& tree)
 {
-    Require(AreSame(one, other), what, TextOf(tree) + "\nfirst:  " + TextOf(one) + "\nsecond: " + TextOf(other));
+    Require(AreSameByValue(one, other), what, TextOf(tree) + "\nfirst:  " + TextOf(one) + "\nsecond: " + TextOf(other));
 }
 
 // What a read gives: the effect, or the type and text of the failure.
@@ -133,17 +97,17 @@ bool MayBeComputed(const Finding& finding)
     case FindingCode::TruncatedFloat:
     {
         const std::int64_t read = finding.found.getScalar().toInt();
-        return isOut ||
-               (!AreSame(becomes, read) && !AreSame(becomes, static_cast<std::int32_t>(read)) &&
-                !AreSame(becomes, static_cast<std::uint32_t>(read)) && !AreSame(becomes, static_cast<std::uint8_t>(read)));
+        return isOut || (!AreSameByValue(becomes, read) && !AreSameByValue(becomes, static_cast<std::int32_t>(read)) &&
+                         !AreSameByValue(becomes, static_cast<std::uint32_t>(read)) &&
+                         !AreSameByValue(becomes, static_cast<std::uint8_t>(read)));
     }
     case FindingCode::NarrowedFloat:
     {
         const double read = finding.found.getScalar().toDouble();
-        return isOut || (!AreSame(becomes, read) && !AreSame(becomes, static_cast<float>(read)));
+        return isOut || (!AreSameByValue(becomes, read) && !AreSameByValue(becomes, static_cast<float>(read)));
     }
     case FindingCode::NumberForName:
-        return AreSame(becomes, ""); // which is read as the fallback
+        return AreSameByValue(becomes, ""); // which is read as the fallback
     default:
         return false;
     }

@@ -40,6 +40,22 @@ bool AreSame(const PropertyTree& a, const PropertyTree& b)
                               { return left.first == right.first && AreSame(left.second, right.second); });
 }
 
+bool AreSameScalars(const PropertyTreeScalar& a, const PropertyTreeScalar& b)
+{
+    const auto isNumber = [](const PropertyTreeScalar& scalar)
+    { return scalar.kind() == PropertyTreeScalar::Kind::Integer || scalar.kind() == PropertyTreeScalar::Kind::Float; };
+    if (a.kind() == b.kind() || !isNumber(a) || !isNumber(b))
+    {
+        return a == b || (a.kind() == PropertyTreeScalar::Kind::Float && b.kind() == PropertyTreeScalar::Kind::Float &&
+                          std::isnan(a.toDouble()) && std::isnan(b.toDouble()));
+    }
+    // A float of 64 bits holds no more digits than this, so both conversions are exact or differ.
+    const double number = a.kind() == PropertyTreeScalar::Kind::Float ? a.toDouble() : b.toDouble();
+    const std::int64_t integer = a.kind() == PropertyTreeScalar::Kind::Float ? b.toInt() : a.toInt();
+    return number >= -9223372036854775808.0 && number < 9223372036854775808.0 && static_cast<std::int64_t>(number) == integer &&
+           static_cast<double>(static_cast<std::int64_t>(number)) == number;
+}
+
 std::string TextOf(const PropertyTree& tree)
 {
     std::ostringstream out;
@@ -65,6 +81,25 @@ void RequireSame(const PropertyTree& expected, const PropertyTree& found, std::s
     {
         Require(false, what, "expected " + TextOf(expected) + "\nfound    " + TextOf(found));
     }
+}
+
+bool AreSameByValue(const PropertyTree& a, const PropertyTree& b)
+{
+    if (a.isScalar() && b.isScalar())
+    {
+        return AreSameScalars(a.getScalar(), b.getScalar());
+    }
+    if (a.isList() && b.isList())
+    {
+        return std::ranges::equal(a.getList(), b.getList(), &AreSameByValue);
+    }
+    if (a.isMap() && b.isMap())
+    {
+        return std::ranges::equal(a.getMap(), b.getMap(),
+                                  [](const auto& one, const auto& other)
+                                  { return one.first == other.first && AreSameByValue(one.second, other.second); });
+    }
+    return a.isNull() && b.isNull();
 }
 
 } // namespace Fuzz

@@ -20,6 +20,9 @@ void Require(bool condition, std::string_view what, std::string_view found = {})
 /// Ends the program with both trees unless they are the same, where a NaN is the same as a NaN.
 void RequireSame(const Ombrel::PropertyTree& expected, const Ombrel::PropertyTree& found, std::string_view what);
 
+/// Whether two trees hold the same numbers by value: 5 is 5.0, and a NaN is a NaN.
+bool AreSameByValue(const Ombrel::PropertyTree& a, const Ombrel::PropertyTree& b);
+
 } // namespace Fuzz
 
 #endif

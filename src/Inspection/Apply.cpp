@@ -49,11 +49,6 @@ std::vector<const Path*> StartsOf(const Way& way)
     return starts;
 }
 
-bool IsThere(const PropertyTree* found, const std::optional<PropertyTree>& expected)
-{
-    return found && expected ? AreSame(*found, *expected) : !found && !expected;
-}
-
 // One effect of the document, as it is stored and, once it is asked for, with every key.
 class Element
 {
@@ -109,6 +104,8 @@ private:
     static void Require(const Inspection::Change& change, const PropertyTree* found);
     Both Follow(const Way& way, std::size_t skipped);
     void Store(const Inspection::Change& change, const Both& start, Steps steps, std::size_t skipped);
+    static void StoreBelow(const Inspection::Change& change, PropertyTree& from, const PropertyTree& fullFrom, Steps steps,
+                           bool isPlain);
 
     EffectPtr m_effect;
     std::optional<PropertyTree> m_stored;
@@ -121,10 +118,11 @@ private:
 void Element::Require(const Inspection::Change& change, const PropertyTree* found)
 {
     const std::optional<PropertyTree>& expected = change.before;
-    const bool isIt = change.isUnordered && found && expected ? AreSameUnordered(*found, *expected) : IsThere(found, expected);
+    const bool isIt = change.isUnordered && found && expected ? AreSameUnordered(*found, *expected)
+                                                              : AreSameOrMissing(found, PointerTo(expected));
     if (!isIt)
     {
-        throw ConflictError(change.path, expected, found ? std::optional(*found) : std::nullopt);
+        throw ConflictError(change.path, expected, CopyOf(found));
     }
 }
 
@@ -182,52 +180,60 @@ void Element::Change(const Inspection::Change& change, std::size_t skipped)
 void Element::Store(const Inspection::Change& change, const Both& start, Steps steps, std::size_t skipped)
 {
     const Way storedWay(change.stored.path);
-    const bool isPlain = storedWay.start == start.start && storedWay.steps.size() == steps.size() + (start.start ? 0 : skipped);
+    const bool hasSameStart = storedWay.start == start.start;
+    const bool isPlain = hasSameStart && storedWay.steps.size() == steps.size() + (start.start ? 0 : skipped);
     if (change.kind == ChangeKind::Value || !isPlain)
     {
-        const std::vector<PathStep> all = storedWay.start == start.start ? std::vector<PathStep>() : change.stored.path.Steps();
-        const bool isFromStart = storedWay.start == start.start && start.stored;
+        const bool isFromStart = hasSameStart && start.stored;
+        const std::vector<PathStep> all = isFromStart ? std::vector<PathStep>() : change.stored.path.Steps();
         PropertyTree& from = isFromStart ? *start.stored : *m_stored;
         const Steps storedSteps = isFromStart ? storedWay.steps.subspan(start.start ? 0 : skipped)
                                               : Steps(all).subspan(std::min(skipped, all.size()));
-        const bool canTell = isFromStart || storedWay.start != start.start;
-        if (canTell && IsThere(Find(from, storedSteps), change.stored.before) && Put(from, storedSteps, change.stored.after))
+        if (AreSameOrMissing(Find(from, storedSteps), PointerTo(change.stored.before)) &&
+            Put(from, storedSteps, change.stored.after))
         {
-            m_way.resize(isFromStart ? m_way.size() : 0); // what is around the place may be another now
+            if (!isFromStart)
+            {
+                m_way.clear(); // what is around the place may be another now
+            }
             return;
         }
     }
-    // What is missing on the way comes from the full form.
-    const std::vector<PathStep> all = start.stored ? std::vector<PathStep>() : change.path.Steps();
-    PropertyTree* stored = start.stored ? start.stored : &*m_stored;
-    const PropertyTree* full = start.stored ? start.full : &*m_full;
-    const Steps way = start.stored ? steps : Steps(all).subspan(skipped);
-    for (std::size_t count = 0; count != way.size(); ++count)
+    if (start.stored)
     {
-        const bool isElement = count + 1 == way.size() && change.kind != ChangeKind::Value;
-        PropertyTree* const child = ChildAt(stored, way[count]);
-        const PropertyTree* const fullChild = ChildAt(full, way[count]);
-        if (!child && !isElement)
+        StoreBelow(change, *start.stored, *start.full, steps, isPlain);
+        return;
+    }
+    const std::vector<PathStep> all = change.path.Steps();
+    StoreBelow(change, *m_stored, *m_full, Steps(all).subspan(skipped), isPlain);
+    m_way.clear();
+}
+
+// What is missing on the way comes from the full form.
+void Element::StoreBelow(const Inspection::Change& change, PropertyTree& from, const PropertyTree& fullFrom, Steps steps,
+                         bool isPlain)
+{
+    const bool isOfList = change.kind != ChangeKind::Value;
+    PropertyTree* stored = &from;
+    const PropertyTree* full = &fullFrom;
+    for (const PathStep& step : steps.first(steps.size() - (isOfList ? 1 : 0)))
+    {
+        full = ChildAt(full, step);
+        PropertyTree* const child = ChildAt(stored, step);
+        if (!child)
         {
-            Put(*stored, way.subspan(count, 1), fullChild ? std::optional(*fullChild) : std::nullopt);
-            m_way.resize(start.stored ? m_way.size() : 0);
-            return;
-        }
-        if (isElement)
-        {
-            const bool isFound = isPlain && change.kind == ChangeKind::Insert && change.stored.after;
-            Execute(*stored, way.subspan(count, 1), change, isFound ? change.stored.after : change.after);
+            Put(*stored, Steps(&step, 1), CopyOf(full));
             return;
         }
         stored = child;
-        full = fullChild;
     }
-    if (!change.after)
+    if (!isOfList)
     {
-        Put(start.stored ? *start.stored : *m_stored, way, std::nullopt);
+        Put(from, steps, change.after);
         return;
     }
-    *stored = *change.after;
+    const bool isFound = isPlain && change.kind == ChangeKind::Insert && change.stored.after;
+    Execute(*stored, steps.last(1), change, isFound ? change.stored.after : change.after);
 }
 
 // The elements of a document, which is a list or one effect.
@@ -342,17 +348,15 @@ private:
     void ChangeList(const Change& change, const PathStep& step)
     {
         const std::size_t* index = std::get_if<std::size_t>(&step);
-        const bool isInsert = change.kind == ChangeKind::Insert;
-        const std::size_t size = m_elements.size();
         const std::optional<PropertyTree>& after = change.stored.after ? change.stored.after : change.after;
-        if (!index || *index >= size + (isInsert ? 1 : 0) || (change.kind == ChangeKind::Move && change.target >= size))
+        if (!index || !HasPlaces(change, *index, m_elements.size()))
         {
             throw ConflictError(change.path, change.before, std::nullopt);
         }
-        const auto at = [this](std::size_t place) { return m_elements.begin() + static_cast<std::ptrdiff_t>(place); };
-        if (isInsert)
+        const auto at = m_elements.begin() + static_cast<std::ptrdiff_t>(*index);
+        if (change.kind == ChangeKind::Insert)
         {
-            m_elements.insert(at(*index), std::make_unique<Element>(after ? *after : PropertyTree()));
+            m_elements.insert(at, std::make_unique<Element>(after ? *after : PropertyTree()));
             return;
         }
         if (!change.before || !m_elements[*index]->Is(*change.before))
@@ -361,19 +365,15 @@ private:
         }
         if (change.kind == ChangeKind::Remove)
         {
-            m_elements.erase(at(*index));
+            m_elements.erase(at);
         }
         else if (change.kind == ChangeKind::Value)
         {
             m_elements[*index] = std::make_unique<Element>(after ? *after : PropertyTree());
         }
-        else if (*index < change.target)
-        {
-            std::rotate(at(*index), at(*index + 1), at(change.target + 1));
-        }
         else
         {
-            std::rotate(at(change.target), at(*index), at(*index + 1));
+            MoveElement(m_elements, *index, change.target);
         }
     }
 

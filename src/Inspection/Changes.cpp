@@ -3,6 +3,7 @@
 #include "Inspection/TreeSteps.h"
 #include "Inspection/Values.h"
 #include "Proc/Settings/StoredKeys.h"
+#include "PropertyTree/Characters.h"
 #include "PropertyTree/PropertyTreeOutput.h"
 
 #include <algorithm>
@@ -20,50 +21,29 @@ namespace
 // One line, cut if it is long.
 std::string ShownWhole(const std::optional<PropertyTree>& value)
 {
-    constexpr std::size_t limit = 200;
     if (!value)
     {
         return "nothing";
     }
     std::ostringstream out;
     out << *value;
-    std::string text = std::move(out).str();
-    if (text.size() > limit)
-    {
-        std::size_t end = limit;
-        while ((static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) // within a UTF-8 sequence
-        {
-            --end;
-        }
-        text.replace(end, std::string::npos, "...");
-    }
-    return text;
+    return CutText(std::move(out).str());
 }
 
 // An effect by its class id alone.
 std::string ShownElement(const std::optional<PropertyTree>& element)
 {
-    const PropertyTree* name = element ? ChildAt(&*element, PathStep(std::string(Proc::StoredKeys::NAME))) : nullptr;
+    const PropertyTree* name = ChildAt(PointerTo(element), PathStep(std::string(Proc::StoredKeys::NAME)));
     return name && IsText(*name) ? name->getScalar().toString() : ShownWhole(element);
-}
-
-PathStep& LastOf(std::vector<PathStep>& steps)
-{
-    return steps.back();
 }
 
 // The path of a list's element with another index.
 Path WithIndex(const Path& path, std::size_t index)
 {
-    if (path.OwnSteps().empty())
-    {
-        std::vector<PathStep> steps = path.Steps();
-        LastOf(steps) = index;
-        return Path(std::move(steps));
-    }
-    std::vector<PathStep> steps = path.OwnSteps();
-    LastOf(steps) = index;
-    return {path.Start(), std::move(steps)};
+    const bool isShared = path.OwnSteps().empty();
+    std::vector<PathStep> steps = isShared ? path.Steps() : path.OwnSteps();
+    steps.back() = index;
+    return {isShared ? nullptr : path.Start(), std::move(steps)};
 }
 
 std::size_t ElementIndex(const Path& path)
@@ -110,10 +90,8 @@ std::vector<std::string> PathsAround(const std::string& text)
 
 bool ChangesNothing(const Change& change)
 {
-    const auto areSame = [](const std::optional<PropertyTree>& a, const std::optional<PropertyTree>& b)
-    { return a && b ? AreSame(*a, *b) : a.has_value() == b.has_value(); };
-    return change.kind == ChangeKind::Value && areSame(change.before, change.after) &&
-           areSame(change.stored.before, change.stored.after);
+    return change.kind == ChangeKind::Value && AreSameOrMissing(PointerTo(change.before), PointerTo(change.after)) &&
+           AreSameOrMissing(PointerTo(change.stored.before), PointerTo(change.stored.after));
 }
 
 // Collects changes. Among those since the last one of a list, no two are of values in each other, so that the later of two

@@ -46,13 +46,16 @@ struct Change
     ChangeKind kind = ChangeKind::Value;
     bool isUnordered = false; // the value is a set or a map of colours
     Path path = {};           // of the value, or of the element; for the latter as long as it is there
-    std::size_t target = 0;   // of a move: the index that the element then has
+    std::size_t target = 0;   // of a move: the index that the element then has, counted without it
     std::optional<PropertyTree> before = {};
     std::optional<PropertyTree> after = {};
     Storing stored = {};
 };
 
-/// Changes in their order. Each path is that in the tree to which all changes before it have been applied.
+/// Changes in their order. Each path is that in the tree to which all changes before it have been applied. A list owns all that
+/// it holds, and refers to no tree.
+///
+/// Threads: any number may use the functions below at once, also with one and the same tree or list that none of them changes.
 using ChangeList = std::vector<Change>;
 
 /// The change in one line, for people: "2/smartBlur/lumaRadius: 100 -> 50".
@@ -96,7 +99,7 @@ private:
 
 /// Changes a stored effect or a list of them, all or nothing. All that the changes do not name stays as it stands. After `Diff`
 /// the tree means the same as the other one, and the changes that take these back give the tree as it stood.
-/// @throws ConflictError if a value is not what it was before the change; the tree is then as it was
+/// @throws ConflictError if a value is not what it was before the change, std::bad_alloc; the tree is then as it was
 OMBREL_API void Apply(std::span<const Change> changes, PropertyTree& effectOrList);
 
 /// The same for effects, whose paths begin with their index. An effect that is changed is replaced by a new object, so that

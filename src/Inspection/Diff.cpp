@@ -24,11 +24,6 @@ using Proc::ValueSchema;
 
 namespace StoredKeys = Proc::StoredKeys;
 
-std::optional<PropertyTree> CopyOf(const PropertyTree* value)
-{
-    return value ? std::optional(*value) : std::nullopt;
-}
-
 bool AreBothMaps(const PropertyTree& a, const PropertyTree& b)
 {
     return a.isMap() && b.isMap();
@@ -37,14 +32,6 @@ bool AreBothMaps(const PropertyTree& a, const PropertyTree& b)
 bool AreBothLists(const PropertyTree& a, const PropertyTree& b)
 {
     return a.isList() && b.isList();
-}
-
-bool HaveSameName(const PropertyTree& a, const PropertyTree& b)
-{
-    const PathStep name{std::string(StoredKeys::NAME)};
-    const PropertyTree* one = ChildAt(&a, name);
-    const PropertyTree* other = ChildAt(&b, name);
-    return one && other ? AreSame(*one, *other) : one == other;
 }
 
 // What is known of a key in the map of an effect or a record.
@@ -125,7 +112,14 @@ void DiffWalk::VisitPending()
     {
         const Value value = m_pending.back();
         m_pending.pop_back();
-        m_conflicts ? VisitThree(value) : Visit(value);
+        if (m_conflicts)
+        {
+            VisitThree(value);
+        }
+        else
+        {
+            Visit(value);
+        }
     }
 }
 
@@ -146,8 +140,8 @@ void DiffWalk::Visit(const Value& value)
     {
         AddValue(value);
     }
-    else if ((kind == ValueKind::Effect && AreBothMaps(*before, *after) && HaveSameName(*before, *after)) ||
-             (kind == ValueKind::Record && AreBothMaps(*before, *after)))
+    else if (AreBothMaps(*before, *after) &&
+             (kind == ValueKind::Record || (kind == ValueKind::Effect && HaveSameName(*before, *after))))
     {
         VisitMap(value);
     }
@@ -155,8 +149,7 @@ void DiffWalk::Visit(const Value& value)
     {
         VisitElements(ElementsOf(value));
     }
-    else if ((kind == ValueKind::Set || kind == ValueKind::ColorMap) ? !AreSameUnordered(*before, *after)
-                                                                     : !AreSame(*before, *after))
+    else if (IsUnordered(schema) ? !AreSameUnordered(*before, *after) : !AreSame(*before, *after))
     {
         AddValue(value);
     }
@@ -173,7 +166,7 @@ DiffWalk::ListRest DiffWalk::ElementsOf(const Value& list)
             .after = list.after->getList(),
             .storedBefore = isStored ? list.storedBefore->getList().data() : nullptr,
             .storedAfter = isStoredAfter ? list.storedAfter->getList().data() : nullptr,
-            .areEffects = list.schema->element->kind == ValueKind::Effect};
+            .element = list.schema->element};
 }
 
 void DiffWalk::VisitMap(const Value& value)
@@ -230,7 +223,7 @@ void DiffWalk::VisitElements(const ListRest& rest)
 DiffWalk::Entries DiffWalk::EntriesOf(const ListRest& rest)
 {
     Entries entries;
-    if (rest.areEffects)
+    if (rest.AreEffects())
     {
         const ListAlignment alignment(rest.before, rest.after, true, m_prints);
         for (std::size_t index = 0; index != rest.after.size(); ++index)
@@ -250,7 +243,6 @@ DiffWalk::Entries DiffWalk::EntriesOf(const ListRest& rest)
 
 void DiffWalk::VisitEntries(ListRest rest, const Entries& entries)
 {
-    const ValueSchema* schema = rest.list.before ? rest.list.schema->element : &EFFECT_VALUE;
     rest.absent = rest.list.before ? AbsentIn(rest.list) : nullptr;
     AddStructure(rest, entries);
     for (std::size_t index = entries.size(); index-- != 0;)
@@ -269,8 +261,8 @@ void DiffWalk::VisitEntries(ListRest rest, const Entries& entries)
                                  .storedBefore = rest.storedBefore ? rest.storedBefore + entry.before : nullptr,
                                  .storedAfter = rest.storedAfter ? rest.storedAfter + entry.after : nullptr,
                                  .base = entry.base == NONE ? nullptr : &rest.base[entry.base],
-                                 .schema = schema,
-                                 .place = Below(rest.list.place, rest.offset + index, rest.areEffects),
+                                 .schema = rest.element,
+                                 .place = Below(rest.list.place, rest.offset + index, rest.AreEffects()),
                                  .absent = rest.absent,
                                  .isStoredAroundAfter = rest.storedAfter != nullptr});
         }
@@ -369,7 +361,7 @@ Path DiffWalk::PathOf(const Place& place)
 void DiffWalk::AddValue(const Value& value)
 {
     Change change{.path = PathOf(*value.place), .before = CopyOf(value.before), .after = CopyOf(value.after)};
-    change.isUnordered = value.schema && (value.schema->kind == ValueKind::Set || value.schema->kind == ValueKind::ColorMap);
+    change.isUnordered = IsUnordered(value.schema);
     if (value.absent && !value.absent->isStored)
     {
         change.stored = WholeOf(*value.absent, change);

@@ -6,6 +6,7 @@
 #include "Inspection/Fingerprints.h"
 #include "Inspection/Merge.h"
 #include "Inspection/Place.h"
+#include "Inspection/RefusedEffects.h"
 #include "Proc/Reflection/Schema.h"
 #include "PropertyTree/PropertyTree.h"
 
@@ -65,8 +66,10 @@ private:
         std::span<const PropertyTree> after;
         const PropertyTree* storedBefore = nullptr; // the first of them, or null
         const PropertyTree* storedAfter = nullptr;
-        bool areEffects = true;
+        const Proc::ValueSchema* element = &EFFECT_VALUE;
         Absent* absent = nullptr; // around them
+
+        bool AreEffects() const { return element->kind == Proc::ValueKind::Effect; }
     };
 
     // What stands in a list in the end: the indices before, after and in the base of one element, or `NONE`.

@@ -35,11 +35,6 @@ bool IsNothing(const PropertyTree* tree)
     return !tree || tree->isNull();
 }
 
-bool AreSameOrMissing(const PropertyTree* a, const PropertyTree* b)
-{
-    return a && b ? AreSame(*a, *b) : a == b;
-}
-
 bool IsSequence(const ValueSchema& schema)
 {
     return schema.kind == ValueKind::List || schema.kind == ValueKind::Set || schema.kind == ValueKind::ColorMap;

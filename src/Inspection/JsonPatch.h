@@ -43,7 +43,7 @@ private:
 
 /// Does the operations of any JSON Patch, by the rules of RFC 6902: all or nothing. It need not be of this library, and the
 /// tree need not hold effects.
-/// @throws JsonPatchError; the tree is then as it was
+/// @throws JsonPatchError, std::bad_alloc; the tree is then as it was
 OMBREL_API void ApplyJsonPatch(const PropertyTree& patch, PropertyTree& tree, const JsonPatchOptions& options = {});
 
 } // namespace Ombrel::Inspection

@@ -1,5 +1,6 @@
 #include "Inspection/KnownClass.h"
 
+#include "Inspection/TreeSteps.h"
 #include "Inspection/Values.h"
 #include "Proc/Settings/StoredKeys.h"
 
@@ -33,6 +34,12 @@ const PhotoCore::EffectClass* KnownClassOf(const PropertyTree& effect)
     }
     const PhotoCore::EffectClass* known = PhotoCore::FindEffectClass(name->second.getScalar().toString());
     return AreKeysKnown(known) && known->registration != PhotoCore::Registration::None ? known : nullptr;
+}
+
+bool HaveSameName(const PropertyTree& a, const PropertyTree& b)
+{
+    const PathStep name{std::string(Proc::StoredKeys::NAME)};
+    return AreSameOrMissing(ChildAt(&a, name), ChildAt(&b, name));
 }
 
 } // namespace Ombrel::Inspection

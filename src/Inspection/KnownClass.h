@@ -28,6 +28,9 @@ bool AreKeysKnown(const PhotoCore::EffectClass* effectClass);
 /// The class of a stored effect whose keys are known; null for everything else.
 const PhotoCore::EffectClass* KnownClassOf(const PropertyTree& effect);
 
+/// Whether two stored effects name the same class, or none.
+bool HaveSameName(const PropertyTree& a, const PropertyTree& b);
+
 } // namespace Ombrel::Inspection
 
 #endif

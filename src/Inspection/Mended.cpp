@@ -1,11 +1,12 @@
 #include "Inspection/Finding.h"
+
+#include "Inspection/SharedPaths.h"
 #include "Inspection/TreeSteps.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <map>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -49,7 +50,7 @@ private:
 
     std::vector<Place> m_places; // the root is the first
     Steps m_steps;
-    std::unordered_map<const Path*, std::size_t> m_starts;
+    SharedPaths<std::size_t> m_starts;
 };
 
 std::size_t Places::Below(std::size_t parent, const PathStep& step)
@@ -71,25 +72,15 @@ std::size_t Places::At(const Path& path, std::size_t without)
     {
         return path.Start() ? At(Path(path.Steps()), without) : 0;
     }
-    std::size_t place = 0;
-    std::vector<const Path*> pending;
-    for (const Path* start = path.Start().get(); start; start = start->Start().get())
+    const auto follow = [this](std::size_t from, const Path& part)
     {
-        if (const auto found = m_starts.find(start); found != m_starts.end())
+        for (const PathStep& step : part.OwnSteps())
         {
-            place = found->second;
-            break;
+            from = Below(from, step);
         }
-        pending.push_back(start);
-    }
-    for (auto start = pending.rbegin(); start != pending.rend(); ++start)
-    {
-        for (const PathStep& step : (*start)->OwnSteps())
-        {
-            place = Below(place, step);
-        }
-        m_starts.emplace(*start, place);
-    }
+        return from;
+    };
+    std::size_t place = m_starts.Find(path.Start(), 0, follow);
     for (std::size_t index = 0; index + without < path.OwnSteps().size(); ++index)
     {
         place = Below(place, path.OwnSteps()[index]);

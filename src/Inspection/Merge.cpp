@@ -2,11 +2,10 @@
 
 #include "Inspection/DiffWalk.h"
 #include "Inspection/Forms.h"
+#include "Inspection/KnownClass.h"
 #include "Inspection/ListAlignment.h"
-#include "Inspection/RefusedEffects.h"
 #include "Inspection/TreeSteps.h"
 #include "Inspection/Values.h"
-#include "Proc/Settings/StoredKeys.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -18,12 +17,6 @@ namespace
 {
 
 using Proc::ValueKind;
-using Proc::ValueSchema;
-
-bool IsSet(const ValueSchema* schema)
-{
-    return schema && (schema->kind == ValueKind::Set || schema->kind == ValueKind::ColorMap);
-}
 
 // What each of a list was in the base, turned around.
 std::vector<std::size_t> Inverted(const std::vector<std::size_t>& origins, std::size_t size)
@@ -75,15 +68,14 @@ ChangeList DiffWalk::Run(const PropertyTree& base, const PropertyTree& before, c
 
 void DiffWalk::AddConflict(Path path, const PropertyTree* base, const PropertyTree* ours, const PropertyTree* theirs)
 {
-    const auto copyOf = [](const PropertyTree* value) { return value ? std::optional(*value) : std::nullopt; };
-    m_conflicts->push_back({std::move(path), copyOf(base), copyOf(ours), copyOf(theirs)});
+    m_conflicts->push_back({std::move(path), CopyOf(base), CopyOf(ours), CopyOf(theirs)});
 }
 
 // Whether the value stays as it is before: since it is the same after, since only that has changed, or with a conflict.
 bool DiffWalk::IsOurs(const Value& value)
 {
     const auto areSame = [&value](const PropertyTree* a, const PropertyTree* b)
-    { return a && b ? (IsSet(value.schema) ? AreSameUnordered(*a, *b) : AreSame(*a, *b)) : a == b; };
+    { return a && b && IsUnordered(value.schema) ? AreSameUnordered(*a, *b) : AreSameOrMissing(a, b); };
     if (areSame(value.before, value.after) || areSame(value.base, value.after))
     {
         return true;
@@ -103,18 +95,10 @@ void DiffWalk::VisitThree(const Value& value)
         return value.base && value.before && value.after && (value.base->*isIt)() && (value.before->*isIt)() &&
                (value.after->*isIt)();
     };
-    const auto nameOf = [](const PropertyTree* effect)
-    { return ChildAt(effect, PathStep(std::string(Proc::StoredKeys::NAME))); };
-    const auto isNamedAs = [&nameOf](const PropertyTree* one, const PropertyTree* other)
-    {
-        const PropertyTree* a = nameOf(one);
-        const PropertyTree* b = nameOf(other);
-        return a && b ? AreSame(*a, *b) : a == b;
-    };
     const ValueKind kind = value.schema ? value.schema->kind : ValueKind::Other;
     const bool areMaps = areAll(&PropertyTree::isMap);
-    if (areMaps && (kind == ValueKind::Record ||
-                    (kind == ValueKind::Effect && isNamedAs(value.base, value.before) && isNamedAs(value.before, value.after))))
+    if (areMaps && (kind == ValueKind::Record || (kind == ValueKind::Effect && HaveSameName(*value.base, *value.before) &&
+                                                  HaveSameName(*value.before, *value.after))))
     {
         VisitMap(value);
     }
@@ -130,7 +114,7 @@ void DiffWalk::VisitThree(const Value& value)
 
 void DiffWalk::VisitThreeLists(ListRest rest)
 {
-    if (rest.areEffects)
+    if (rest.AreEffects())
     {
         const Entries entries = MergedEntries(rest);
         VisitEntries(std::move(rest), entries);

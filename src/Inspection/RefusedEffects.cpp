@@ -2,6 +2,8 @@
 
 #include "Exception/Exception.h"
 #include "Inspection/Place.h"
+#include "Inspection/SharedPaths.h"
+#include "Inspection/TreeSteps.h"
 #include "Proc/EffectSettings/EffectSettings.h"
 #include "Proc/EffectSettings/EffectSettingsExport.h"
 #include "Proc/Settings/StoredKeys.h"
@@ -11,7 +13,6 @@
 #include <exception>
 #include <new>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <variant>
 
@@ -64,45 +65,6 @@ void ForEachHolder(const PropertyTree& value, const ValueSchema& schema, RecordI
         }
     }
 }
-
-// What a path leads to, which is there. Each path that others begin with is followed once.
-class PathTargets
-{
-public:
-    /// @param skipped how many steps of all paths lead to the root
-    PathTargets(const PropertyTree& root, std::size_t skipped) : m_root(root), m_skipped(skipped) {}
-
-    const PropertyTree& At(const Path* path)
-    {
-        std::vector<const Path*> pending;
-        const PropertyTree* target = nullptr;
-        for (; path && !target; path = path->Start().get())
-        {
-            const auto found = m_targets.find(path);
-            target = found == m_targets.end() ? nullptr : found->second;
-            if (!target)
-            {
-                pending.push_back(path);
-            }
-        }
-        target = target ? target : &m_root;
-        for (auto next = pending.rbegin(); next != pending.rend(); ++next)
-        {
-            for (const PathStep& step : std::span((*next)->OwnSteps()).subspan((*next)->Start() ? 0 : m_skipped))
-            {
-                const std::size_t* index = std::get_if<std::size_t>(&step);
-                target = index ? &target->getList()[*index] : &target->getMap().at(std::get<std::string>(step));
-            }
-            m_targets.emplace(*next, target);
-        }
-        return *target;
-    }
-
-private:
-    const PropertyTree& m_root;
-    const std::size_t m_skipped;
-    std::unordered_map<const Path*, const PropertyTree*> m_targets;
-};
 
 // A part of a tree that is still to be copied.
 struct Copying
@@ -167,12 +129,14 @@ const RecordSchema* SchemaOfEffect(const PropertyTree& effect)
 
 void AddRefused(const PropertyTree& effect, std::span<const Finding> findings, std::size_t steps, EffectSet& refused)
 {
-    PathTargets effects(effect, steps);
+    const auto follow = [steps](const PropertyTree* from, const Path& path)
+    { return Find(*from, Steps(path.OwnSteps()).subspan(path.Start() ? 0 : steps)); };
+    SharedPaths<const PropertyTree*> effects;
     for (const Finding& finding : findings)
     {
         if (SeverityOf(finding.code) == Severity::Error)
         {
-            refused.insert(&effects.At(finding.path.Start().get()));
+            refused.insert(effects.Find(finding.path.Start(), &effect, follow));
         }
     }
 }

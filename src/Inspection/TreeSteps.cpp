@@ -2,22 +2,10 @@
 
 #include "Inspection/Changes.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <utility>
 
 namespace Ombrel::Inspection
 {
-namespace
-{
-
-std::ptrdiff_t Offset(std::size_t index)
-{
-    return static_cast<std::ptrdiff_t>(index);
-}
-
-} // namespace
-
 const PropertyTree* ChildAt(const PropertyTree* parent, const PathStep& step)
 {
     if (const std::size_t* index = std::get_if<std::size_t>(&step))
@@ -50,6 +38,12 @@ const PropertyTree* Find(const PropertyTree& tree, Steps steps)
 PropertyTree* Find(PropertyTree& tree, Steps steps)
 {
     return const_cast<PropertyTree*>(Find(static_cast<const PropertyTree&>(tree), steps));
+}
+
+bool HasPlaces(const Change& change, std::size_t index, std::size_t size)
+{
+    return change.kind == ChangeKind::Insert ? index <= size
+                                             : index < size && (change.kind != ChangeKind::Move || change.target < size);
 }
 
 bool Put(PropertyTree& tree, Steps steps, const std::optional<PropertyTree>& value)
@@ -89,31 +83,22 @@ bool Execute(PropertyTree& tree, Steps steps, const Change& change, const std::o
         return false;
     }
     PropertyTree::List& list = around->getList();
-    if (change.kind == ChangeKind::Insert)
-    {
-        if (!element || *index > list.size())
-        {
-            return false;
-        }
-        list.insert(list.begin() + Offset(*index), *element);
-        return true;
-    }
-    if (*index >= list.size() || (change.kind == ChangeKind::Move && change.target >= list.size()))
+    if (!HasPlaces(change, *index, list.size()) || (change.kind == ChangeKind::Insert && !element))
     {
         return false;
     }
-    const auto from = list.begin() + Offset(*index);
-    if (change.kind == ChangeKind::Remove)
+    const auto at = list.begin() + static_cast<std::ptrdiff_t>(*index);
+    if (change.kind == ChangeKind::Insert)
     {
-        list.erase(from);
+        list.insert(at, *element);
     }
-    else if (*index < change.target)
+    else if (change.kind == ChangeKind::Remove)
     {
-        std::rotate(from, from + 1, list.begin() + Offset(change.target) + 1);
+        list.erase(at);
     }
     else
     {
-        std::rotate(list.begin() + Offset(change.target), from, from + 1);
+        MoveElement(list, *index, change.target);
     }
     return true;
 }

@@ -201,6 +201,16 @@ bool AreSame(const PropertyTree& a, const PropertyTree& b)
     return true;
 }
 
+bool AreSameOrMissing(const PropertyTree* a, const PropertyTree* b)
+{
+    return a && b ? AreSame(*a, *b) : a == b;
+}
+
+bool IsUnordered(const Proc::ValueSchema* schema)
+{
+    return schema && (schema->kind == Proc::ValueKind::Set || schema->kind == Proc::ValueKind::ColorMap);
+}
+
 bool AreSameUnordered(const PropertyTree& a, const PropertyTree& b)
 {
     const auto isFlat = [](const PropertyTree& element)

@@ -34,6 +34,12 @@ std::string KeyOf(const PropertyTree& value);
 /// Whether two trees hold the same: numbers by value, so that 5 is 5.0 and -0.0 is 0.0, and a NaN is a NaN.
 bool AreSame(const PropertyTree& a, const PropertyTree& b);
 
+/// The same for values that may be missing, which are null then.
+bool AreSameOrMissing(const PropertyTree* a, const PropertyTree* b);
+
+/// Whether the elements have no order: those of a set or a map of colours. `schema` may be null.
+bool IsUnordered(const Proc::ValueSchema* schema);
+
 /// The same for sets and maps of colours, whose elements have no order.
 bool AreSameUnordered(const PropertyTree& a, const PropertyTree& b);
 

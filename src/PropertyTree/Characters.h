@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 // The characters of UTF-8 texts. Inline, since other libraries of this project use them and none exports them.
@@ -75,6 +76,22 @@ constexpr bool IsControl(std::string_view text) noexcept
 {
     const auto first = static_cast<unsigned char>(text.front());
     return first < 0x20 || first == 0x7F || (first == 0xC2 && static_cast<unsigned char>(text[1]) < 0xA0);
+}
+
+/// A text for a message, cut behind a whole UTF-8 sequence if it is long.
+inline std::string CutText(std::string text)
+{
+    constexpr std::size_t limit = 200;
+    if (text.size() > limit)
+    {
+        std::size_t end = limit;
+        while ((static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U)
+        {
+            --end;
+        }
+        text.replace(end, std::string::npos, "...");
+    }
+    return text;
 }
 
 } // namespace Ombrel

@@ -38,6 +38,7 @@ Inspection/Place.h
 Inspection/RecordInfo.h
 Inspection/RefusedEffects.h
 Inspection/SchemaParts.h
+Inspection/SharedPaths.h
 Inspection/TreeSteps.h
 Inspection/Trials.h
 Inspection/Usable.h

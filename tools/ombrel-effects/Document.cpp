@@ -135,30 +135,10 @@ JsonPlace Document::PlaceOf(const Inspection::Path& path) const
     {
         m_places.emplace(m_text, JsonReadOptions{.nonFiniteAsText = m_options.nonFinite});
     }
-    const JsonPlace place = m_places->PlaceOf(ValueAt(path.OwnSteps(), StartAt(path.Start())));
+    const JsonPlaces::Value top = m_around ? *m_places->Below(JsonPlaces::Value::Top, EFFECTS) : JsonPlaces::Value::Top;
+    const auto follow = [this](JsonPlaces::Value from, const Inspection::Path& part) { return ValueAt(part.OwnSteps(), from); };
+    const JsonPlace place = m_places->PlaceOf(ValueAt(path.OwnSteps(), m_starts.Find(path.Start(), top, follow)));
     return {.line = m_line.value_or(place.line), .column = place.column};
-}
-
-// The value that paths begin with; each such path is followed once.
-JsonPlaces::Value Document::StartAt(const std::shared_ptr<const Inspection::Path>& start) const
-{
-    JsonPlaces::Value value = m_around ? *m_places->Below(JsonPlaces::Value::Top, EFFECTS) : JsonPlaces::Value::Top;
-    std::vector<std::shared_ptr<const Inspection::Path>> pending;
-    for (std::shared_ptr<const Inspection::Path> part = start; part; part = part->Start())
-    {
-        if (const auto found = m_starts.find(part); found != m_starts.end())
-        {
-            value = found->second;
-            break;
-        }
-        pending.push_back(part);
-    }
-    for (auto part = pending.rbegin(); part != pending.rend(); ++part)
-    {
-        value = ValueAt((*part)->OwnSteps(), value);
-        m_starts.emplace(*part, value);
-    }
-    return value;
 }
 
 // The last value on the way that is there.

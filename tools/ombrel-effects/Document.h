@@ -2,15 +2,14 @@
 #define OMBREL_EFFECTS_TOOL_DOCUMENT_H
 
 #include "Inspection/Finding.h"
+#include "Inspection/SharedPaths.h"
 #include "PropertyTree/PropertyTree.h"
 #include "PropertyTreeJson/JsonPlaces.h"
 
 #include <cstddef>
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
-#include <unordered_map>
 
 namespace Ombrel::EffectsTool
 {
@@ -75,7 +74,6 @@ public:
 private:
     Document(const std::string& file, std::string text, const ReadingOptions& options, std::optional<std::size_t> line);
 
-    JsonPlaces::Value StartAt(const std::shared_ptr<const Inspection::Path>& start) const;
     JsonPlaces::Value ValueAt(std::span<const Inspection::PathStep> steps, JsonPlaces::Value value) const;
 
     std::string m_name;
@@ -86,7 +84,7 @@ private:
     PropertyTree m_tree;
     // Once places have been asked for.
     mutable std::optional<JsonPlaces> m_places;
-    mutable std::unordered_map<std::shared_ptr<const Inspection::Path>, JsonPlaces::Value> m_starts;
+    mutable Inspection::SharedPaths<JsonPlaces::Value> m_starts;
 };
 
 } // namespace Ombrel::EffectsTool

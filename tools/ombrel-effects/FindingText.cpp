@@ -77,7 +77,7 @@ std::string LineOf(const Finding& finding, const Document& document, bool isColo
            (path.empty() ? "" : ": ") + MessageOf(finding);
 }
 
-std::string LineOf(Finding finding, const Document& document, std::size_t index)
+std::string LineOfEffect(Finding finding, const Document& document, std::size_t index)
 {
     if (document.IsList())
     {

@@ -23,7 +23,7 @@ std::string MessageOf(const Inspection::Finding& finding);
 std::string LineOf(const Inspection::Finding& finding, const Document& document, bool isColoured);
 
 /// The same for a finding of a check of one effect of the document.
-std::string LineOf(Inspection::Finding finding, const Document& document, std::size_t index);
+std::string LineOfEffect(Inspection::Finding finding, const Document& document, std::size_t index);
 
 /// How many findings a command says of a file if it is not told how many.
 inline constexpr std::size_t MOST_SHOWN = 1000;

@@ -18,7 +18,7 @@ void ThrowIfUnreadable(const Document& document, const Address& address, const s
     {
         if (SeverityOf(finding.code) == Inspection::Severity::Error && IsAround(finding, address.rest))
         {
-            throw ToolError(ExitCode::BadInput, LineOf(finding, document, address.index));
+            throw ToolError(ExitCode::BadInput, LineOfEffect(finding, document, address.index));
         }
     }
 }

@@ -1,5 +1,6 @@
 #include "Values.h"
 
+#include "PropertyTree/Characters.h"
 #include "PropertyTree/KindNames.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 
@@ -60,18 +61,7 @@ std::string Shown(const PropertyTree& value)
 
 std::string ShownInBrief(const PropertyTree& value)
 {
-    constexpr std::size_t limit = 200;
-    std::string text = Shown(value);
-    if (text.size() > limit)
-    {
-        std::size_t end = limit;
-        while ((static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) // within a UTF-8 sequence
-        {
-            --end;
-        }
-        text.replace(end, std::string::npos, "...");
-    }
-    return text;
+    return CutText(Shown(value));
 }
 
 const char* KindOf(const PropertyTree& value)
