@@ -11,10 +11,10 @@ namespace Ombrel::Conf
 /// The size of a frame in pixels and its aspect as the ratio ax : ay.
 struct FrameInfo
 {
-    std::uint32_t width = 0;
-    std::uint32_t height = 0;
-    std::uint32_t ax = 0;
-    std::uint32_t ay = 0;
+    std::uint32_t width = 0;  // pixels
+    std::uint32_t height = 0; // pixels
+    std::uint32_t ax = 0;     // the first number of the ratio
+    std::uint32_t ay = 0;     // the second one
 
     bool operator==(const FrameInfo&) const = default;
 };

@@ -31,6 +31,7 @@ public:
 struct OMBREL_API TagDescription;
 struct OMBREL_API TagCallStack;
 
+/// The text and the call stack as they are attached, for `boost::get_error_info`.
 using ErrorDescription = boost::error_info<TagDescription, std::string>;
 using ErrorCallStack = boost::error_info<TagCallStack, std::string>;
 

@@ -21,6 +21,7 @@ class OMBREL_API ISerializableBase
 public:
     class IPropertyAccess;
 
+    /// The name of the class in stored trees. The reference stays for as long as the library is loaded.
     virtual const std::string& GetClassId() const = 0;
 
     /// Replaces `tree` by the stored form of this object: a map, whatever the tree was.

@@ -39,6 +39,7 @@ namespace Ombrel
 class OMBREL_API PropertyTree
 {
 public:
+    /// What `getMap` and `getList` give.
     using Map = PropertyTreeMap;
     using List = std::vector<PropertyTree>;
 
@@ -93,12 +94,12 @@ public:
     void swap(PropertyTree& other) noexcept;
     friend void swap(PropertyTree& a, PropertyTree& b) noexcept { a.swap(b); }
 
+    /// The state of the tree: exactly one of the four is true.
     bool isNull() const noexcept { return State() == STATE_NULL; }
     bool isScalar() const noexcept
     {
         return (State() & PropertyTreeScalar::KIND) - 1 < STATE_TEXT; // null wraps around
     }
-
     bool isMap() const noexcept { return State() == STATE_MAP; }
     bool isList() const noexcept { return State() == STATE_LIST; }
 

@@ -243,6 +243,7 @@ public:
     iterator find(std::string_view key) noexcept { return iterator(Find(key)); }
     const_iterator find(std::string_view key) const noexcept { return const_iterator(Find(key)); }
 
+    /// Whether there is an entry under `key`; `count` gives 1 or 0.
     bool contains(std::string_view key) const noexcept;
     size_type count(std::string_view key) const noexcept { return contains(key) ? 1 : 0; }
 

@@ -37,6 +37,7 @@ concept PropertyTreeBoolLike =
 class OMBREL_API PropertyTreeScalar
 {
 public:
+    /// What a scalar holds. The numbers never change.
     enum class Kind : std::uint8_t
     {
         Bool = 1,
@@ -106,6 +107,7 @@ public:
         return *this;
     }
 
+    /// What this scalar holds.
     Kind kind() const noexcept { return static_cast<Kind>(m_kind & KIND); }
 
     /// The integer; a float is truncated towards zero.

@@ -19,8 +19,8 @@ class JsonPlaceTable;
 /// A place in a text, counted as in `JsonError`.
 struct JsonPlace
 {
-    std::size_t line;
-    std::size_t column;
+    std::size_t line;   // from 1
+    std::size_t column; // from 1, in bytes
 
     bool operator==(const JsonPlace&) const = default;
 };

@@ -26,6 +26,7 @@
 namespace Ombrel
 {
 
+/// What a reader takes beside plain JSON, and how much.
 struct JsonReadOptions
 {
     /// How many maps and lists may be open at once: with 1, `[]` is read and `[[]]` is refused; with 0, only scalars and null
@@ -45,6 +46,7 @@ struct JsonReadOptions
     std::size_t maxBytes = std::numeric_limits<std::size_t>::max();
 };
 
+/// How a text is laid out, and what is written beside plain JSON.
 struct JsonWriteOptions
 {
     /// Writes a NaN or an infinity as the string "NaN", "Infinity" or "-Infinity". A string of the tree that consists of zero

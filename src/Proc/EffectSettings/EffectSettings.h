@@ -58,7 +58,9 @@ public:
 protected:
     EffectSettings();
 
+    /// Gives the schema of a class, or null.
     using SchemaSource = const Proc::RecordSchema*() noexcept;
+    /// Gives the object in an effect that the schema describes.
     using StoredSource = void*(IEffectSettings& effect) noexcept;
 
     /// Also the fields of `object`, which the schema describes; none without a schema.
@@ -75,7 +77,9 @@ protected:
     /// Whether the record of `effect` has the class id.
     static bool HasClassId(const IEffectSettings& effect, const std::string& id);
 
+    /// One of `Proc::ImplNames`; what was read may be any text.
     std::string m_implName;
+    /// What `GetHelperSettings` returns.
     HelperSettings m_helperSettings;
 };
 

@@ -32,12 +32,12 @@ enum class Registration : std::uint8_t
 /// One settings class.
 struct EffectClass
 {
-    std::string_view className;
-    const char* classId;
+    std::string_view className;                           // such as "VibranceSettings"
+    const char* classId;                                  // such as "EFFECT_VIBRANCE"
     std::shared_ptr<IEffectSettings> (*create)();         // the class's `CreateBase`
     const Proc::RecordSchema* (*getSchema)() noexcept;    // what its trees hold of its own; nothing for a class without keys
     void* (*getStored)(IEffectSettings& effect) noexcept; // the object of an effect of this class that the schema describes
-    Registration registration;
+    Registration registration;                            // how it gets into the registry
 };
 
 /// Every settings class of this library: first those of the start-up list in its order, then the others. Constant data, there

@@ -26,11 +26,15 @@ concept StoresItself = requires
 template <class Record, class Derived> class OMBREL_API EffectSettingsImpl : public EffectSettings
 {
 public:
+    /// The record of the class.
     using RecordType = Record;
 
+    /// With a default record.
     OMBREL_LOCAL EffectSettingsImpl() : settings(Proc::MakeDefaultRecord<Record>()) {}
+    /// With a copy of `record`.
     OMBREL_LOCAL explicit EffectSettingsImpl(const Record& record) : settings(record) {}
 
+    /// A new object with a copy of `record`.
     OMBREL_LOCAL static std::shared_ptr<Derived> Create(const Record& record) { return std::make_shared<Derived>(record); }
 
     /// A new object with a default record.
@@ -67,6 +71,7 @@ public:
         }
     }
 
+    /// The record, by its own type. It belongs to this object.
     OMBREL_LOCAL Record& GetTypedSettings() noexcept { return settings; }
     OMBREL_LOCAL const Record& GetTypedSettings() const noexcept { return settings; }
 
@@ -164,11 +169,14 @@ public:
     using EffectSettingsInput<Record, Derived, Input>::EffectSettingsInput;
 
 protected:
+    /// The base asks for the answer below.
     friend EffectSettingsImpl<Record, Derived>;
 
+    /// True, unlike that of the base.
     static consteval bool UsesFieldList() { return true; }
 };
 
+/// By the number of images, for classes whose stored form does not come from a field list.
 template <class Record, class Derived>
 using EffectSettingsOneInput = EffectSettingsInput<Record, Derived, IEffectSettings::InputType::One>;
 template <class Record, class Derived>
@@ -176,6 +184,7 @@ using EffectSettingsTwoInput = EffectSettingsInput<Record, Derived, IEffectSetti
 template <class Record, class Derived>
 using EffectSettingsVarInput = EffectSettingsInput<Record, Derived, IEffectSettings::InputType::Var>;
 
+/// By the number of images, for classes whose stored form comes from a field list.
 template <class Record, class Derived>
 using EffectSettingsOneInputReflection = EffectSettingsReflection<Record, Derived, IEffectSettings::InputType::One>;
 template <class Record, class Derived>

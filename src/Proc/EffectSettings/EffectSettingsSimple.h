@@ -32,6 +32,8 @@ public:
     EffectSettingsSimple& operator=(EffectSettingsSimple&&) noexcept;
     ~EffectSettingsSimple() override;
 
+    /// A new object around `record`, which may be null and is shared with the caller. It takes one image where no type is
+    /// given.
     static std::shared_ptr<EffectSettingsSimple> Create(const std::shared_ptr<Proc::Settings>& record);
     static std::shared_ptr<EffectSettingsSimple> Create(InputType type, std::shared_ptr<Proc::Settings> record);
 
@@ -62,7 +64,9 @@ public:
         return a.operator==(static_cast<const IEffectSettings&>(b));
     }
 
+    /// How many input images the effect is to take.
     void SetInputType(InputType type);
+    /// Which implementation is to run the effect. Any text is taken.
     void SetImplName(const std::string& name);
 
 private:

@@ -21,6 +21,7 @@ namespace Ombrel::PhotoCore
 class OMBREL_API HelperSettings : public PhotoUtil::ISerializable
 {
 public:
+    /// How the result of an effect is applied. Stored by name: the names are those below.
     enum class ApplySetting : std::int32_t
     {
         Invalid = 0,
@@ -58,17 +59,25 @@ public:
         return a.operator==(static_cast<const PhotoUtil::ISerializable&>(b));
     }
 
+    /// The editor's mark that undo is set for the effect. False by default.
     bool GetUndoSet() const { return m_undoSet; }
     void SetUndoSet(bool value) { m_undoSet = value; }
 
+    /// How the result is applied. Empty by default.
     std::set<ApplySetting> GetApplyMode() const { return m_applyMode; }
     void SetApplyMode(std::set<ApplySetting> value);
+
+    /// Whether the set above has `flag`.
     bool HasApplyModeFlag(ApplySetting flag) const { return m_applyMode.contains(flag); }
+
+    /// Puts `flag` into the set or takes it out.
     void SetApplyModeFlag(ApplySetting flag, bool isSet);
 
+    /// The largest width in pixels; 4294967295, the default, for any.
     std::uint32_t GetMaxWidth() const { return m_maxWidth; }
     void SetMaxWidth(std::uint32_t value) { m_maxWidth = value; }
 
+    /// The largest height in pixels; 4294967295, the default, for any.
     std::uint32_t GetMaxHeight() const { return m_maxHeight; }
     void SetMaxHeight(std::uint32_t value) { m_maxHeight = value; }
 

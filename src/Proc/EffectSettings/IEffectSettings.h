@@ -39,7 +39,9 @@ public:
         Var = 2,
     };
 
+    /// Makes a default effect of one class.
     using Factory = std::function<std::shared_ptr<IEffectSettings>()>;
+    /// Effects in their order. An element may be null.
     using List = std::vector<std::shared_ptr<IEffectSettings>>;
     using ConstList = std::vector<std::shared_ptr<const IEffectSettings>>;
 
@@ -52,11 +54,16 @@ public:
     /// Which implementation runs the effect, one of `Proc::ImplNames`.
     virtual const std::string& GetImplName() const = 0;
 
+    /// The record. It belongs to this object.
     virtual const Proc::Settings& GetEffectSettings() const = 0;
     virtual Proc::Settings& GetEffectSettingsRef() = 0;
 
+    /// What the editor's apply step needs of the effect. It belongs to this object.
     virtual const HelperSettings& GetHelperSettings() const = 0;
+    /// How many input images the effect takes.
     virtual InputType GetInputType() = 0;
+
+    /// The helper settings, to be changed.
     virtual HelperSettings& HelperSetting() = 0;
 
     /// True if `Add` folds another effect of the class into this one.

@@ -34,7 +34,7 @@ public:
 
     static const Proc::RecordSchema& Schema() noexcept;
 
-    // Names of the resizer's parameters, for callers; none of them is used as a stored key.
+    /// Names of the resizer's parameters, for callers; none of them is used as a stored key.
     static const std::string FRAME_SIZE_MODE;
     static const std::string SCALE_FACTOR;
     static const std::string MODE;
@@ -57,7 +57,7 @@ public:
     double GetResolution() const { return m_resolution; }
     void SetResolution(double value) { m_resolution = value; }
 
-    // Callers know it without const.
+    /// The unit in which the size was entered. Callers know the getter without const.
     SizeUOM GetUOM() { return m_uom; }
     void SetUOM(SizeUOM value) { m_uom = value; }
 

@@ -43,6 +43,7 @@ public:
     std::uint64_t GetCurrentFace() const { return m_currentFaceIndex; }
     void SetCurrentFace(std::uint64_t value) { m_currentFaceIndex = value; }
 
+    /// The faces with their effects. They belong to this record.
     const std::vector<FaceItem>& GetFaces() const { return m_facesEffects; }
 
     /// Takes copies of the faces and clones of their effects; a package's own list is left as it is. The list may stand inside

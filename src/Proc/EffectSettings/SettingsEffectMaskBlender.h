@@ -27,6 +27,7 @@ public:
 
     const std::string& GetClassId() const override;
 
+    /// One effect, and a list of them as the record holds it.
     using Effect = std::shared_ptr<const IEffectSettings>;
     using EffectList = IEffectSettings::ConstList;
 
@@ -50,6 +51,7 @@ public:
     /// True if the record of every effect is empty, or else if the strength is 255, whatever the effects do.
     bool IsEmpty() const override;
 
+    /// The effects in their order. The list belongs to this record.
     const EffectList& GetForegroundEffects() const { return m_foregroundEffects; }
     const EffectList& GetBackgroundEffects() const { return m_backgroundEffects; }
 
@@ -70,18 +72,23 @@ public:
     bool EraseForegroundEffect(const std::string& classId) { return EraseEffectImpl(classId, false); }
     bool EraseBackgroundEffect(const std::string& classId) { return EraseEffectImpl(classId, true); }
 
+    /// What the bounds of the mask follow. Callers know the getter without const.
     SizeOptimization GetOptimizationMode() { return m_optimizationMode; }
     void SetOptimizationMode(SizeOptimization value) { m_optimizationMode = value; }
 
+    /// The mask.
     const Proc::SettingsEffectShapeMask& GetAlpha() const { return m_alpha; }
     void SetAlpha(const Proc::SettingsEffectShapeMask& value) { m_alpha = value; }
 
+    /// Whether the mask comes from outside the record. Stored as given; false by default.
     bool GetUseExternalMask() const { return m_useExternalMask; }
     void SetUseExternalMask(bool value) { m_useExternalMask = value; }
 
+    /// How strongly the two sides are blended. Any number is stored as given; with 255 the record is empty.
     std::int32_t GetBlendingStrength() const { return m_blendingStrength; }
     void SetBlendingStrength(std::int32_t value) { m_blendingStrength = value; }
 
+    /// Whether the two frames change places where there is a mask. It is never stored, and no comparison looks at it.
     bool GetSwapFramesIfMaskFound() const { return m_swapFramesIfMaskFound; }
     void SetSwapFramesIfMaskFound(bool value) { m_swapFramesIfMaskFound = value; }
 
@@ -89,6 +96,7 @@ public:
     std::uint32_t GetBackgroundFrameIndex() const { return m_backgroundIndex; }
     void SetBackgroundFrameIndex(std::uint32_t value) { m_backgroundIndex = value; }
 
+    /// Whether the masks are equal.
     bool IsAlphaEqual(const SettingsEffectMaskBlender& other) const;
 
     /// @throws what the comparison of two effects throws

@@ -13,10 +13,10 @@ namespace Ombrel::PhotoCore
 /// A rectangle in pixels.
 struct OMBREL_API ROI
 {
-    std::int32_t left = 0;
-    std::int32_t top = 0;
-    std::int32_t width = 0;
-    std::int32_t height = 0;
+    std::int32_t left = 0;   // of the first column
+    std::int32_t top = 0;    // of the first row
+    std::int32_t width = 0;  // how many columns
+    std::int32_t height = 0; // how many rows
 
     bool operator==(const ROI&) const = default;
 

@@ -58,6 +58,7 @@ public:
 
     const std::string& GetClassId() const override;
 
+    /// A new object with a grid of empty cells.
     static std::shared_ptr<TileSettings> Create(std::uint64_t width, std::uint64_t height);
 
     /// The effects that run before and after those of the cells.

@@ -21,8 +21,10 @@ public:
     /// False: an effect with a model always does something.
     bool IsEmpty() const override;
 
+    /// Whether the model files are the same.
     bool operator==(const BaseSettingsModelFile& other) const;
 
+    /// Which model file the effect uses, as a number of the program that runs it. Never stored.
     std::int32_t modelFile = 0;
 };
 

@@ -22,10 +22,12 @@ public:
     /// all.
     bool operator==(const BaseSettingsNeural& other) const;
 
+    /// Switches of the program that runs the network, which gives them their meaning. Never stored.
     bool neuralOption1 = true;
     bool neuralOption2 = true;
     bool neuralOption3 = true;
     bool neuralOption4 = false;
+    /// The mode of the network, as a number of that program. Never stored.
     std::int32_t neuralMode = 0;
 };
 

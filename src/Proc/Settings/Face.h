@@ -15,6 +15,7 @@ namespace Ombrel::Proc
 
 struct RecordSchema;
 
+/// A point of the picture, in pixels.
 struct FacePoint
 {
     OMBREL_API static const RecordSchema& Schema() noexcept;
@@ -55,6 +56,7 @@ struct PupilPoint
     FacePoint m_point{-1, -1};
 };
 
+/// The lid line and the pupil of one eye.
 struct Eye
 {
     OMBREL_API static const RecordSchema& Schema() noexcept;
@@ -65,6 +67,7 @@ struct Eye
     PupilPoint m_pupil;
 };
 
+/// Both eyes, as they are seen in the picture.
 struct Eyes
 {
     OMBREL_API static const RecordSchema& Schema() noexcept;
@@ -75,6 +78,7 @@ struct Eyes
     Eye m_right;
 };
 
+/// Both eyebrows.
 struct Eyebrows
 {
     OMBREL_API static const RecordSchema& Schema() noexcept;
@@ -85,6 +89,7 @@ struct Eyebrows
     FaceContour m_right;
 };
 
+/// The two lines of the nose.
 struct Nose
 {
     OMBREL_API static const RecordSchema& Schema() noexcept;
@@ -95,6 +100,7 @@ struct Nose
     FaceContour m_horizontal;
 };
 
+/// The outer and the inner line of the lips.
 struct Mouth
 {
     OMBREL_API static const RecordSchema& Schema() noexcept;

@@ -13,10 +13,10 @@ namespace Ombrel::Proc
 /// A colour of four bytes; opaque black by default.
 struct RgbaColor
 {
-    std::uint8_t red = 0;
-    std::uint8_t green = 0;
-    std::uint8_t blue = 0;
-    std::uint8_t alpha = 255;
+    std::uint8_t red = 0;     // 0 to 255
+    std::uint8_t green = 0;   // 0 to 255
+    std::uint8_t blue = 0;    // 0 to 255
+    std::uint8_t alpha = 255; // 0 is transparent, 255 opaque
 
     bool operator==(const RgbaColor&) const = default;
 };

@@ -26,6 +26,7 @@ public:
         Custom = 2,
     };
 
+    /// A point of the trace.
     struct TracePoint
     {
         OMBREL_API static const RecordSchema& Schema() noexcept;

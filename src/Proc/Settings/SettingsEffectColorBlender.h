@@ -12,6 +12,7 @@ namespace Ombrel::Proc
 class OMBREL_API SettingsEffectColorBlender : public Settings
 {
 public:
+    /// How it is laid on the picture. Stored by name.
     enum class BlendingMode : std::int32_t
     {
         Default = 0,
@@ -24,9 +25,11 @@ public:
     SettingsEffectColorBlender& operator=(SettingsEffectColorBlender&&) noexcept;
     ~SettingsEffectColorBlender() override;
 
+    /// Pixels from the left edge of the picture.
     std::int32_t GetPositionX() const { return m_positionX; }
     void SetPositionX(std::int32_t value) { m_positionX = value; }
 
+    /// Pixels from its upper edge.
     std::int32_t GetPositionY() const { return m_positionY; }
     void SetPositionY(std::int32_t value) { m_positionY = value; }
 
@@ -38,6 +41,7 @@ public:
     /// of n / 255 answers n.
     std::int32_t GetAlpha() const;
 
+    /// `Default` unless `SetBlendingMode` was called.
     BlendingMode GetBlendingMode() const { return m_blendingMode; }
 
     /// The only way to set the mode: a stored one sets the intensity.

@@ -21,6 +21,7 @@ public:
 
     const std::string& GetClassId() const override;
 
+    /// A row or a column of the matrix.
     enum class Channel : std::int32_t
     {
         R = 0,
@@ -37,6 +38,7 @@ public:
     double GetFactor(Channel row, Channel column) const { return m_factors.at(Index(row)).at(Index(column)); }
     void SetFactor(Channel row, Channel column, double value) { m_factors.at(Index(row)).at(Index(column)) = value; }
 
+    /// Whether all sixteen factors are equal.
     bool operator==(const SettingsEffectColorChannelMixer& other) const;
 
 private:

@@ -91,6 +91,7 @@ public:
         HardMixCompositeOp = 67,
     };
 
+    /// Whether the operators are equal.
     bool operator==(const SettingsEffectCompose& other) const;
 
     CompositeOperator m_operator = CompositeOperator::UndefinedCompositeOp;

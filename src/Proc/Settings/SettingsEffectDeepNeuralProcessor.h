@@ -20,6 +20,7 @@ public:
 
     const std::string& GetClassId() const override;
 
+    /// Numbers of the program that processes the picture, which gives them their meaning. Never stored.
     std::int32_t processorMode = 3;
     std::int32_t processorIndex = -1;
     std::int32_t processorLimitFirst = 3072;

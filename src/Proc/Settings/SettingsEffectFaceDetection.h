@@ -24,7 +24,9 @@ public:
     /// Compares the mode alone: the faces are a result.
     bool operator==(const SettingsEffectFaceDetection& other) const;
 
+    /// How faces are looked for, as a number of the program that does.
     std::int32_t m_detectionMode = 0;
+    /// The faces that were found.
     std::vector<Face> m_faces;
 };
 

@@ -23,6 +23,7 @@ public:
 
     const std::string& GetClassId() const override;
 
+    /// The whole picture, or one range of hue.
     enum class HueRange : std::int32_t
     {
         Master = 0,
@@ -37,19 +38,26 @@ public:
     /// True if every value has its default, in each range.
     bool IsEmpty() const override;
 
-    // All six throw std::out_of_range if `range` is none of the above.
+    /// The shift of hue in the range.
+    /// @throws std::out_of_range if `range` is none of the above
     float GetHue(HueRange range) const { return At(range).hue; }
     void SetHue(HueRange range, float value) { At(range).hue = value; }
 
+    /// The shift of lightness in the range.
+    /// @throws std::out_of_range if `range` is none of the above
     float GetLightness(HueRange range) const { return At(range).lightness; }
     void SetLightness(HueRange range, float value) { At(range).lightness = value; }
 
+    /// The shift of saturation in the range.
+    /// @throws std::out_of_range if `range` is none of the above
     float GetSaturation(HueRange range) const { return At(range).saturation; }
     void SetSaturation(HueRange range, float value) { At(range).saturation = value; }
 
+    /// The strength of the shifts; 1 by default.
     float GetIntensity() const { return m_intensity; }
     void SetIntensity(float value) { m_intensity = value; }
 
+    /// The overlap of the ranges; 0 by default.
     float GetOverlap() const { return m_overlap; }
     void SetOverlap(float value) { m_overlap = value; }
 

@@ -38,6 +38,7 @@ public:
     /// Replaces the mask by all the values together, 0 included, which has no bit.
     void SetMode(const std::set<Channel>& channels);
 
+    /// Whether the modes are equal, bits of no channel too.
     bool operator==(const SettingsEffectNegateVideo& other) const;
 
 private:

@@ -17,6 +17,7 @@ public:
     /// For a caller's record that is not used before its `CLASS_ID` is constructed. This library's records override it.
     const std::string& GetClassId() const override { return Record::CLASS_ID; }
 
+    /// A new copy, which the caller owns.
     [[gnu::cold]] Settings* Clone() const override { return new Record(static_cast<const Record&>(*this)); }
 
     /// Evaluates `other == *this`.
@@ -34,6 +35,7 @@ OMBREL_API bool AreFieldsEqual(const RecordSchema& schema, const void* a, const 
 template <class Record> class ComparedByFields : public Settings
 {
 public:
+    /// Whether all fields are equal.
     friend bool operator==(const Record& a, const Record& b) { return AreFieldsEqual(Record::Schema(), &a, &b); }
 };
 

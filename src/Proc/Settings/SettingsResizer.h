@@ -18,7 +18,7 @@ public:
 
     const std::string& GetClassId() const override;
 
-    // The numbers of both are fixed.
+    /// What gives the size. The numbers are fixed.
     enum class SizeModes : std::int32_t
     {
         Original = 0,
@@ -26,7 +26,7 @@ public:
         CustomFrame = 4,
     };
 
-    /// How a picture of another aspect fills the frame.
+    /// How a picture of another aspect fills the frame. The numbers are fixed.
     enum class CustomModes : std::int32_t
     {
         Fit = 0,
@@ -37,14 +37,17 @@ public:
     /// True if the record is as by default: no size was ever entered. With an entered scale of 1 it is not empty.
     bool IsEmpty() const override;
 
+    /// What was entered last, or `Original`.
     SizeModes GetSizeMode() const { return m_sizeMode; }
 
+    /// What `SetCustomMode` was given last.
     CustomModes GetCustomMode() const { return m_customMode; }
     const Conf::FrameInfo& GetFrameInfo() const { return m_frameInfo; }
 
     /// Enters the custom-frame mode. The frame is stored as given.
     void SetCustomMode(CustomModes mode, const Conf::FrameInfo& frame);
 
+    /// What `SetCustomScale` was given last; 1 before that.
     double GetScaleFactor() const { return m_scaleFactor; }
 
     /// Enters the custom-scale mode. The factor is stored as given; 1 is the original size.
