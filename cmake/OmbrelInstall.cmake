@@ -1,5 +1,6 @@
 # What `cmake --install` puts where: the libraries that were built, their headers, what shows trees in a debugger, and what CMake
-# and pkg-config need to find them. The installed tree may be moved as a whole.
+# and pkg-config need to find them. The installed tree may be moved as a whole. Each library is a component, as are "tool" and
+# "development", which is the rest.
 
 set(OMBREL_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/${PROJECT_NAME})
 set(OMBREL_PKGCONFIG_DIR ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
@@ -43,14 +44,17 @@ function(ombrel_install_library name)
   if(ARG_REQUIRES) # it finds its siblings where it stands itself
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
   endif()
-  install(TARGETS ${target} EXPORT OmbrelEffectSettingsTargets)
+  install(TARGETS ${target} EXPORT OmbrelEffectSettingsTargets
+    RUNTIME COMPONENT ${name}
+    LIBRARY COMPONENT ${name} NAMELINK_COMPONENT development
+    ARCHIVE COMPONENT development)
 
   set(exclusions)
   foreach(header IN LISTS ARG_PRIVATE_HEADERS)
     list(APPEND exclusions PATTERN ${header} EXCLUDE)
   endforeach()
   foreach(folder IN LISTS ARG_FOLDERS)
-    install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/${folder} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Ombrel
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/${folder} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Ombrel COMPONENT development
             FILES_MATCHING ${exclusions} PATTERN *.h)
   endforeach()
 
@@ -63,35 +67,37 @@ function(ombrel_install_library name)
     set(OMBREL_PC_REQUIRES "\nRequires: ${requires}")
   endif()
   configure_file(${PROJECT_SOURCE_DIR}/cmake/library.pc.in ${PROJECT_BINARY_DIR}/${OMBREL_PC_NAME}.pc @ONLY)
-  install(FILES ${PROJECT_BINARY_DIR}/${OMBREL_PC_NAME}.pc DESTINATION ${OMBREL_PKGCONFIG_DIR})
+  install(FILES ${PROJECT_BINARY_DIR}/${OMBREL_PC_NAME}.pc DESTINATION ${OMBREL_PKGCONFIG_DIR} COMPONENT development)
 endfunction()
 
 install(FILES ${PROJECT_SOURCE_DIR}/src/OmbrelExport.h ${PROJECT_SOURCE_DIR}/src/OmbrelLasting.h
               ${PROJECT_SOURCE_DIR}/src/OmbrelVersion.h
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Ombrel)
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Ombrel COMPONENT development)
 ombrel_install_library(EffectSettings
   DESCRIPTION "${PROJECT_DESCRIPTION}"
   FOLDERS Conf Exception PhotoUtil Proc PropertyTree
   PRIVATE_HEADERS Characters.h KindNames.h KnownTexts.h PropertyTreeKey.h PropertyTreeMapFiller.h PropertyTreeMapIndex.h
                   PropertyTreeMapInternals.h RegisteredClasses.h ScaledInteger.h StoredTexts.h WrappingArithmetic.h)
 install(FILES ${PROJECT_SOURCE_DIR}/debugger/ombrel_gdb.py ${PROJECT_SOURCE_DIR}/debugger/ombrel.natvis
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrel-effect-settings)
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrel-effect-settings COMPONENT development)
 if(TARGET ombrel_PropertyTreeJson)
   ombrel_install_library(PropertyTreeJson
     DESCRIPTION "The stored form of effect settings as JSON text"
     FOLDERS PropertyTreeJson
     PRIVATE_HEADERS JsonFault.h JsonNumber.h JsonOutput.h JsonPlaceTable.h JsonScanner.h JsonText.h JsonTreeBuilder.h MessageText.h
     REQUIRES ombrel-effect-settings)
+  install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples/own-effect DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples COMPONENT development)
 endif()
 if(TARGET ombrel_EffectInspection)
   ombrel_install_library(EffectInspection
     DESCRIPTION "What stored effects hold, and what is wrong with them"
     FOLDERS Inspection
-    PRIVATE_HEADERS Attempt.h CheckContext.h DiffWalk.h EffectCheck.h EffectMerge.h Findings.h Fingerprints.h FormDefaults.h
-                    KeylessMembers.h KnownClass.h ListAlignment.h ListMoves.h Place.h RecordInfo.h RefusedEffects.h
-                    SchemaParts.h SharedPaths.h TreeSteps.h Trials.h Usable.h ValueCheck.h Values.h WrittenComparison.h
+    PRIVATE_HEADERS Attempt.h CheckContext.h DiffWalk.h EffectCheck.h EffectMerge.h ElementOrder.h Findings.h Fingerprints.h FormDefaults.h
+                    KeylessMembers.h KnownClass.h ListAlignment.h ListMoves.h PackedTree.h Place.h RecordInfo.h RefusedEffects.h
+                    ReleaseCheck.h ReleaseModel.h
+                    SchemaParts.h SharedPaths.h TreeEditor.h TreeSteps.h Trials.h Usable.h ValueCheck.h Values.h WrittenComparison.h
     REQUIRES ombrel-effect-settings)
-  install(FILES ${PROJECT_SOURCE_DIR}/examples/undo.cpp DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)
+  install(FILES ${PROJECT_SOURCE_DIR}/examples/undo.cpp DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples COMPONENT development)
 endif()
 if(TARGET ombrel-effects) # its own rule installs it
   file(RELATIVE_PATH toLibraries "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
@@ -114,7 +120,7 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/OmbrelEffectSettingsConfi
 install(FILES
   ${PROJECT_BINARY_DIR}/OmbrelEffectSettingsConfig.cmake
   ${PROJECT_BINARY_DIR}/OmbrelEffectSettingsConfigVersion.cmake
-  DESTINATION ${OMBREL_CMAKE_DIR})
-install(EXPORT OmbrelEffectSettingsTargets NAMESPACE Ombrel:: DESTINATION ${OMBREL_CMAKE_DIR})
+  DESTINATION ${OMBREL_CMAKE_DIR} COMPONENT development)
+install(EXPORT OmbrelEffectSettingsTargets NAMESPACE Ombrel:: DESTINATION ${OMBREL_CMAKE_DIR} COMPONENT development)
 # The package is found in the build tree too, without an installation.
 export(EXPORT OmbrelEffectSettingsTargets NAMESPACE Ombrel:: FILE ${PROJECT_BINARY_DIR}/OmbrelEffectSettingsTargets.cmake)

@@ -9,6 +9,18 @@ if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize") # what a sanitizer puts between con
 endif()
 option(OMBREL_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
 
+# Callers depend on the number in the libraries' names. While the major version is 0, a new minor version may break them. The
+# first release with such a number gives the names that are exported their version.
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+  set(OMBREL_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+  set(OMBREL_FIRST_RELEASE ${OMBREL_SOVERSION})
+  set(OMBREL_COMPATIBILITY SameMinorVersion)
+else()
+  set(OMBREL_SOVERSION ${PROJECT_VERSION_MAJOR})
+  set(OMBREL_FIRST_RELEASE ${PROJECT_VERSION_MAJOR}.0)
+  set(OMBREL_COMPATIBILITY SameMajorVersion)
+endif()
+
 # The library is bound to itself and packs its relocations, which makes it load several times faster. What it must share with
 # the program stands in a list; a linker that knows no such list binds the functions only.
 set(OMBREL_SHARED_OBJECTS ${CMAKE_CURRENT_LIST_DIR}/shared-objects.list)
@@ -22,7 +34,8 @@ check_linker_flag(CXX "-Wl,-z,pack-relative-relocs,--fatal-warnings" OMBREL_LINK
 if(OMBREL_LINKER_PACKS_RELOCATIONS)
   list(APPEND OMBREL_SHARED_LINK_OPTIONS -Wl,-z,pack-relative-relocs)
 endif()
-set(OMBREL_EXPORTS ${CMAKE_CURRENT_LIST_DIR}/exports.map)
+set(OMBREL_EXPORTS ${PROJECT_BINARY_DIR}/exports.map)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/exports.map.in ${OMBREL_EXPORTS} @ONLY)
 check_linker_flag(CXX "-Wl,--version-script=${OMBREL_EXPORTS}" OMBREL_LINKER_HAS_VERSION_SCRIPTS)
 if(OMBREL_LINKER_HAS_VERSION_SCRIPTS)
   list(APPEND OMBREL_SHARED_LINK_OPTIONS -Wl,--version-script=${OMBREL_EXPORTS})
@@ -43,15 +56,6 @@ if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
 endif()
 
 include(${CMAKE_CURRENT_LIST_DIR}/OmbrelHardening.cmake)
-
-# Callers depend on the number in the libraries' names. While the major version is 0, a new minor version may break them.
-if(PROJECT_VERSION_MAJOR EQUAL 0)
-  set(OMBREL_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
-  set(OMBREL_COMPATIBILITY SameMinorVersion)
-else()
-  set(OMBREL_SOVERSION ${PROJECT_VERSION_MAJOR})
-  set(OMBREL_COMPATIBILITY SameMajorVersion)
-endif()
 
 function(ombrel_defaults target)
   target_compile_features(${target} PUBLIC cxx_std_20)

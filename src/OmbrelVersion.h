@@ -7,10 +7,14 @@
 ///
 /// While the major version is 0, a new minor version may break its callers.
 #define OMBREL_VERSION_MAJOR 0
+/// The second number.
 #define OMBREL_VERSION_MINOR 1
+/// The third number.
 #define OMBREL_VERSION_PATCH 0
 
+/// Detail: what the string below is made of.
 #define OMBREL_VERSION_QUOTE(number) #number
+/// Detail, too.
 #define OMBREL_VERSION_JOIN(major, minor, patch)                                                                               \
     OMBREL_VERSION_QUOTE(major) "." OMBREL_VERSION_QUOTE(minor) "." OMBREL_VERSION_QUOTE(patch)
 

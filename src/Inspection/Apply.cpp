@@ -1,11 +1,13 @@
 #include "Inspection/Changes.h"
 
+#include "Inspection/ElementOrder.h"
 #include "Inspection/Forms.h"
-#include "Inspection/TreeSteps.h"
+#include "Inspection/TreeEditor.h"
 #include "Inspection/Values.h"
 #include "Proc/EffectSettings/EffectSettings.h"
 
 #include <algorithm>
+#include <deque>
 #include <iterator>
 #include <memory>
 #include <utility>
@@ -62,15 +64,14 @@ public:
         {
             EffectSettings::SerializePtr(m_stored.emplace(), m_effect);
         }
+        Close();
         return *m_stored;
     }
 
     const PropertyTree& Full()
     {
-        if (!m_full)
-        {
-            m_full = Freeze(Stored());
-        }
+        MakeFull();
+        Close();
         return *m_full;
     }
 
@@ -85,12 +86,17 @@ public:
     {
         if (m_isChanged || (!m_effect && m_stored))
         {
+            Close();
             EffectSettings::DeserializePtr(*m_stored, m_effect);
         }
         return std::move(m_effect);
     }
 
-    PropertyTree TakeTree() { return std::move(*m_stored); }
+    PropertyTree TakeTree()
+    {
+        Close();
+        return std::move(*m_stored);
+    }
 
 private:
     // A place in both trees; null in the stored one if that lacks it.
@@ -101,15 +107,35 @@ private:
         PropertyTree* stored = nullptr;
     };
 
-    static void Require(const Inspection::Change& change, const PropertyTree* found);
+    void MakeFull()
+    {
+        if (!m_full)
+        {
+            m_full = Freeze(Stored());
+        }
+    }
+
+    // After it, no value stays where it was.
+    void Close()
+    {
+        if (m_full)
+        {
+            m_fullEditor.Close(*m_full);
+        }
+        m_storedEditor.Close(*m_stored);
+        m_way.clear();
+    }
+
+    void Require(const Inspection::Change& change, const PropertyTree* found);
     Both Follow(const Way& way, std::size_t skipped);
     void Store(const Inspection::Change& change, const Both& start, Steps steps, std::size_t skipped);
-    static void StoreBelow(const Inspection::Change& change, PropertyTree& from, const PropertyTree& fullFrom, Steps steps,
-                           bool isPlain);
+    void StoreBelow(const Inspection::Change& change, PropertyTree& from, PropertyTree& fullFrom, Steps steps, bool isPlain);
 
     EffectPtr m_effect;
     std::optional<PropertyTree> m_stored;
     std::optional<PropertyTree> m_full;
+    TreeEditor m_storedEditor;
+    TreeEditor m_fullEditor;
     std::vector<Both> m_way; // to the last change: its effect and those around it, which stay where they are
     bool m_isChanged = false;
 };
@@ -117,6 +143,8 @@ private:
 // The full value that a change is made from must be there.
 void Element::Require(const Inspection::Change& change, const PropertyTree* found)
 {
+    PropertyTree copy;
+    found = found ? &m_fullEditor.Plain(*found, copy) : nullptr;
     const std::optional<PropertyTree>& expected = change.before;
     const bool isIt = change.isUnordered && found && expected ? AreSameUnordered(*found, *expected)
                                                               : AreSameOrMissing(found, PointerTo(expected));
@@ -145,8 +173,8 @@ Element::Both Element::Follow(const Way& way, std::size_t skipped)
     {
         const Steps steps = Steps(starts[index]->OwnSteps()).subspan(index == 0 ? skipped : 0);
         at = {.start = starts[index],
-              .full = at.full ? Find(*at.full, steps) : nullptr,
-              .stored = at.stored ? Find(*at.stored, steps) : nullptr};
+              .full = at.full ? m_fullEditor.Find(*at.full, steps) : nullptr,
+              .stored = at.stored ? m_storedEditor.Find(*at.stored, steps) : nullptr};
         m_way.push_back(at);
     }
     return at;
@@ -154,7 +182,7 @@ Element::Both Element::Follow(const Way& way, std::size_t skipped)
 
 void Element::Change(const Inspection::Change& change, std::size_t skipped)
 {
-    Full();
+    MakeFull();
     const Way way(change.path);
     const Both start = Follow(way, skipped);
     const Steps steps = way.steps.subspan(way.start ? 0 : skipped);
@@ -162,12 +190,12 @@ void Element::Change(const Inspection::Change& change, std::size_t skipped)
     {
         throw ConflictError(change.path, change.before, std::nullopt);
     }
-    const PropertyTree* found = Find(*start.full, steps);
+    const PropertyTree* found = m_fullEditor.Find(*start.full, steps);
     if (change.kind != ChangeKind::Insert)
     {
         Require(change, found);
     }
-    if (!Execute(*start.full, steps, change, change.after))
+    if (!m_fullEditor.Execute(*start.full, steps, change, change.after))
     {
         throw ConflictError(change.path, change.before, std::nullopt);
     }
@@ -189,8 +217,10 @@ void Element::Store(const Inspection::Change& change, const Both& start, Steps s
         PropertyTree& from = isFromStart ? *start.stored : *m_stored;
         const Steps storedSteps = isFromStart ? storedWay.steps.subspan(start.start ? 0 : skipped)
                                               : Steps(all).subspan(std::min(skipped, all.size()));
-        if (AreSameOrMissing(Find(from, storedSteps), PointerTo(change.stored.before)) &&
-            Put(from, storedSteps, change.stored.after))
+        PropertyTree copy;
+        const PropertyTree* const found = m_storedEditor.Find(from, storedSteps);
+        if (AreSameOrMissing(found ? &m_storedEditor.Plain(*found, copy) : nullptr, PointerTo(change.stored.before)) &&
+            m_storedEditor.Put(from, storedSteps, change.stored.after))
         {
             if (!isFromStart)
             {
@@ -210,43 +240,44 @@ void Element::Store(const Inspection::Change& change, const Both& start, Steps s
 }
 
 // What is missing on the way comes from the full form.
-void Element::StoreBelow(const Inspection::Change& change, PropertyTree& from, const PropertyTree& fullFrom, Steps steps,
+void Element::StoreBelow(const Inspection::Change& change, PropertyTree& from, PropertyTree& fullFrom, Steps steps,
                          bool isPlain)
 {
     const bool isOfList = change.kind != ChangeKind::Value;
     PropertyTree* stored = &from;
-    const PropertyTree* full = &fullFrom;
+    PropertyTree* full = &fullFrom;
     for (const PathStep& step : steps.first(steps.size() - (isOfList ? 1 : 0)))
     {
-        full = ChildAt(full, step);
-        PropertyTree* const child = ChildAt(stored, step);
+        full = m_fullEditor.ChildAt(full, step);
+        PropertyTree* const child = m_storedEditor.ChildAt(stored, step);
         if (!child)
         {
-            Put(*stored, Steps(&step, 1), CopyOf(full));
+            PropertyTree copy;
+            m_storedEditor.Put(*stored, Steps(&step, 1), CopyOf(full ? &m_fullEditor.Plain(*full, copy) : nullptr));
             return;
         }
         stored = child;
     }
     if (!isOfList)
     {
-        Put(from, steps, change.after);
+        m_storedEditor.Put(from, steps, change.after);
         return;
     }
     const bool isFound = isPlain && change.kind == ChangeKind::Insert && change.stored.after;
-    Execute(*stored, steps.last(1), change, isFound ? change.stored.after : change.after);
+    m_storedEditor.Execute(*stored, steps.last(1), change, isFound ? change.stored.after : change.after);
 }
 
 // The elements of a document, which is a list or one effect.
 class Changing
 {
 public:
-    explicit Changing(const PropertyTree& tree) { Reset(tree); }
+    explicit Changing(const PropertyTree& tree) : m_order(0) { Reset(tree); }
 
-    explicit Changing(const std::vector<EffectPtr>& effects) : m_isList(true)
+    explicit Changing(const std::vector<EffectPtr>& effects) : m_order(effects.size()), m_isList(true)
     {
         for (const EffectPtr& effect : effects)
         {
-            m_elements.push_back(std::make_unique<Element>(effect));
+            m_elements.emplace_back(effect);
         }
     }
 
@@ -268,7 +299,7 @@ public:
         }
         else if (!m_isList)
         {
-            m_elements.front()->Change(change, 0);
+            m_elements.front().Change(change, 0);
         }
         else if (starts.empty() && way.steps.size() == 1)
         {
@@ -277,11 +308,11 @@ public:
         else
         {
             const std::size_t* index = std::get_if<std::size_t>(&first.front());
-            if (!index || *index >= m_elements.size())
+            if (!index || *index >= m_order.Size())
             {
                 throw ConflictError(change.path, change.before, std::nullopt);
             }
-            m_elements[*index]->Change(change, 1);
+            m_elements[m_order.At(*index)].Change(change, 1);
         }
     }
 
@@ -289,13 +320,13 @@ public:
     {
         if (!m_isList)
         {
-            return m_elements.front()->TakeTree();
+            return m_elements.front().TakeTree();
         }
         PropertyTree tree;
-        PropertyTree::List& list = tree.makeList(m_elements.size());
-        for (const std::unique_ptr<Element>& element : m_elements)
+        PropertyTree::List& list = tree.makeList(m_order.Size());
+        for (const std::size_t element : m_order.All())
         {
-            list.push_back(element->TakeTree());
+            list.push_back(m_elements[element].TakeTree());
         }
         return tree;
     }
@@ -303,8 +334,8 @@ public:
     std::vector<EffectPtr> TakeEffects()
     {
         std::vector<EffectPtr> effects;
-        std::ranges::transform(m_elements, std::back_inserter(effects),
-                               [](const std::unique_ptr<Element>& element) { return element->TakeEffect(); });
+        std::ranges::transform(m_order.All(), std::back_inserter(effects),
+                               [this](std::size_t element) { return m_elements[element].TakeEffect(); });
         return effects;
     }
 
@@ -315,8 +346,9 @@ private:
         m_isList = tree.isList();
         for (const PropertyTree& element : m_isList ? std::span<const PropertyTree>(tree.getList()) : std::span(&tree, 1))
         {
-            m_elements.push_back(std::make_unique<Element>(element));
+            m_elements.emplace_back(element);
         }
+        m_order = ElementOrder(m_elements.size());
     }
 
     // One document in place of another.
@@ -325,15 +357,15 @@ private:
         PropertyTree now;
         if (m_isList)
         {
-            PropertyTree::List& list = now.makeList(m_elements.size());
-            for (const std::unique_ptr<Element>& element : m_elements)
+            PropertyTree::List& list = now.makeList(m_order.Size());
+            for (const std::size_t element : m_order.All())
             {
-                list.push_back(element->Stored());
+                list.push_back(m_elements[element].Stored());
             }
         }
         else
         {
-            now = m_elements.front()->Stored();
+            now = m_elements.front().Stored();
         }
         const std::optional<PropertyTree>& before = change.before;
         const std::optional<PropertyTree>& after = change.stored.after ? change.stored.after : change.after;
@@ -349,35 +381,37 @@ private:
     {
         const std::size_t* index = std::get_if<std::size_t>(&step);
         const std::optional<PropertyTree>& after = change.stored.after ? change.stored.after : change.after;
-        if (!index || !HasPlaces(change, *index, m_elements.size()))
+        if (!index || !HasPlaces(change, *index, m_order.Size()))
         {
             throw ConflictError(change.path, change.before, std::nullopt);
         }
-        const auto at = m_elements.begin() + static_cast<std::ptrdiff_t>(*index);
         if (change.kind == ChangeKind::Insert)
         {
-            m_elements.insert(at, std::make_unique<Element>(after ? *after : PropertyTree()));
+            m_elements.emplace_back(after ? *after : PropertyTree());
+            m_order.Insert(*index, m_elements.size() - 1);
             return;
         }
-        if (!change.before || !m_elements[*index]->Is(*change.before))
+        Element& element = m_elements[m_order.At(*index)];
+        if (!change.before || !element.Is(*change.before))
         {
-            throw ConflictError(change.path, change.before, m_elements[*index]->Stored());
+            throw ConflictError(change.path, change.before, element.Stored());
         }
         if (change.kind == ChangeKind::Remove)
         {
-            m_elements.erase(at);
+            m_order.Remove(*index);
         }
         else if (change.kind == ChangeKind::Value)
         {
-            m_elements[*index] = std::make_unique<Element>(after ? *after : PropertyTree());
+            element = Element(after ? *after : PropertyTree());
         }
         else
         {
-            MoveElement(m_elements, *index, change.target);
+            m_order.Insert(change.target, m_order.Remove(*index));
         }
     }
 
-    std::vector<std::unique_ptr<Element>> m_elements; // which stay where they are
+    std::deque<Element> m_elements; // in the order in which they came
+    ElementOrder m_order;
     bool m_isList = false;
 };
 

@@ -1,6 +1,6 @@
 #include "Inspection/Changes.h"
 
-#include "Inspection/TreeSteps.h"
+#include "Inspection/TreeEditor.h"
 #include "Inspection/Values.h"
 #include "Proc/Settings/StoredKeys.h"
 #include "PropertyTree/Characters.h"
@@ -156,7 +156,8 @@ private:
         {
             first.stored.after = second.stored.after;
         }
-        else if (!first.stored.after || !Put(*first.stored.after, Steps(inner).subspan(outer.size()), second.stored.after))
+        else if (!first.stored.after ||
+                 !TreeEditor().Put(*first.stored.after, Steps(inner).subspan(outer.size()), second.stored.after))
         {
             return false;
         }

@@ -22,6 +22,7 @@ class IEffectSettings;
 namespace Ombrel::Inspection
 {
 
+/// What a change does.
 enum class ChangeKind : std::uint8_t
 {
     Value,  // a value becomes another; a key that no class knows comes or goes
@@ -38,17 +39,19 @@ struct Change
     /// or list at the place: then it gets the whole one.
     struct Storing
     {
-        Path path = {};
-        std::optional<PropertyTree> before = {};
-        std::optional<PropertyTree> after = {};
+        Path path = {};                          // of the value in the file
+        std::optional<PropertyTree> before = {}; // what stands there before the change
+        std::optional<PropertyTree> after = {};  // what stands there after it
     };
 
+    /// What is done at `path`.
     ChangeKind kind = ChangeKind::Value;
     bool isUnordered = false; // the value is a set or a map of colours
     Path path = {};           // of the value, or of the element; for the latter as long as it is there
     std::size_t target = 0;   // of a move: the index that the element then has, counted without it
     std::optional<PropertyTree> before = {};
     std::optional<PropertyTree> after = {};
+    /// The same in the tree as it is stored.
     Storing stored = {};
 };
 
@@ -86,6 +89,7 @@ public:
     ConflictError& operator=(const ConflictError&) noexcept;
     ~ConflictError() override;
 
+    /// Where the value should have been.
     const Path& Place() const noexcept;
 
     /// The full value of the change, and of the tree; nothing where there is none.

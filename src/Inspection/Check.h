@@ -7,14 +7,21 @@
 
 #include <cstddef>
 #include <limits>
+#include <memory>
 #include <vector>
 
 namespace Ombrel::Inspection
 {
 
+class Release;
+
+/// How far a check goes, and for which release.
 struct CheckOptions
 {
     std::size_t maxFindings = std::numeric_limits<std::size_t>::max(); // the check ends with as many
+
+    /// Null for what this library does with the tree; else what that release would do, as `ForRelease` says.
+    std::shared_ptr<const Release> release = {};
 };
 
 /// What is wrong with a stored effect or a list of them, all of it, in the order in which the values are read:

@@ -34,14 +34,16 @@ enum class ValueForm : std::uint8_t
 /// One name of an enumeration.
 struct DescribedName
 {
-    std::string name;
-    std::int32_t number = 0;
+    std::string name;        // as it is stored
+    std::int32_t number = 0; // the value of the enumeration
 
     bool operator==(const DescribedName&) const = default;
 };
 
+/// What kind of value stands under a key or in a list.
 struct ValueDescription
 {
+    /// How it stands in a tree.
     ValueForm form = ValueForm::Other;
     std::uint8_t bits = 0;            // of an integer or a float: 8, 32 or 64
     bool isSigned = false;            // of an integer; one of 64 bits without a sign is stored as the signed one of its bits
@@ -58,8 +60,8 @@ OMBREL_API std::string TextOf(const ValueDescription& value);
 /// One key of a map.
 struct FieldDescription
 {
-    std::string key;
-    ValueDescription value;
+    std::string key;        // as it stands in the map
+    ValueDescription value; // what may stand under it
 
     /// What is read where the key is missing, with every key of the records in it. A record within has this default where its
     /// whole map is missing. Where a key is missing in a map that is there, that key takes the default that the description of
@@ -82,10 +84,10 @@ struct FieldDescription
 /// What a record or a settings class holds beside its keys. It is never stored: an effect that is read has the default.
 struct KeylessMember
 {
-    std::string member; // a data member, or a setter and a getter
-    std::string type;
-    std::string defaultValue;
-    bool isCompared = false; // whether `==` looks at it
+    std::string member;       // a data member, or a setter and a getter
+    std::string type;         // for people: a kind of the stored form, or a type of C++
+    std::string defaultValue; // for people
+    bool isCompared = false;  // whether `==` looks at it
 
     bool operator==(const KeylessMember&) const = default;
 };
@@ -93,13 +95,15 @@ struct KeylessMember
 /// A record that stands in an effect.
 struct RecordDescription
 {
-    std::string name; // no two of one effect have the same
-    std::vector<FieldDescription> fields;
-    std::vector<KeylessMember> members;
+    std::string name;                     // no two of one effect have the same
+    std::vector<FieldDescription> fields; // in the order of reading
+    std::vector<KeylessMember> members;   // what it holds beside them
 };
 
+/// What is known of the effects of one class.
 struct EffectDescription
 {
+    /// As it stands under "name".
     std::string classId;
     std::string className; // empty for a class that is known by its factory alone
 
@@ -110,9 +114,9 @@ struct EffectDescription
     bool areKeysKnown = false;
 
     // Asked of an effect; as in a new `EffectDescription` where none can be made.
-    std::optional<PhotoCore::IEffectSettings::InputType> inputs;
-    bool isAdditive = false;
-    bool hasPropertyAccess = false;
+    std::optional<PhotoCore::IEffectSettings::InputType> inputs; // how many images it takes
+    bool isAdditive = false;                                     // as `IEffectSettings::IsAdditive`
+    bool hasPropertyAccess = false;                              // whether `GetPropertyAccess` returns one
 
     /// Every key but "name", in the order of reading: "implName", "helperSettings", then the keys of the class.
     std::vector<FieldDescription> fields;

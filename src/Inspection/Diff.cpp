@@ -5,7 +5,7 @@
 #include "Inspection/ListAlignment.h"
 #include "Inspection/ListMoves.h"
 #include "Inspection/RefusedEffects.h"
-#include "Inspection/TreeSteps.h"
+#include "Inspection/TreeEditor.h"
 #include "Inspection/Values.h"
 #include "Proc/Settings/StoredKeys.h"
 
@@ -403,7 +403,9 @@ Change::Storing DiffWalk::WholeOf(Absent& absent, const Change& change)
     absent.isStored = true;
     Change::Storing stored{.path = PathOf(*absent.place), .before = std::nullopt, .after = *absent.whole};
     const std::vector<PathStep> steps = change.path.Steps();
-    Execute(*stored.after, Steps(steps).subspan(stored.path.Steps().size()), change, change.after);
+    TreeEditor editor;
+    editor.Execute(*stored.after, Steps(steps).subspan(stored.path.Steps().size()), change, change.after);
+    editor.Close(*stored.after);
     return stored;
 }
 

@@ -13,6 +13,7 @@
 namespace Ombrel::Inspection
 {
 
+/// How bad a finding is.
 enum class Severity : std::uint8_t
 {
     Error,   // a read throws here
@@ -20,6 +21,7 @@ enum class Severity : std::uint8_t
     Note,
 };
 
+/// What is wrong with a value. Each code has a text that never changes, and the severity of its group.
 enum class FindingCode : std::uint8_t
 {
     // Errors.
@@ -45,6 +47,7 @@ enum class FindingCode : std::uint8_t
     UnknownKey,
     LostByCopy,
     ChangesOnWrite,
+    OtherDefault, // of `Check` for a release: it reads the missing key as something else
 
     // Notes.
     DefaultWritten,
@@ -57,6 +60,7 @@ enum class FindingCode : std::uint8_t
 /// The text of a code, such as "unknown-name". It never changes.
 OMBREL_API std::string_view TextOf(FindingCode code) noexcept;
 
+/// How bad findings with the code are.
 OMBREL_API Severity SeverityOf(FindingCode code) noexcept;
 
 /// "error", "warning" or "note".
@@ -74,17 +78,18 @@ enum class Mend : std::uint8_t
 /// What was found at one place of a tree.
 struct Finding
 {
-    Path path;
-    FindingCode code = FindingCode::NoName;
-    Mend mend = Mend::None;
-    std::string message;  // for people; may change
-    std::string expected; // what may stand there, for people; empty where nothing may
+    Path path;                              // of the value, or where one is missing
+    FindingCode code = FindingCode::NoName; // what is wrong
+    Mend mend = Mend::None;                 // what `Mended` does about it
+    std::string message;                    // for people; may change
+    std::string expected;                   // what may stand there, for people; empty where nothing may
     std::string nearest;  // the known name or key that is most like what was found; empty where none is likely
     PropertyTree found;   // null where something is missing
     PropertyTree becomes; // when it is read and written again; null where the read fails or loses it
 };
 
 /// The tree with all that can be mended. Findings whose place is not there are passed over.
+/// @param tree a stored effect or a list of them
 /// @param findings what `Check` said of the tree
 OMBREL_API PropertyTree Mended(PropertyTree tree, std::span<const Finding> findings);
 

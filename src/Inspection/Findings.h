@@ -20,8 +20,9 @@ struct EffectNode
 {
     const PropertyTree* tree = nullptr;
     const Place* place = nullptr;
-    std::size_t depth = 1; // in how many effects it stands, itself included
-    bool isCopied = false; // by a face package, which clones what it reads
+    const PropertyTree* full = nullptr; // its full form, for the check for a release
+    std::size_t depth = 1;              // in how many effects it stands, itself included
+    bool isCopied = false;              // by a face package, which clones what it reads
 };
 
 /// What is found in one effect, in reading order, with the effects in it at their places.

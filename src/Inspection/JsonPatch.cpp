@@ -1,6 +1,6 @@
 #include "Inspection/JsonPatch.h"
 
-#include "Inspection/TreeSteps.h"
+#include "Inspection/TreeEditor.h"
 #include "Inspection/Values.h"
 
 #include <charconv>
@@ -118,66 +118,6 @@ std::optional<std::size_t> IndexIn(std::string_view token)
 
 using Tokens = std::span<const std::string>;
 
-PropertyTree& At(PropertyTree& tree, Tokens tokens)
-{
-    PropertyTree* value = &tree;
-    for (const std::string& token : tokens)
-    {
-        const std::optional<std::size_t> index = value->isList() ? IndexIn(token) : std::nullopt;
-        value = index ? ChildAt(value, PathStep(*index)) : value->isMap() ? ChildAt(value, PathStep(token)) : nullptr;
-        if (!value)
-        {
-            throw Refusal{"there is no such value"};
-        }
-    }
-    return *value;
-}
-
-void Add(PropertyTree& tree, Tokens tokens, PropertyTree value)
-{
-    if (tokens.empty())
-    {
-        tree = std::move(value);
-        return;
-    }
-    PropertyTree& around = At(tree, tokens.first(tokens.size() - 1));
-    if (around.isMap())
-    {
-        around[tokens.back()] = std::move(value);
-        return;
-    }
-    if (!around.isList())
-    {
-        throw Refusal{"what is around it is no map or list"};
-    }
-    PropertyTree::List& list = around.getList();
-    const std::optional<std::size_t> index = tokens.back() == "-" ? list.size() : IndexIn(tokens.back());
-    if (!index || *index > list.size())
-    {
-        throw Refusal{"the list has no such place"};
-    }
-    list.insert(list.begin() + static_cast<std::ptrdiff_t>(*index), std::move(value));
-}
-
-PropertyTree Remove(PropertyTree& tree, Tokens tokens)
-{
-    if (tokens.empty())
-    {
-        throw Refusal{"the whole cannot be removed"};
-    }
-    PropertyTree value = std::move(At(tree, tokens));
-    PropertyTree& around = At(tree, tokens.first(tokens.size() - 1));
-    if (around.isMap())
-    {
-        around.getMap().erase(tokens.back());
-    }
-    else
-    {
-        around.getList().erase(around.getList().begin() + static_cast<std::ptrdiff_t>(*IndexIn(tokens.back())));
-    }
-    return value;
-}
-
 std::size_t CountValues(const PropertyTree& tree)
 {
     std::size_t count = 0;
@@ -244,23 +184,28 @@ public:
         }
     }
 
-    PropertyTree Take() { return std::move(m_tree); }
+    PropertyTree Take()
+    {
+        m_editor.Close(m_tree);
+        return std::move(m_tree);
+    }
 
 private:
     void Do(const std::string& name, const std::vector<std::string>& tokens, const PropertyTree& operation)
     {
         if (name == "add")
         {
-            Add(m_tree, tokens, MemberOf(operation, "value"));
+            Add(tokens, MemberOf(operation, "value"));
         }
         else if (name == "remove")
         {
-            Remove(m_tree, tokens);
+            PropertyTree removed = Remove(tokens);
+            m_editor.Close(removed);
         }
         else if (name == "replace")
         {
             const PropertyTree& value = MemberOf(operation, "value");
-            At(m_tree, tokens) = value;
+            m_editor.Assign(At(tokens), value);
         }
         else if (name == "move")
         {
@@ -272,7 +217,8 @@ private:
         }
         else if (name == "test")
         {
-            Test(At(m_tree, tokens), MemberOf(operation, "value"));
+            PropertyTree copy;
+            Test(m_editor.Plain(At(tokens), copy), MemberOf(operation, "value"));
         }
         else
         {
@@ -280,9 +226,69 @@ private:
         }
     }
 
+    PropertyTree& At(Tokens tokens)
+    {
+        PropertyTree* value = &m_tree;
+        for (const std::string& token : tokens)
+        {
+            const std::optional<std::size_t> index = value->isList() ? IndexIn(token) : std::nullopt;
+            value = index            ? m_editor.ChildAt(value, PathStep(*index))
+                    : value->isMap() ? m_editor.ChildAt(value, PathStep(token))
+                                     : nullptr;
+            if (!value)
+            {
+                throw Refusal{"there is no such value"};
+            }
+        }
+        return *value;
+    }
+
+    void Add(Tokens tokens, PropertyTree value)
+    {
+        if (tokens.empty())
+        {
+            m_editor.Assign(m_tree, std::move(value));
+            return;
+        }
+        PropertyTree& around = At(tokens.first(tokens.size() - 1));
+        if (around.isMap())
+        {
+            m_editor.Assign(around[tokens.back()], std::move(value));
+            return;
+        }
+        if (!around.isList())
+        {
+            throw Refusal{"what is around it is no map or list"};
+        }
+        const std::size_t size = m_editor.SizeOf(around);
+        const std::optional<std::size_t> index = tokens.back() == "-" ? size : IndexIn(tokens.back());
+        if (!index || *index > size)
+        {
+            throw Refusal{"the list has no such place"};
+        }
+        m_editor.Insert(around, *index, std::move(value));
+    }
+
+    PropertyTree Remove(Tokens tokens)
+    {
+        if (tokens.empty())
+        {
+            throw Refusal{"the whole cannot be removed"};
+        }
+        PropertyTree& found = At(tokens);
+        PropertyTree& around = At(tokens.first(tokens.size() - 1));
+        if (!around.isMap())
+        {
+            return m_editor.Remove(around, *IndexIn(tokens.back()));
+        }
+        PropertyTree value = std::move(found);
+        around.getMap().erase(tokens.back());
+        return value;
+    }
+
     void Move(const std::vector<std::string>& from, const std::vector<std::string>& tokens)
     {
-        At(m_tree, from);
+        At(from);
         if (from == tokens)
         {
             return;
@@ -291,19 +297,20 @@ private:
         {
             throw Refusal{"a value cannot be moved into itself"};
         }
-        Add(m_tree, tokens, Remove(m_tree, from));
+        Add(tokens, Remove(from));
     }
 
     void Copy(const std::vector<std::string>& from, const std::vector<std::string>& tokens)
     {
-        const PropertyTree& value = At(m_tree, from);
+        PropertyTree copy;
+        const PropertyTree& value = m_editor.Plain(At(from), copy);
         const std::size_t count = m_left == std::numeric_limits<std::size_t>::max() ? 0 : CountValues(value);
         if (count > m_left)
         {
             throw Refusal{"the patch copies too many values"};
         }
         m_left -= count;
-        Add(m_tree, tokens, PropertyTree(value));
+        Add(tokens, PropertyTree(value));
     }
 
     static void Test(const PropertyTree& found, const PropertyTree& expected)
@@ -314,6 +321,7 @@ private:
         }
     }
 
+    TreeEditor m_editor;
     PropertyTree m_tree;
     std::size_t m_left; // of the values that may be copied
 };

@@ -19,6 +19,7 @@ namespace Ombrel::Inspection
 /// not stored comes with the whole record.
 OMBREL_API PropertyTree ToJsonPatch(std::span<const Change> changes);
 
+/// Limits for patches from strangers.
 struct JsonPatchOptions
 {
     /// How many values all "copy" operations may copy together. Each may double the tree.

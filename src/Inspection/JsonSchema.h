@@ -10,6 +10,7 @@
 namespace Ombrel::Inspection
 {
 
+/// What a schema takes beside what is read and written without a loss.
 struct JsonSchemaOptions
 {
     /// Takes keys that no class has. A read ignores them, and they are lost when the effect is written again.

@@ -14,16 +14,17 @@ namespace Ombrel::Inspection
 /// A value that both sides have changed, and not to the same. Values are full ones, and nothing where there is none.
 struct MergeConflict
 {
-    Path path; // in the merged tree; for an effect that ours has taken out, of the list
-    std::optional<PropertyTree> base = {};
-    std::optional<PropertyTree> ours = {};
-    std::optional<PropertyTree> theirs = {};
+    Path path;                               // in the merged tree; for an effect that ours has taken out, of the list
+    std::optional<PropertyTree> base = {};   // before both changes
+    std::optional<PropertyTree> ours = {};   // the merged tree has it
+    std::optional<PropertyTree> theirs = {}; // the merged tree does not have it
 };
 
+/// What `Merge` makes.
 struct MergeResult
 {
-    PropertyTree merged; // with the value of ours where there is a conflict
-    std::vector<MergeConflict> conflicts;
+    PropertyTree merged;                  // with the value of ours where there is a conflict
+    std::vector<MergeConflict> conflicts; // in the order of the merged tree
 };
 
 /// Puts together what two sides have made of one stored effect or list of them: what is read counts, as for `Diff`. What is

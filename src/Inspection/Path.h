@@ -37,6 +37,7 @@ public:
     {
     }
 
+    /// All steps, those of the shared beginning first.
     OMBREL_API std::vector<PathStep> Steps() const;
 
     /// The shared beginning, or null, and the steps after it.
@@ -46,6 +47,7 @@ public:
     /// Keys and indices joined with "/", with "~0" and "~1" for "~" and "/" within a key: "2/smartBlur/lumaRadius".
     OMBREL_API std::string ToText() const;
 
+    /// Whether both lead through the same steps.
     OMBREL_API bool operator==(const Path& other) const;
 
 private:

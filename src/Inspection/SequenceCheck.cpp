@@ -34,17 +34,21 @@ PropertyTree ElementRead(const PropertyTree& element, const ValueSchema& schema)
 
 } // namespace
 
+void ValueCheck::AddIgnored(const PropertyTree& value, const ValueSchema& schema, const Place& place)
+{
+    Finding& finding =
+        m_findings.Add(FindingCode::IgnoredValue, place, &value, Shown(value) + " stands where a list is read, and is ignored");
+    finding.expected = ExpectedOf(schema);
+    // An element that is ignored stays as an empty one.
+    finding.mend = place.index == Place::NO_INDEX ? Mend::Remove : Mend::Replace;
+    finding.becomes.makeList();
+}
+
 void ValueCheck::CheckSequence(const PropertyTree& value, const ValueSchema& schema, const Place& place)
 {
     if (!value.isList())
     {
-        Finding& finding = m_findings.Add(FindingCode::IgnoredValue, place, &value,
-                                          Shown(value) + " stands where a list is read, and is ignored");
-        finding.expected = ExpectedOf(schema);
-        // An element that is ignored stays as an empty one.
-        finding.mend = place.index == Place::NO_INDEX ? Mend::Remove : Mend::Replace;
-        finding.becomes.makeList();
-        return;
+        return AddIgnored(value, schema, place);
     }
     const PropertyTree::List& list = value.getList();
     for (std::size_t index = 0; index != list.size(); ++index)

@@ -54,6 +54,7 @@ namespace Ombrel::Inspection
 class OMBREL_API StoredEffects
 {
 public:
+    /// An effect, shared with whoever holds it.
     using EffectPtr = std::shared_ptr<PhotoCore::IEffectSettings>;
 
     /// An empty list.
@@ -94,6 +95,7 @@ public:
     /// so that unknown keys are kept. The loaded tree of any other is lost.
     void Replace(std::size_t index, EffectPtr effect);
 
+    /// Takes out an item, with all that it holds. `index` must be less than `Size()`.
     void Remove(std::size_t index);
 
     /// Moves an item so that it then has the index `to`. Only this one moves, also if items without an effect follow it.

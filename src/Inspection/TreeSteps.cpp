@@ -6,6 +6,7 @@
 
 namespace Ombrel::Inspection
 {
+
 const PropertyTree* ChildAt(const PropertyTree* parent, const PathStep& step)
 {
     if (const std::size_t* index = std::get_if<std::size_t>(&step))
@@ -35,72 +36,10 @@ const PropertyTree* Find(const PropertyTree& tree, Steps steps)
     return value;
 }
 
-PropertyTree* Find(PropertyTree& tree, Steps steps)
-{
-    return const_cast<PropertyTree*>(Find(static_cast<const PropertyTree&>(tree), steps));
-}
-
 bool HasPlaces(const Change& change, std::size_t index, std::size_t size)
 {
     return change.kind == ChangeKind::Insert ? index <= size
                                              : index < size && (change.kind != ChangeKind::Move || change.target < size);
-}
-
-bool Put(PropertyTree& tree, Steps steps, const std::optional<PropertyTree>& value)
-{
-    if (PropertyTree* found = Find(tree, steps); found && value)
-    {
-        *found = *value;
-        return true;
-    }
-    PropertyTree* around = steps.empty() ? nullptr : Find(tree, steps.first(steps.size() - 1));
-    if (!around || !around->isMap() || !std::holds_alternative<std::string>(steps.back()))
-    {
-        return false;
-    }
-    const std::string& key = std::get<std::string>(steps.back());
-    if (value)
-    {
-        (*around)[key] = *value;
-    }
-    else
-    {
-        around->getMap().erase(key);
-    }
-    return true;
-}
-
-bool Execute(PropertyTree& tree, Steps steps, const Change& change, const std::optional<PropertyTree>& element)
-{
-    if (change.kind == ChangeKind::Value)
-    {
-        return Put(tree, steps, element);
-    }
-    PropertyTree* around = steps.empty() ? nullptr : Find(tree, steps.first(steps.size() - 1));
-    const std::size_t* index = steps.empty() ? nullptr : std::get_if<std::size_t>(&steps.back());
-    if (!around || !around->isList() || !index)
-    {
-        return false;
-    }
-    PropertyTree::List& list = around->getList();
-    if (!HasPlaces(change, *index, list.size()) || (change.kind == ChangeKind::Insert && !element))
-    {
-        return false;
-    }
-    const auto at = list.begin() + static_cast<std::ptrdiff_t>(*index);
-    if (change.kind == ChangeKind::Insert)
-    {
-        list.insert(at, *element);
-    }
-    else if (change.kind == ChangeKind::Remove)
-    {
-        list.erase(at);
-    }
-    else
-    {
-        MoveElement(list, *index, change.target);
-    }
-    return true;
 }
 
 } // namespace Ombrel::Inspection

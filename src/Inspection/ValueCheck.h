@@ -26,10 +26,14 @@ public:
 
     static bool IsField(const Proc::RecordSchema* schema, std::string_view key);
 
+    void WrongKind(const PropertyTree& value, const Place& place, std::string_view expected);
+
+    /// What stands where a list is read, and is none.
+    void AddIgnored(const PropertyTree& value, const Proc::ValueSchema& schema, const Place& place);
+
     void AddUnknownKey(std::string_view key, const PropertyTree& value, const Proc::RecordSchema* schema, const Place& place);
 
 private:
-    void WrongKind(const PropertyTree& value, const Place& place, std::string_view expected);
     void CheckInteger(const PropertyTree& value, const Proc::ValueSchema& schema, const Place& place);
     void CheckFloat(const PropertyTree& value, const Proc::ValueSchema& schema, const Place& place);
     void CheckEnum(const PropertyTree& value, const Proc::ValueSchema& schema, const Place& place);

@@ -6,20 +6,22 @@ set -euo pipefail
 export LC_ALL=C
 nm=$1 library=$2
 
-# The sanitizers add names of their own.
-foreign=$("$nm" -D --defined-only --format=posix "$library" | cut -d' ' -f1 | grep -vE '6Ombrel|5boost|^_*(odr_)?[a-z]*san|^__start_|^__stop_' || true)
+# The linker adds the name of the version, the sanitizers names of their own.
+foreign=$("$nm" -D --defined-only --format=posix "$library" | cut -d' ' -f1 | grep -vE '6Ombrel|^_ZT[SI].*5boost|^OMBREL_|^_*(odr_)?[a-z]*san|^__start_|^__stop_' || true)
 if [[ -n $foreign ]]; then
     printf 'FAILED: %s exports names that are none of ours\n%s\n' "$library" "$foreign" >&2
     exit 1
 fi
 
-# Size, kind and name, where the names of the standard library are as they are written.
+# Size, kind and name, where the names of the standard library are as they are written. Without the version, with which llvm-nm
+# decodes no name.
 names() {
-    "$nm" -DCS --defined-only "$library" | sed -E '
+    "$nm" -DS --defined-only "$library" | sed -E 's/@@?OMBREL_[0-9.]+$//' | c++filt | sed -E '
         s/^[0-9a-f]+ ([0-9a-f]+ )?([A-Za-z]) /\2 \1/
         s/\[abi:cxx11\]//g
         s/std::(__cxx11|__1):://g
         s/std::basic_string<char, std::char_traits<char>, std::allocator<char> ?>/std::string/g
+        s/std::basic_ostream<char, std::char_traits<char> ?>/std::ostream/g
         s/basic_string<char, std::char_traits<char>, std::allocator<char> ?>/std::string/g
         :close; s/> >/>>/g; t close'
 }

@@ -43,8 +43,9 @@ build_layout() {
 # A copy of the consumers' sources outside the project, so that nothing is found by standing near it.
 copy_consumer() {
     rm -rf "$1"
-    mkdir -p "$1"
+    mkdir -p "$1/examples"
     cp -r "$SOURCE_DIR"/tests/consumer/{own-effect,own-export-header,find-package,subproject,json.cpp} "$SOURCE_DIR/examples/vibrance.cpp" "$1"
+    cp -r "$SOURCE_DIR/examples/own-effect" "$1/examples"
 }
 
 run_program() {

@@ -26,6 +26,10 @@ for file in "${files[@]}"; do
     if [[ $file == bin/* ]]; then
         grep -q 'FLAGS_1.* PIE' <<<"$dynamic" || fail "$file is not linked as a position-independent program"
     fi
+    # Whoever is linked with a library says which version it needs.
+    if [[ $file == *.so.* ]] && others=$(awk '$7 ~ /^[0-9]+$/ && $8 !~ /@@OMBREL_/ && $8 !~ /^OMBREL_/' <<<"$symbols" | grep .); then
+        fail "$file has names without a version: $(head -3 <<<"$others")"
+    fi
     # It looks for libraries beside itself and in no folder of the machine that built it.
     if paths=$(sed -n 's/.*(R.*PATH).*\[\(.*\)\]/\1/p' <<<"$dynamic" | tr : '\n' | grep -v '^\$ORIGIN\(/\|$\)'); then
         fail "$file looks for libraries in $paths"

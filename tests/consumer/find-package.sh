@@ -11,3 +11,10 @@ expect "the package found" "$(prefix_of "$LAYOUT")/$(libdir_of "$LAYOUT")/cmake/
 "$CMAKE" --build "$work/build"
 run_programs "$work/build"
 run_program "$work/build/own-export-header" "EFFECT_ACID"
+
+# So does the installed example.
+cp -r "$(prefix_of "$LAYOUT")"/share/doc/*/examples/own-effect "$work/installed-example"
+"$CMAKE" -S "$work/installed-example" -B "$work/build-example" -G Ninja --log-level=WARNING \
+    -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_PREFIX_PATH="$(prefix_of "$LAYOUT")" -DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF
+"$CMAKE" --build "$work/build-example"
+run_program "$work/build-example/own-effect" "$(sed -n '/^```text own-effect.out$/,/^```$/p' "$SOURCE_DIR/docs/guides/own-effects.md" | sed '1d;$d')"

@@ -27,6 +27,7 @@ Inspection/CheckContext.h
 Inspection/DiffWalk.h
 Inspection/EffectCheck.h
 Inspection/EffectMerge.h
+Inspection/ElementOrder.h
 Inspection/Findings.h
 Inspection/Fingerprints.h
 Inspection/FormDefaults.h
@@ -34,11 +35,15 @@ Inspection/KeylessMembers.h
 Inspection/KnownClass.h
 Inspection/ListAlignment.h
 Inspection/ListMoves.h
+Inspection/PackedTree.h
 Inspection/Place.h
 Inspection/RecordInfo.h
 Inspection/RefusedEffects.h
+Inspection/ReleaseCheck.h
+Inspection/ReleaseModel.h
 Inspection/SchemaParts.h
 Inspection/SharedPaths.h
+Inspection/TreeEditor.h
 Inspection/TreeSteps.h
 Inspection/Trials.h
 Inspection/Usable.h
@@ -83,7 +88,8 @@ share/zsh/site-functions/_ombrel-effects
 "
 expect "manual and completions of the tool" "$(xargs -n1 <<<"$tool_files")" \
     "$(cd "$prefix" && find share -type f -not -path 'share/ombrel-effect-settings/*' -not -path 'share/doc/*' | sort)"
-expect "examples" "undo.cpp" "$(find "$prefix/share/doc" -type f -printf '%f\n' | sort)"
+expect "examples" "undo.cpp $(cd "$SOURCE_DIR/examples" && echo own-effect/*)" \
+    "$(cd "$prefix"/share/doc/*/examples && echo *.cpp */*)"
 
 # A shared library shows its interface alone: neither the parts of the reader nor the folds of the library's own records.
 if [[ $LAYOUT == shared-* ]]; then

@@ -34,7 +34,7 @@ build() {
     for source in "$@"; do
         object=bin/$(basename "$source").o
         # shellcheck disable=SC2046 # pkg-config prints words
-        "$CXX" "${flags[@]}" -c "$source" -o "$object" $(pkg-config --cflags "$package")
+        "$CXX" "${flags[@]}" -I examples/own-effect -c "$source" -o "$object" $(pkg-config --cflags "$package")
         objects+=("$object")
     done
     # shellcheck disable=SC2046
@@ -42,7 +42,7 @@ build() {
 }
 
 build vibrance ombrel-effect-settings vibrance.cpp
-build own-effect ombrel-effect-settings own-effect/{main,FrameSettings,SettingsEffectFrame}.cpp
+build own-effect ombrel-effect-settings own-effect/main.cpp examples/own-effect/{FrameSettings,SettingsEffectFrame}.cpp
 build json ombrel-property-tree-json json.cpp
 run_programs bin
 

@@ -4,8 +4,8 @@
 set -euo pipefail
 
 library=$1
-objects=$(nm -D --defined-only "$library" | awk '$2 == "B" && $3 ~ /^_ZN/ { print $3 }')
-relocations=$(readelf -rW "$library" | awk '{ print $5 }')
+objects=$(nm -D --defined-only "$library" | awk '$2 == "B" && $3 ~ /^_ZN/ { sub("@.*", "", $3); print $3 }')
+relocations=$(readelf -rW "$library" | awk '{ sub("@.*", "", $5); print $5 }')
 if [[ -z $objects ]]; then
     echo "no exported object in $library" >&2
     exit 1

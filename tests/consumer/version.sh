@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Header, library, package, tool and changelog have one version.
+# Header, library, package and tool have one version. changelog.sh says the same of the changelog and releases/.
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 prefix=$(prefix_of "$LAYOUT")
@@ -25,18 +25,18 @@ message("${PACKAGE_VERSION}")
 END
 expect "version of the package for CMake" "$VERSION" \
     "$("$CMAKE" -DFILE="$libdir/cmake/OmbrelEffectSettings/OmbrelEffectSettingsConfigVersion.cmake" -P "$work/package.cmake" 2>&1)"
-expect "version of the changelog's first section" "$VERSION" \
-    "$(sed -n 's/^## \([0-9.]*\)\( (unreleased)\)\?$/\1/p' "$SOURCE_DIR/CHANGELOG.md" | head -1)"
-expect "first section of the changelog" "## $VERSION" "$(grep -m1 '^## ' "$SOURCE_DIR/CHANGELOG.md" | sed 's/ (unreleased)$//')"
 
-# Below 1.0 a new minor version may break its callers, so that it is part of the name by which the loader finds a library.
+# Below 1.0 a new minor version may break its callers, so that it is part of the name by which the loader finds a library. The
+# exported names have the version of the first release that has this name.
 if [[ $LAYOUT == shared-* ]]; then
     case $VERSION in
-    0.*) compatible=${VERSION%.*} ;;
-    *) compatible=${VERSION%%.*} ;;
+    0.*) compatible=${VERSION%.*} first=$compatible ;;
+    *) compatible=${VERSION%%.*} first=$compatible.0 ;;
     esac
     for library in libombrel-effect-settings libombrel-property-tree-json libombrel-effect-inspection; do
         soname=$(readelf -dW "$libdir/$library.so" | sed -n 's/.*(SONAME).*\[\(.*\)\]/\1/p')
         expect "name of $library for the loader" "$library.so.$compatible" "$soname"
+        versions=$(readelf -VW "$libdir/$library.so" | sed -n '/^Version definition/,/^$/s/.*Index: \([0-9]*\).*Name: /\1 /p')
+        expect "first version of the names of $library" "2 OMBREL_$first" "$(sed -n 2p <<<"$versions")"
     done
 fi

@@ -4,8 +4,8 @@
 namespace Lifetime
 {
 
-/// Makes, writes, reads, clones and compares an effect of every class, and looks at everything that the library says of it. Ends
-/// the process at once, with a message that names `when`, if something is not as it is in `main`.
+/// Makes, writes, reads, clones and compares an effect of every class, and looks at everything that the library says of it.
+/// Ends the process at once, with a message that names `when`, if something is not as it is in `main`.
 void UseAll(const char* when);
 
 /// Looks at the public constants.

@@ -44,6 +44,38 @@ TEST_F(ToolForms, FreezePutsInEveryKey)
                                                                                                 ""}));
 }
 
+TEST_F(ToolForms, ConvertForAReleaseSaysWhatItCannot)
+{
+    EXPECT_EQ(RunOn(R"([{"name":"EFFECT_ACID","radius":3}])", {"convert", "--for", "0.1"}), (ToolResult{0,
+                                                                                                        R"([
+  {
+    "name": "EFFECT_ACID",
+    "radius": 3
+  }
+])"
+                                                                                                        "\n",
+                                                                                                        ""}));
+    Write("a.json", R"([{"name":"EFFECT_NOTHING"}, {"name":"EFFECT_ACID","x":1}])");
+    const ToolResult result = Run({"convert", "--for", "0.1", "--in-place", "a.json"});
+    EXPECT_EQ(result.code, 1);
+    EXPECT_THAT(result.err, testing::StartsWith("a.json:1:10: error: 0/name: \"EFFECT_NOTHING\" is no known effect"));
+    EXPECT_THAT(Content("a.json"), testing::HasSubstr("\"x\"")); // written, with what no release knows
+    EXPECT_EQ(Run({"convert", "a.json"}).code, 2);
+    EXPECT_EQ(Run({"convert", "--for", "0.1.0", "a.json"}).code, 2);
+}
+
+TEST_F(ToolForms, CheckForARelease)
+{
+    Write("a.json", R"([{"name":"EFFECT_ACID","x":1,"radius":0}])");
+    EXPECT_EQ(Run({"check", "--for", "0.1", "a.json"}),
+              (ToolResult{1,
+                          "a.json:1:28: warning: 0/x: the key is not known to release 0.1, so its value is lost "
+                          "[unknown-key]\n",
+                          "0 errors, 1 warning, 0 notes\n"}));
+    EXPECT_EQ(Run({"check", "--for", "0.1", "--fix", "a.json"}),
+              (ToolResult{2, "", "--for excludes --fix: convert makes a file that a release reads\n"}));
+}
+
 TEST_F(ToolForms, ReplaceSeveralFiles)
 {
     Write("a.json", R"({"name":"EFFECT_ACID","radius":0})");

@@ -2,6 +2,7 @@
 
 import json
 import pathlib
+import random
 import resource
 import subprocess
 import sys
@@ -66,6 +67,46 @@ FILES = {
     "deep wrong kinds": (deep("", ACID + '"radius":"x"}', ""), "implName"),
     "deep computed values": (deep("", '{"name":"EFFECT_FISH_EYE","intensity":3.0,"deviation":%d.5}', ""), "implName"),
 }
+# Lists whose other side has all elements at other places, half of them, or others; files that patches are for.
+NUMBERS = [str(number) for number in range(100000, 100000 + size // 8)]
+SHUFFLED = random.Random(1).sample(NUMBERS, len(NUMBERS))
+HALF = NUMBERS[len(NUMBERS) // 2 :]
+
+
+def plain(elements):
+    return "[" + ",".join(elements) + "]"
+
+
+def deepest(elements):
+    return nested(DEEPEST, ",".join(elements[: (size - len(nested(DEEPEST, ""))) // 8]))
+
+
+PAIRS = {
+    "numbers in another order": (plain(NUMBERS), plain(SHUFFLED)),
+    "numbers turned around": (plain(NUMBERS), plain(NUMBERS[::-1])),
+    "the second half": (plain(NUMBERS), plain(HALF)),
+    "twice as many": (plain(HALF), plain(NUMBERS)),
+    "every second": (plain(NUMBERS), plain(NUMBERS[::2])),
+    "deep numbers in another order": (deepest(NUMBERS), deepest(SHUFFLED)),
+    "the second half of deep numbers": (deepest(NUMBERS), deepest(HALF)),
+    "elements that go": (plain(NUMBERS), listed('{"op":"remove","path":"/0"}')),
+    "elements that come": (plain(NUMBERS), listed('{"op":"add","path":"/0","value":1}')),
+    "elements that move": (plain(NUMBERS), listed('{"op":"move","from":"/0","path":"/%s"}' % (len(NUMBERS) - 1))),
+    "elements of two lists": (
+        f"[{plain(NUMBERS[::2])},{plain(NUMBERS[1::2])}]",
+        listed('{"op":"remove","path":"/0/0"},{"op":"move","from":"/1/9","path":"/0/9"}'),
+    ),
+    "copies": (plain(NUMBERS), listed('{"op":"copy","from":"","path":"/0"}')),
+    "tests": (plain(NUMBERS), listed('{"op":"test","path":"/0","value":100000}')),
+    "keys that come": ("[{}]", listed('{"op":"add","path":"/0/k%d","value":[]}')),
+}
+PAIR_COMMANDS = [
+    ["diff", "FILE", "OTHER"],
+    ["diff", "--json", "FILE", "OTHER"],
+    ["patch", "FILE", "OTHER"],
+    ["merge", "FILE", "FILE", "OTHER"],
+    ["merge", "FILE", "OTHER", "OTHER"],
+]
 COMMANDS = [
     ["check", "FILE"],
     ["check", "--json", "FILE"],
@@ -73,6 +114,8 @@ COMMANDS = [
     ["show", "FILE"],
     ["show", "--changed", "FILE"],
     ["show", "--json", "FILE"],
+    ["check", "--for", "0.1", "FILE"],
+    ["convert", "--for", "0.1", "FILE"],
     ["thin", "FILE"],
     ["freeze", "FILE"],
     ["normalise", "FILE"],
@@ -109,16 +152,25 @@ def run(file, other, path, command):
 
 failures = []
 longest = (0.0, "", [])
-with tempfile.TemporaryDirectory() as folder:
-    for name, (text, path) in FILES.items():
+
+
+def time_commands(name, text, other_text, path, commands):
+    global longest
+    with tempfile.TemporaryDirectory() as folder:
         file = str(pathlib.Path(folder) / "hostile.json")
         other = str(pathlib.Path(folder) / "other.json")
-        pathlib.Path(other).write_text(changed(text))
-        for command in COMMANDS:
+        pathlib.Path(other).write_text(other_text)
+        for command in commands:
             pathlib.Path(file).write_text(text)
             code, taken = run(file, other, path, command)
             longest = max(longest, (taken, name, command))
             if not 0 <= code <= 4 or taken > seconds:
                 failures.append(f"{name}: {' '.join(command)}: code {code}, {taken:.2f} s")
+
+
+for name, (text, path) in FILES.items():
+    time_commands(name, text, changed(text), path, COMMANDS)
+for name, (text, other_text) in PAIRS.items():
+    time_commands(name, text, other_text, "", PAIR_COMMANDS)
 print(f"the longest: {longest[0]:.2f} s, {longest[1]}: {' '.join(longest[2])}")
 sys.exit("\n".join(failures) or 0)

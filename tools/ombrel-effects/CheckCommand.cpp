@@ -29,7 +29,7 @@ std::string Printed(const Finding& finding, const Document& document, const Chec
 // Of the ignored codes nothing is said and nothing mended.
 std::vector<Finding> FindingsIn(const PropertyTree& tree, const CheckSettings& settings)
 {
-    std::vector<Finding> findings = Inspection::Check(tree, {.maxFindings = settings.maxFindings});
+    std::vector<Finding> findings = Inspection::Check(tree, {.maxFindings = settings.maxFindings, .release = settings.release});
     std::erase_if(findings, [&settings](const Finding& finding)
                   { return std::ranges::find(settings.ignored, finding.code) != settings.ignored.end(); });
     return findings;

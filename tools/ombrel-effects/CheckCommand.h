@@ -3,10 +3,11 @@
 
 #include "Document.h"
 #include "FindingText.h"
-#include "Inspection/Finding.h"
+#include "Inspection/Release.h"
 #include "Report.h"
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,7 @@ struct CheckSettings
     bool isJson = false;
     bool isColoured = false;
     std::size_t maxFindings = MOST_SHOWN;
+    std::shared_ptr<const Inspection::Release> release; // null for this one
     std::vector<Inspection::FindingCode> ignored;
 };
 

@@ -7,6 +7,7 @@
 #include "Completions.h"
 #include "FormCommands.h"
 #include "Inspection/Nearest.h"
+#include "Inspection/Release.h"
 #include "ManualPage.h"
 #include "PropertyPath.h"
 #include "PropertyTreeJson/MessageText.h"
@@ -40,8 +41,8 @@ constexpr const char* FORCE_HELP =
 constexpr ExitCodeHelp EXIT_CODES[] = {
     {ExitCode::Fine, "fine"},
     {ExitCode::Findings,
-     "check found an error or a warning; what is compared differs; a patch or a merge has a conflict; a command would "
-     "change or lose what it was not asked to"},
+     "check found an error or a warning; what is compared differs; a patch or a merge has a conflict; a release does not read "
+     "all values; a command would change or lose what it was not asked to"},
     {ExitCode::Usage, "wrong usage; a path, class id, key or name that does not exist"},
     {ExitCode::File, "a file cannot be read or written"},
     {ExitCode::BadInput, "not JSON, or an effect that the command needs and cannot be read"},
@@ -105,6 +106,7 @@ private:
     void AddFile(CLI::App* command, bool isWriting);
     void AddReading(CLI::App* command);
     void AddWriting(CLI::App* command);
+    CLI::Option* AddFor(CLI::App* command, const char* help);
     void AddJson(CLI::App* command, const char* help);
     void AddClassCommands();
     void AddValueCommands();
@@ -158,6 +160,14 @@ void CommandLine::AddFile(CLI::App* command, bool isWriting)
     {
         AddWriting(command);
     }
+}
+
+CLI::Option* CommandLine::AddFor(CLI::App* command, const char* help)
+{
+    const std::vector<std::string_view> names = Inspection::ReleaseNames();
+    return command->add_option("--for", m_arguments.release, help)
+        ->type_name("RELEASE")
+        ->check(CLI::IsMember(std::vector<std::string>(names.begin(), names.end())));
 }
 
 void CommandLine::AddWriting(CLI::App* command)
@@ -277,6 +287,7 @@ void CommandLine::AddCheck()
     check->add_option("--max-findings", m_arguments.check.maxFindings, "End the check of a file with so many findings")
         ->type_name("N")
         ->capture_default_str();
+    AddFor(check, "Say what this release would refuse, lose or read as something else");
     check->add_option("--junit", m_arguments.junitFile, "Write an XML file too, in which each file is a test")
         ->type_name("FILE");
     check->add_flag("--in-place", m_arguments.run.isInPlace, "With --fix: replace the files, each all or nothing");
@@ -306,6 +317,18 @@ void CommandLine::AddForms()
     addForm("thin", "Print the effects without what has its default", &ThinDocument);
     addForm("freeze", "Print the effects with every key, so that no later default can change them", &FreezeDocument);
     addForm("normalise", "Print the effects as the library reads and writes them", &NormaliseDocument);
+
+    CLI::App* convert =
+        Add("convert", "Print the effects as another release reads them to the same values",
+            [](Arguments& arguments)
+            {
+                const auto release = Inspection::ReadRelease(arguments.release);
+                return OnFiles(arguments, true,
+                               [&release](const Document& document) { return ConvertDocument(document, *release); });
+            });
+    AddFiles(convert, true);
+    AddFor(convert, "The release that is to read them")->required();
+    AddWriting(convert);
 }
 
 void CommandLine::AddComparisons()

@@ -98,6 +98,14 @@ Report RunCheck(Arguments& arguments)
     {
         throw ToolError(ExitCode::Usage, "--junit has a test for each file, so that it excludes --lines");
     }
+    if (!arguments.release.empty())
+    {
+        if (settings.isFixing)
+        {
+            throw ToolError(ExitCode::Usage, "--for excludes --fix: convert makes a file that a release reads");
+        }
+        settings.release = Inspection::ReadRelease(arguments.release);
+    }
     settings.isJson = arguments.isJson;
     settings.isColoured = HasColours() && arguments.junitFile.empty();
     JUnitReport tests;

@@ -27,6 +27,7 @@ struct Arguments
     std::string examplesFolder;
     std::string outputFolder;
     std::string junitFile;
+    std::string release;
     std::vector<std::string> ignoredCodes;
     RunOptions run;
     CheckSettings check;

@@ -53,6 +53,17 @@ Report FreezeDocument(const Document& document)
     return InForm(document, Inspection::Freeze(document.Tree()));
 }
 
+Report ConvertDocument(const Document& document, const Inspection::Release& release)
+{
+    const Inspection::Conversion conversion = ConvertedFor(release, document.Tree());
+    Report report = InForm(document, conversion.tree);
+    report.isAskedFor = report.complaints.empty(); // what the release does not read is known by then
+    ComplainOf(conversion.losses, document, report,
+               [](const Finding& finding)
+               { return SeverityOf(finding.code) == Severity::Note ? std::nullopt : std::optional(ExitCode::Findings); });
+    return report;
+}
+
 Report NormaliseDocument(const Document& document)
 {
     Report report;

@@ -100,8 +100,8 @@ void TestRoundTrip()
     Expect("clone equals its original", *back->Clone() == *back, true);
 }
 
-// The ids of the library's classes are exported objects, of which a program may hold the only constructed copy. What the library
-// returns is another object.
+// The ids of the library's classes are exported objects, of which a program may hold the only constructed copy. What the
+// library returns is another object.
 void TestExportedObjects()
 {
     using Ombrel::Proc::SettingsEffectColorBalanceAuto;

@@ -1,6 +1,6 @@
 #include "Plugin.h"
 
-#include "../../consumer/own-effect/FrameSettings.h"
+#include "../../../examples/own-effect/FrameSettings.h"
 #include "Proc/EffectSettings/EffectSettingsExport.h"
 #include "Proc/EffectSettings/EffectSettingsImpl.h"
 #include "Proc/EffectSettings/VibranceSettings.h"

@@ -26,11 +26,12 @@ _ombrel_effects_has_value()
     'get --max-bytes') ;;
     'set --max-bytes') ;;
     'unset --max-bytes') ;;
-    'check --max-bytes' | 'check --jobs' | 'check --ignore' | 'check --max-findings' | 'check --junit') ;;
+    'check --max-bytes' | 'check --jobs' | 'check --ignore' | 'check --max-findings' | 'check --for' | 'check --junit') ;;
     'show --max-bytes' | 'show --jobs') ;;
     'thin --max-bytes' | 'thin --jobs') ;;
     'freeze --max-bytes' | 'freeze --jobs') ;;
     'normalise --max-bytes' | 'normalise --jobs') ;;
+    'convert --max-bytes' | 'convert --jobs' | 'convert --for') ;;
     'diff --max-bytes') ;;
     'patch --max-bytes') ;;
     'merge --max-bytes') ;;
@@ -69,7 +70,7 @@ _ombrel_effects()
         at=-
     fi
     case "$command $at" in
-    ' 1') _ombrel_effects_offer "$current" list describe schema new reference get set unset check show thin freeze normalise diff patch merge insert remove move extract manual completion ;;
+    ' 1') _ombrel_effects_offer "$current" list describe schema new reference get set unset check show thin freeze normalise convert diff patch merge insert remove move extract manual completion ;;
     ' -') _ombrel_effects_offer "$current" -h --help --version ;;
     'list 1') _ombrel_effects_ask "$current" "$program" list ;;
     'list -' | 'list '[1-9]*) _ombrel_effects_offer "$current" -h --help --json ;;
@@ -93,10 +94,11 @@ _ombrel_effects()
     'unset 1') compopt -o default ;;
     'unset 2') ;;
     'unset -' | 'unset '[1-9]*) _ombrel_effects_offer "$current" -h --help --non-finite --max-bytes --in-place --force ;;
-    'check --ignore') _ombrel_effects_offer "$current" no-name unknown-effect wrong-kind bad-colour number-too-large too-deep not-an-effect not-registered refused unknown-name number-for-name cut-integer truncated-float narrowed-float colour-not-canonical ignored-value duplicate-element unknown-key lost-by-copy changes-on-write default-written null-effect ragged-rows not-a-number no-schema ;;
+    'check --ignore') _ombrel_effects_offer "$current" no-name unknown-effect wrong-kind bad-colour number-too-large too-deep not-an-effect not-registered refused unknown-name number-for-name cut-integer truncated-float narrowed-float colour-not-canonical ignored-value duplicate-element unknown-key lost-by-copy changes-on-write other-default default-written null-effect ragged-rows not-a-number no-schema ;;
+    'check --for') _ombrel_effects_offer "$current" 0.1 ;;
     'check --junit') compopt -o default ;;
     'check '[1-9]*) compopt -o default ;;
-    'check -') _ombrel_effects_offer "$current" -h --help --non-finite --max-bytes --quiet --jobs --lines --json --strict --fix --ignore --max-findings --junit --in-place ;;
+    'check -') _ombrel_effects_offer "$current" -h --help --non-finite --max-bytes --quiet --jobs --lines --json --strict --fix --ignore --max-findings --for --junit --in-place ;;
     'show '[1-9]*) compopt -o default ;;
     'show -') _ombrel_effects_offer "$current" -h --help --non-finite --max-bytes --quiet --jobs --lines --changed --json ;;
     'thin '[1-9]*) compopt -o default ;;
@@ -105,6 +107,9 @@ _ombrel_effects()
     'freeze -') _ombrel_effects_offer "$current" -h --help --non-finite --max-bytes --quiet --jobs --lines --in-place --force ;;
     'normalise '[1-9]*) compopt -o default ;;
     'normalise -') _ombrel_effects_offer "$current" -h --help --non-finite --max-bytes --quiet --jobs --lines --in-place --force ;;
+    'convert --for') _ombrel_effects_offer "$current" 0.1 ;;
+    'convert '[1-9]*) compopt -o default ;;
+    'convert -') _ombrel_effects_offer "$current" -h --help --non-finite --max-bytes --quiet --jobs --lines --for --in-place --force ;;
     'diff 1') compopt -o default ;;
     'diff 2') compopt -o default ;;
     'diff -' | 'diff '[1-9]*) _ombrel_effects_offer "$current" -h --help --non-finite --max-bytes --json ;;

@@ -15,7 +15,7 @@ function __ombrel_effects_place
             set has_ended 1
         else if string match -q -- '-?*' "$word"; and test -z "$has_ended"
             switch "$command $word"
-                case 'reference --notes' 'reference --examples' 'reference --output' 'get --max-bytes' 'set --max-bytes' 'unset --max-bytes' 'check --max-bytes' 'check --jobs' 'check --ignore' 'check --max-findings' 'check --junit' 'show --max-bytes' 'show --jobs' 'thin --max-bytes' 'thin --jobs' 'freeze --max-bytes' 'freeze --jobs' 'normalise --max-bytes' 'normalise --jobs' 'diff --max-bytes' 'patch --max-bytes' 'merge --max-bytes' 'insert --max-bytes' 'remove --max-bytes' 'move --max-bytes' 'extract --max-bytes'
+                case 'reference --notes' 'reference --examples' 'reference --output' 'get --max-bytes' 'set --max-bytes' 'unset --max-bytes' 'check --max-bytes' 'check --jobs' 'check --ignore' 'check --max-findings' 'check --for' 'check --junit' 'show --max-bytes' 'show --jobs' 'thin --max-bytes' 'thin --jobs' 'freeze --max-bytes' 'freeze --jobs' 'normalise --max-bytes' 'normalise --jobs' 'convert --max-bytes' 'convert --jobs' 'convert --for' 'diff --max-bytes' 'patch --max-bytes' 'merge --max-bytes' 'insert --max-bytes' 'remove --max-bytes' 'move --max-bytes' 'extract --max-bytes'
                     set option "$word"
             end
         else if test -z "$command"
@@ -64,6 +64,7 @@ complete -c ombrel-effects -n '__ombrel_effects_at \'\'' -a show -d 'Show effect
 complete -c ombrel-effects -n '__ombrel_effects_at \'\'' -a thin -d 'Print the effects without what has its default'
 complete -c ombrel-effects -n '__ombrel_effects_at \'\'' -a freeze -d 'Print the effects with every key, so that no later default can change them'
 complete -c ombrel-effects -n '__ombrel_effects_at \'\'' -a normalise -d 'Print the effects as the library reads and writes them'
+complete -c ombrel-effects -n '__ombrel_effects_at \'\'' -a convert -d 'Print the effects as another release reads them to the same values'
 complete -c ombrel-effects -n '__ombrel_effects_at \'\'' -a diff -d 'Say what differs between two files by what is read, or between the files of two folders'
 complete -c ombrel-effects -n '__ombrel_effects_at \'\'' -a patch -d 'Do what a JSON Patch (RFC 6902) says, all of it or nothing'
 complete -c ombrel-effects -n '__ombrel_effects_at \'\'' -a merge -d 'Put together what two files have made of a third; a conflict takes the value of OURS'
@@ -116,8 +117,9 @@ complete -c ombrel-effects -n '__ombrel_effects_at check' -l lines -d 'JSON Line
 complete -c ombrel-effects -n '__ombrel_effects_at check' -l json -d 'A JSON object per finding, a line each'
 complete -c ombrel-effects -n '__ombrel_effects_at check' -l strict -d 'Notes end with exit code 1 too'
 complete -c ombrel-effects -n '__ombrel_effects_at check' -l fix -d 'Mend what can be mended and print the document; the findings go to the standard error'
-complete -c ombrel-effects -n '__ombrel_effects_at check' -l ignore -x -a '\'no-name\' \'unknown-effect\' \'wrong-kind\' \'bad-colour\' \'number-too-large\' \'too-deep\' \'not-an-effect\' \'not-registered\' \'refused\' \'unknown-name\' \'number-for-name\' \'cut-integer\' \'truncated-float\' \'narrowed-float\' \'colour-not-canonical\' \'ignored-value\' \'duplicate-element\' \'unknown-key\' \'lost-by-copy\' \'changes-on-write\' \'default-written\' \'null-effect\' \'ragged-rows\' \'not-a-number\' \'no-schema\'' -d 'Leave a code out, such as unknown-key; may be given several times'
+complete -c ombrel-effects -n '__ombrel_effects_at check' -l ignore -x -a '\'no-name\' \'unknown-effect\' \'wrong-kind\' \'bad-colour\' \'number-too-large\' \'too-deep\' \'not-an-effect\' \'not-registered\' \'refused\' \'unknown-name\' \'number-for-name\' \'cut-integer\' \'truncated-float\' \'narrowed-float\' \'colour-not-canonical\' \'ignored-value\' \'duplicate-element\' \'unknown-key\' \'lost-by-copy\' \'changes-on-write\' \'other-default\' \'default-written\' \'null-effect\' \'ragged-rows\' \'not-a-number\' \'no-schema\'' -d 'Leave a code out, such as unknown-key; may be given several times'
 complete -c ombrel-effects -n '__ombrel_effects_at check' -l max-findings -x -d 'End the check of a file with so many findings'
+complete -c ombrel-effects -n '__ombrel_effects_at check' -l for -x -a '\'0.1\'' -d 'Say what this release would refuse, lose or read as something else'
 complete -c ombrel-effects -n '__ombrel_effects_at check' -l junit -r -F -d 'Write an XML file too, in which each file is a test'
 complete -c ombrel-effects -n '__ombrel_effects_at check' -l in-place -d 'With --fix: replace the files, each all or nothing'
 complete -c ombrel-effects -n '__ombrel_effects_at check 1' -F
@@ -157,6 +159,16 @@ complete -c ombrel-effects -n '__ombrel_effects_at normalise' -l lines -d 'JSON 
 complete -c ombrel-effects -n '__ombrel_effects_at normalise' -l in-place -d 'Replace the file instead of printing, all or nothing'
 complete -c ombrel-effects -n '__ombrel_effects_at normalise' -l force -d 'Write the result even if something is changed or lost that was not asked for; the exit code stays 1'
 complete -c ombrel-effects -n '__ombrel_effects_at normalise 1' -F
+complete -c ombrel-effects -n '__ombrel_effects_at convert' -s h -l help -d 'Print this help message and exit'
+complete -c ombrel-effects -n '__ombrel_effects_at convert' -l non-finite -d 'Read and write floats that are no finite numbers as the strings "NaN", "Infinity", "-Infinity"'
+complete -c ombrel-effects -n '__ombrel_effects_at convert' -l max-bytes -x -d 'Refuse a file, or with --lines a line, of more bytes'
+complete -c ombrel-effects -n '__ombrel_effects_at convert' -l quiet -d 'No summary and no progress'
+complete -c ombrel-effects -n '__ombrel_effects_at convert' -l jobs -x -d 'Work on so many files at once'
+complete -c ombrel-effects -n '__ombrel_effects_at convert' -l lines -d 'JSON Lines: each line is an effect, a list of effects, or {"id": ..., "effects": ...}; each becomes a line, and one that cannot be worked on stays as it is'
+complete -c ombrel-effects -n '__ombrel_effects_at convert' -l for -x -a '\'0.1\'' -d 'The release that is to read them'
+complete -c ombrel-effects -n '__ombrel_effects_at convert' -l in-place -d 'Replace the file instead of printing, all or nothing'
+complete -c ombrel-effects -n '__ombrel_effects_at convert' -l force -d 'Write the result even if something is changed or lost that was not asked for; the exit code stays 1'
+complete -c ombrel-effects -n '__ombrel_effects_at convert 1' -F
 complete -c ombrel-effects -n '__ombrel_effects_at diff' -s h -l help -d 'Print this help message and exit'
 complete -c ombrel-effects -n '__ombrel_effects_at diff' -l non-finite -d 'Read and write floats that are no finite numbers as the strings "NaN", "Infinity", "-Infinity"'
 complete -c ombrel-effects -n '__ombrel_effects_at diff' -l max-bytes -x -d 'Refuse a file, or with --lines a line, of more bytes'
