@@ -10,7 +10,7 @@
 /// The second number.
 #define OMBREL_VERSION_MINOR 1
 /// The third number.
-#define OMBREL_VERSION_PATCH 0
+#define OMBREL_VERSION_PATCH 1
 
 /// Detail: what the string below is made of.
 #define OMBREL_VERSION_QUOTE(number) #number
