@@ -153,7 +153,7 @@ protected:
     {
         try
         {
-            const FileInPlace file(File());
+            FileInPlace file(File());
             EXPECT_EQ(file.Read(1000), OLD);
             t_calls = 0;
             t_fault = fault;
@@ -279,7 +279,7 @@ TEST_F(FileInPlaceTest, IsLeftAloneIfItHasChanged)
     for (const auto& change : changes)
     {
         Write(OLD);
-        const FileInPlace file(File());
+        FileInPlace file(File());
         std::this_thread::sleep_for(std::chrono::milliseconds(20)); // the clock of files is coarse
         change();
         const std::string before = Content();

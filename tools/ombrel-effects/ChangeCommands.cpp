@@ -12,6 +12,7 @@
 #include "PropertyTreeJson/MessageText.h"
 #include "PropertyTreeJson/PropertyTreeJson.h"
 #include "Reading.h"
+#include "System.h"
 #include "Values.h"
 
 #include <algorithm>
@@ -34,7 +35,7 @@ constexpr std::size_t MOST_COPIED = 2'000'000; // values, by the operations of o
 bool IsFolder(const std::string& name)
 {
     std::error_code error;
-    return name != "-" && fs::is_directory(name, error);
+    return name != "-" && fs::is_directory(System::PathOf(name), error);
 }
 
 // The files of a folder by their names below it.
@@ -43,7 +44,7 @@ std::map<std::string, std::string> FilesBelow(const std::string& folder, Report&
     std::map<std::string, std::string> files;
     for (const std::string& file : FilesOf({folder}, report.complaints))
     {
-        files.emplace(fs::path(file).lexically_relative(folder).generic_string(), file);
+        files.emplace(System::NameOf(System::PathOf(file).lexically_relative(System::PathOf(folder))), file);
     }
     return files;
 }

@@ -3,13 +3,12 @@
 #include "Inputs.h"
 #include "Inspection/Nearest.h"
 #include "JUnitReport.h"
+#include "System.h"
 #include "TextFile.h"
 
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
-#include <string_view>
-
-#include <unistd.h>
 
 namespace Ombrel::EffectsTool
 {
@@ -19,8 +18,7 @@ namespace
 bool HasColours()
 {
     const char* const noColour = std::getenv("NO_COLOR"); // NOLINT(concurrency-mt-unsafe): before any thread starts
-    const char* const terminal = std::getenv("TERM");     // NOLINT(concurrency-mt-unsafe)
-    return ::isatty(STDOUT_FILENO) != 0 && (!noColour || !*noColour) && terminal && std::string_view(terminal) != "dumb";
+    return System::HasColours(stdout) && (!noColour || !*noColour);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "Inputs.h"
 
+#include "System.h"
 #include "TextFile.h"
 #include "ToolError.h"
 
@@ -33,12 +34,12 @@ void AddFolder(const fs::path& folder, std::vector<std::string>& files, std::vec
             }
             else if (entry->path().extension() == ".json" && !entry->is_directory(ignored))
             {
-                files.push_back(entry->path().string());
+                files.push_back(System::NameOf(entry->path()));
             }
         }
         if (failure)
         {
-            complaints.push_back(NameOfFile(next.string()) + ": cannot be read: " + failure.message());
+            complaints.push_back(NameOfFile(System::NameOf(next)) + ": cannot be read: " + failure.message());
         }
     }
 }
@@ -51,14 +52,14 @@ std::vector<std::string> FilesOf(const std::vector<std::string>& names, std::vec
     for (const std::string& name : names)
     {
         std::error_code ignored;
-        if (name == "-" || !fs::is_directory(name, ignored))
+        if (name == "-" || !fs::is_directory(System::PathOf(name), ignored))
         {
             files.push_back(name);
             continue;
         }
         const std::size_t before = files.size();
         const std::size_t complaintsBefore = complaints.size();
-        AddFolder(name, files, complaints);
+        AddFolder(System::PathOf(name), files, complaints);
         if (files.size() == before && complaints.size() == complaintsBefore)
         {
             throw ToolError(ExitCode::Usage, NameOfFile(name) + ": there is no *.json file below it");

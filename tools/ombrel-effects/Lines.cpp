@@ -1,10 +1,10 @@
 #include "PropertyTreeJson/MessageText.h"
 #include "Runner.h"
+#include "System.h"
 #include "TextFile.h"
 
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
+#include <optional>
+#include <string_view>
 #include <utility>
 
 namespace Ombrel::EffectsTool
@@ -12,27 +12,13 @@ namespace Ombrel::EffectsTool
 namespace
 {
 
-using Stream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-
-Stream Open(const std::string& file)
-{
-    if (file == "-")
-    {
-        return {stdin, [](std::FILE*) { return 0; }};
-    }
-    return {std::fopen(file.c_str(), "rbe"), &std::fclose};
-}
-
 /// The lines of a file, of which one at a time is in memory.
 class LineReader
 {
 public:
-    LineReader(std::string file, std::size_t maxBytes) : m_file(std::move(file)), m_maxBytes(maxBytes), m_stream(Open(m_file))
+    LineReader(std::string name, std::size_t maxBytes)
+        : m_name(std::move(name)), m_maxBytes(maxBytes), m_file(OpenTextFile(m_name))
     {
-        if (!m_stream)
-        {
-            ThrowUnreadable();
-        }
     }
 
     /// False at the end. The line has its line end, unless the last one has none.
@@ -40,22 +26,17 @@ public:
     {
         line.clear();
         ++m_number;
-        for (int byte = ::getc_unlocked(m_stream.get()); byte != EOF; byte = ::getc_unlocked(m_stream.get()))
+        while (!line.ends_with('\n') && Fill())
         {
-            line += static_cast<char>(byte);
-            if (byte == '\n')
+            const std::size_t end = m_rest.find('\n');
+            const std::string_view part = m_rest.substr(0, end == std::string_view::npos ? end : end + 1);
+            line += part;
+            m_rest.remove_prefix(part.size());
+            if (line.size() - (line.ends_with('\n') ? 1 : 0) > m_maxBytes)
             {
-                return true;
-            }
-            if (line.size() > m_maxBytes)
-            {
-                throw ToolError(ExitCode::File, NameOfFile(m_file) + ":" + std::to_string(m_number) + ": is longer than the " +
+                throw ToolError(ExitCode::File, NameOfFile(m_name) + ":" + std::to_string(m_number) + ": is longer than the " +
                                                     std::to_string(m_maxBytes) + " bytes that --max-bytes allows");
             }
-        }
-        if (std::ferror(m_stream.get()) != 0)
-        {
-            ThrowUnreadable();
         }
         return !line.empty();
     }
@@ -63,14 +44,26 @@ public:
     std::size_t Number() const noexcept { return m_number; }
 
 private:
-    [[noreturn]] void ThrowUnreadable() const
+    // False at the end.
+    bool Fill()
     {
-        throw ToolError(ExitCode::File, NameOfFile(m_file) + ": cannot be read: " + LastError());
+        if (m_rest.empty())
+        {
+            const std::optional<std::size_t> count = m_file.Read(m_buffer.data(), m_buffer.size());
+            if (!count)
+            {
+                ThrowUnreadable(m_name);
+            }
+            m_rest = std::string_view(m_buffer).substr(0, *count);
+        }
+        return !m_rest.empty();
     }
 
-    std::string m_file;
+    std::string m_name;
     std::size_t m_maxBytes;
-    Stream m_stream;
+    System::File m_file;
+    std::string m_buffer = std::string(65536, '\0');
+    std::string_view m_rest; // of the buffer
     std::size_t m_number = 0;
 };
 

@@ -8,6 +8,7 @@
 #include "ReferenceNotes.h"
 #include "ReferencePages.h"
 #include "ReferenceSections.h"
+#include "System.h"
 #include "TextFile.h"
 #include "Values.h"
 
@@ -67,7 +68,7 @@ std::string ExampleOf(const PhotoCore::EffectClass& effectClass, const std::file
     {
         return Compact(FullForm(effectClass.create()), 0);
     }
-    const std::string file = (folder / effectClass.classId).string() + ".json";
+    const std::string file = System::NameOf(folder / effectClass.classId) + ".json";
     const Document document = Document::Load(file, {});
     const PropertyTree& stored = document.Tree();
     const PropertyTree* name = FindChild(stored, "name");
@@ -126,18 +127,18 @@ Report WriteReference(const std::string& notesFolder, const std::string& example
     {
         for (NotedClass& noted : page.classes)
         {
-            noted.example = ExampleOf(*noted.effectClass, examplesFolder);
+            noted.example = ExampleOf(*noted.effectClass, System::PathOf(examplesFolder));
         }
     }
     const ReferenceSections sections(notes.pages);
     CheckMembers(notes, sections, notesFolder);
-    const std::filesystem::path output(outputFolder);
+    const std::filesystem::path output = System::PathOf(outputFolder);
     std::filesystem::create_directories(output);
     for (std::size_t page = 0; page < notes.pages.size(); ++page)
     {
-        WriteTextFile(output / (notes.pages[page].name + ".md"), PageText(notes, page, sections));
+        WriteTextFile(System::NameOf(output / (notes.pages[page].name + ".md")), PageText(notes, page, sections));
     }
-    WriteTextFile(output / "README.md", IndexText(notes.pages));
+    WriteTextFile(System::NameOf(output / "README.md"), IndexText(notes.pages));
     return {};
 }
 

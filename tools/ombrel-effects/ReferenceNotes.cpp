@@ -1,6 +1,7 @@
 #include "ReferenceNotes.h"
 
 #include "Document.h"
+#include "System.h"
 #include "ToolError.h"
 #include "Values.h"
 
@@ -100,12 +101,12 @@ public:
                 Complain(m_folder + ": " + std::string(effectClass.className) + ": has no note");
             }
         }
-        for (const auto& entry : std::filesystem::directory_iterator(m_folder))
+        for (const auto& entry : std::filesystem::directory_iterator(System::PathOf(m_folder)))
         {
             const auto stem = entry.path().stem();
             if (stem != MEMBERS && std::ranges::find(PAGE_TITLES, stem, &PageTitle::name) == std::end(PAGE_TITLES))
             {
-                Complain(entry.path().string() + ": there is no page of this name");
+                Complain(System::NameOf(entry.path()) + ": there is no page of this name");
             }
         }
         if (!m_complaints.empty())
@@ -115,7 +116,7 @@ public:
     }
 
 private:
-    std::string FileOf(std::string_view page) const { return (std::filesystem::path(m_folder) / page).string() + ".json"; }
+    std::string FileOf(std::string_view page) const { return System::NameOf(System::PathOf(m_folder) / page) + ".json"; }
 
     const EffectClass* Take(const std::string& className, const std::string& where, const std::string& file)
     {

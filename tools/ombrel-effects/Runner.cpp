@@ -2,18 +2,14 @@
 
 #include "FileInPlace.h"
 #include "PropertyTreeJson/MessageText.h"
+#include "System.h"
 #include "TextFile.h"
 
-#include <algorithm>
-#include <array>
 #include <chrono>
 #include <condition_variable>
-#include <csignal>
 #include <cstdio>
 #include <mutex>
 #include <thread>
-
-#include <unistd.h>
 
 namespace Ombrel::EffectsTool
 {
@@ -30,12 +26,13 @@ void WriteAll(std::FILE* stream, const std::string& text)
 {
     if (!text.empty() && (std::fwrite(text.data(), 1, text.size(), stream) != text.size() || std::fflush(stream) != 0))
     {
-        throw ToolError(ExitCode::File, "<stdout>: cannot be written: " + LastError());
+        System::EndIfNobodyReads();
+        throw ToolError(ExitCode::File, "<stdout>: cannot be written: " + System::LastError());
     }
 }
 
 // The document of a report goes to where it belongs, unless something would be lost.
-void Place(Report& report, const RunOptions& options, const std::string& name, const FileInPlace* file)
+void Place(Report& report, const RunOptions& options, const std::string& name, FileInPlace* file)
 {
     if (!report.document)
     {
@@ -64,7 +61,7 @@ Report ReportOn(const std::string& name, const RunOptions& options, const Work& 
     {
         if (options.isInPlace)
         {
-            const FileInPlace file(name);
+            FileInPlace file(name);
             const Document document(name, file.Read(options.reading.maxBytes), options.reading);
             report = work(document);
             Place(report, options, document.Name(), &file);
@@ -171,7 +168,7 @@ private:
 class Progress
 {
 public:
-    Progress(std::size_t count, bool isQuiet) : m_count(count), m_isShown(!isQuiet && ::isatty(STDERR_FILENO) != 0) {}
+    Progress(std::size_t count, bool isQuiet) : m_count(count), m_isShown(!isQuiet && System::IsTerminal(stderr)) {}
 
     void Show(std::size_t done)
     {
@@ -201,43 +198,6 @@ private:
     std::chrono::steady_clock::time_point m_last = std::chrono::steady_clock::now();
 };
 
-// Signals that end the program wait while a file is replaced, so that no temporary file is left. They are looked at between
-// files.
-class DeferredSignals
-{
-public:
-    explicit DeferredSignals(bool isNeeded)
-    {
-        ::sigemptyset(&m_signals);
-        if (isNeeded)
-        {
-            for (const int signal : ENDING)
-            {
-                ::sigaddset(&m_signals, signal);
-            }
-        }
-        ::pthread_sigmask(SIG_BLOCK, &m_signals, &m_before);
-    }
-
-    DeferredSignals(const DeferredSignals&) = delete;
-    DeferredSignals& operator=(const DeferredSignals&) = delete;
-    ~DeferredSignals() { ::pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
-
-    bool HaveCome() const
-    {
-        sigset_t pending;
-        ::sigpending(&pending);
-        return std::ranges::any_of(ENDING, [&](int signal)
-                                   { return ::sigismember(&pending, signal) == 1 && ::sigismember(&m_signals, signal) == 1; });
-    }
-
-private:
-    static constexpr std::array<int, 3> ENDING{SIGINT, SIGTERM, SIGHUP};
-
-    sigset_t m_signals;
-    sigset_t m_before;
-};
-
 } // namespace
 
 void Print(const Report& report)
@@ -254,7 +214,8 @@ void RunOnFiles(const std::vector<std::string>& files, const RunOptions& options
 {
     Print(report);
     report.complaints.clear();
-    const DeferredSignals signals(options.isInPlace);
+    // An end waits while a file is replaced, so that no temporary file is left. It is looked at between files.
+    const System::DeferredEnd end(options.isInPlace);
     Progress progress(files.size(), options.isQuiet);
     const auto take = [&](const std::string& file, const Report& part)
     {
@@ -271,7 +232,7 @@ void RunOnFiles(const std::vector<std::string>& files, const RunOptions& options
     };
     if (options.jobs < 2 || files.size() < 2)
     {
-        for (std::size_t index = 0; index != files.size() && !signals.HaveCome(); ++index)
+        for (std::size_t index = 0; index != files.size() && !end.IsAskedFor(); ++index)
         {
             progress.Show(index);
             take(files[index], ReportOn(files[index], options, work));
@@ -280,7 +241,7 @@ void RunOnFiles(const std::vector<std::string>& files, const RunOptions& options
         return;
     }
     Workers workers(files, options, work);
-    for (std::size_t index = 0; index != files.size() && !signals.HaveCome(); ++index)
+    for (std::size_t index = 0; index != files.size() && !end.IsAskedFor(); ++index)
     {
         Report part;
         while (!workers.Take(index, part))

@@ -1,19 +1,26 @@
 #include "CommandLine.h"
+#include "System.h"
 #include "ToolError.h"
 
-#include <csignal>
+#include <algorithm>
 #include <exception>
 #include <iostream>
+#include <iterator>
+#include <string>
+#include <vector>
 
 int main(int argc, char** argv)
 {
     using namespace Ombrel::EffectsTool;
 
-    // A file that grows beyond the limit then fails to be written, instead of ending the program before it cleans up.
-    std::signal(SIGXFSZ, SIG_IGN);
+    const System::Session session;
     try
     {
-        return RunCommandLine(argc, argv);
+        std::vector<std::string> words = System::Arguments(argc, argv);
+        std::vector<char*> pointers;
+        std::ranges::transform(words, std::back_inserter(pointers), [](std::string& word) { return word.data(); });
+        pointers.push_back(nullptr);
+        return RunCommandLine(static_cast<int>(words.size()), pointers.data());
     }
     catch (const std::exception& error)
     {
