@@ -128,16 +128,6 @@ TEST_F(ToolCheck, PrintsALineOfJsonForEachFinding)
         "\n");
 }
 
-TEST_F(ToolCheck, EscapesNamesOfFilesAndKeys)
-{
-    Write("a\x1b[31m\n\xff.json", "{\"name\":\"EFFECT_ACID\",\"\\u001b\\u009b\\n\":1}");
-    EXPECT_EQ(Run({"check", "--quiet", "a\x1b[31m\n\xff.json"}),
-              (ToolResult{1,
-                          "a\\u001b[31m\\n\\xff.json:1:40: warning: \\u001b\\u009b\\n: the key is not known, so its value is "
-                          "lost [unknown-key]\n",
-                          ""}));
-}
-
 TEST_F(ToolCheck, EndsWithTheLargestNumberOfFindings)
 {
     EXPECT_EQ(RunOn(R"([{},{},{}])", {"check", "--max-findings", "2", "--quiet"}),
@@ -200,19 +190,19 @@ TEST_F(ToolFix, ReplacesSeveralFiles)
 TEST_F(ToolCheck, WritesATestForEachFile)
 {
     Write("a.json", R"({"name":"EFFECT_ACID"})");
-    Write("b<&>.json", R"({"name":"EFFECT_ACID","radius":"\"x\"","sigma":3,"other":1})");
+    Write("b&.json", R"({"name":"EFFECT_ACID","radius":"\"<x>\"","sigma":3,"other":1})");
     Write("c.json", "[");
     Write("d.json", R"({"name":"EFFECT_ACID","implName":"default"})");
-    EXPECT_EQ(Run({"check", "--quiet", "--jobs", "2", "--junit", "r.xml", "a.json", "b<&>.json", "c.json", "d.json"}).code, 4);
+    EXPECT_EQ(Run({"check", "--quiet", "--jobs", "2", "--junit", "r.xml", "a.json", "b&.json", "c.json", "d.json"}).code, 4);
     EXPECT_EQ(Content("r.xml"),
               "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
               "<testsuite name=\"ombrel-effects check\" tests=\"4\" failures=\"1\" errors=\"1\">\n"
               "  <testcase classname=\"ombrel-effects.check\" name=\"a.json\"/>\n"
-              "  <testcase classname=\"ombrel-effects.check\" name=\"b&lt;&amp;&gt;.json\">\n"
+              "  <testcase classname=\"ombrel-effects.check\" name=\"b&amp;.json\">\n"
               "    <failure message=\"1 error, 1 warning, 0 notes\">"
-              "b&lt;&amp;&gt;.json:1:32: error: radius: expected an integer from -2147483648 to 2147483647, found "
-              "&quot;&quot;x&quot;&quot; [wrong-kind]\n"
-              "b&lt;&amp;&gt;.json:1:58: warning: other: the key is not known, so its value is lost [unknown-key]\n"
+              "b&amp;.json:1:32: error: radius: expected an integer from -2147483648 to 2147483647, found "
+              "&quot;&quot;&lt;x&gt;&quot;&quot; [wrong-kind]\n"
+              "b&amp;.json:1:60: warning: other: the key is not known, so its value is lost [unknown-key]\n"
               "</failure>\n  </testcase>\n"
               "  <testcase classname=\"ombrel-effects.check\" name=\"c.json\">\n"
               "    <error message=\"cannot be checked\">c.json:1:2: at 0: unexpected end of input; expected '[', '{', or a "

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <ostream>
+#include <regex>
 
 namespace Ombrel
 {
@@ -34,7 +35,7 @@ TEST_F(ToolUsage, HasAVersion)
     const ToolResult result = Run({"--version"});
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.err, "");
-    EXPECT_THAT(result.out, testing::MatchesRegex("ombrel-effects [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+    EXPECT_TRUE(std::regex_match(result.out, std::regex("ombrel-effects [0-9]+\\.[0-9]+\\.[0-9]+\n"))) << result.out;
 }
 
 class ToolMisuse : public ToolTest, public testing::WithParamInterface<std::vector<std::string>>
@@ -68,26 +69,11 @@ TEST_F(ToolInput, MustBeReadable)
     EXPECT_EQ(Run({"get", ".", "0"}), (ToolResult{3, "", ".: cannot be read: Is a directory\n"}));
 }
 
-TEST_F(ToolInput, OutputMustBeWritable)
-{
-    EXPECT_EQ(Run({"list"}, {.outputFile = "/dev/full"}),
-              (ToolResult{3, "", "<stdout>: cannot be written: No space left on device\n"}));
-    EXPECT_EQ(Run({"--version"}, {.outputFile = "/dev/full"}).code, 3);
-}
-
 TEST_F(ToolInput, JsonErrorHasLineAndColumn)
 {
     EXPECT_EQ(RunOn("[\n  {\"name\": \"EFFECT_ACID\",\n   \"radius\": 5,\n   \"radius\": 6}\n]", {"show"}),
               (ToolResult{4, "", "f.json:4:4: at 0: duplicate key \"radius\"\n"}));
     EXPECT_EQ(Run({"show", "-"}, {.input = "[1"}), (ToolResult{4, "", "<stdin>:1:3: unexpected end of input; expected ']'\n"}));
-}
-
-TEST_F(ToolInput, IsEscapedInMessagesAsTheJsonLibraryDoes)
-{
-    EXPECT_EQ(Run({"new", "~/\n\x1b\xC2\x9B\xFF\xC3\xA4"}),
-              (ToolResult{2, "",
-                          "~0~1\\n\\u001b\\u009b\\xff\xC3\xA4: no such class id, expected one that \"ombrel-effects list\" "
-                          "shows\n"}));
 }
 
 struct BadEffect

@@ -1,9 +1,7 @@
-#include "ToolRunner.h"
+#include "InPlaceFixture.h"
 
 #include <filesystem>
 #include <thread>
-
-#include <sys/stat.h>
 
 namespace Ombrel
 {
@@ -11,26 +9,6 @@ namespace
 {
 
 namespace fs = std::filesystem;
-
-constexpr const char* OLD = R"({"name":"EFFECT_ACID","radius":5})";
-constexpr const char* NEW = "{\n  \"name\": \"EFFECT_ACID\",\n  \"radius\": 7\n}\n";
-
-class ToolInPlace : public ToolTest
-{
-protected:
-    ToolInPlace() { Write("f.json", OLD); }
-
-    ToolResult SetRadius(const ToolSurroundings& surroundings = {}, const std::string& file = "f.json") const
-    {
-        return Run({"set", file, "radius", "7", "--in-place"}, surroundings);
-    }
-
-    void ExpectUntouched() const
-    {
-        EXPECT_EQ(Content("f.json"), OLD);
-        EXPECT_EQ(Files(), std::vector<std::string>{"f.json"});
-    }
-};
 
 TEST_F(ToolInPlace, ReplacesAndPrintsNothing)
 {
@@ -47,43 +25,9 @@ TEST_F(ToolInPlace, PutsAnotherFileInTheOldOnesPlace)
     EXPECT_EQ(Content("before.json"), OLD) << "the old content was overwritten, so that a crash could have torn it";
 }
 
-TEST_F(ToolInPlace, KeepsTheMode)
-{
-    for (const auto mode : {0640, 0604, 0777})
-    {
-        fs::permissions(At("f.json"), fs::perms{static_cast<unsigned>(mode)});
-        EXPECT_EQ(SetRadius().code, 0);
-        EXPECT_EQ(static_cast<int>(fs::status(At("f.json")).permissions()), mode);
-    }
-}
-
-TEST_F(ToolInPlace, FollowsASymbolicLinkIntoAnotherFolder)
-{
-    fs::create_directory(At("links"));
-    fs::create_symlink("../f.json", At("links/link.json"));
-    EXPECT_EQ(SetRadius({}, "links/link.json"), (ToolResult{0, "", ""}));
-    EXPECT_TRUE(fs::is_symlink(At("links/link.json")));
-    EXPECT_EQ(Content("f.json"), NEW);
-    EXPECT_EQ(Files(), (std::vector<std::string>{"f.json", "links"}));
-}
-
 TEST_F(ToolInPlace, PrintingLeavesTheFileAlone)
 {
     EXPECT_EQ(Run({"set", "f.json", "radius", "7"}), (ToolResult{0, NEW, ""}));
-    ExpectUntouched();
-}
-
-TEST_F(ToolInPlace, AFailedWriteLeavesTheFileAlone)
-{
-    EXPECT_EQ(SetRadius({.maxFileSize = 16}), (ToolResult{3, "", "f.json: cannot be replaced: File too large\n"}));
-    ExpectUntouched();
-}
-
-TEST_F(ToolInPlace, AFolderThatTakesNoFileLeavesTheFileAlone)
-{
-    fs::permissions(At(""), fs::perms{0555});
-    EXPECT_EQ(SetRadius({.obeysFileModes = true}),
-              (ToolResult{3, "", "f.json: cannot be replaced: no file can be created in its folder: Permission denied\n"}));
     ExpectUntouched();
 }
 
@@ -101,13 +45,6 @@ TEST_F(ToolInPlace, TwoAtOnceLoseNoChange)
         ASSERT_EQ(Content("f.json"), "{\n  \"name\": \"EFFECT_ACID\",\n  \"radius\": 7,\n  \"sigma\": 2.0\n}\n");
     }
     EXPECT_EQ(Files(), std::vector<std::string>{"f.json"});
-}
-
-TEST_F(ToolInPlace, WhatIsNoRegularFileStays)
-{
-    ASSERT_EQ(::mkfifo(At("pipe.json").c_str(), 0600), 0);
-    EXPECT_EQ(SetRadius({}, "pipe.json"), (ToolResult{3, "", "pipe.json: cannot be replaced: it is not a regular file\n"}));
-    EXPECT_TRUE(fs::is_fifo(At("pipe.json")));
 }
 
 TEST_F(ToolInPlace, AnErrorLeavesTheFileAlone)
@@ -147,6 +84,28 @@ TEST_F(ToolInPlace, DropsKeysOnlyByForce)
     EXPECT_EQ(Run({"normalise", "f.json", "--in-place", "--force"}),
               (ToolResult{1, "", "f.json:1:42: warning: other: the key is not known, so its value is lost [unknown-key]\n"}));
     EXPECT_EQ(Content("f.json"), NEW);
+}
+
+TEST_F(ToolInPlace, TakesNamesThatAreNotAscii)
+{
+    const std::string name = "\u00DCbung \u5F71.json";
+    Write(name, OLD);
+    EXPECT_EQ(SetRadius({}, name), (ToolResult{0, "", ""}));
+    EXPECT_EQ(Content(name), NEW);
+    EXPECT_EQ(Run({"show", "\u00DC.json"}), (ToolResult{3, "", "\u00DC.json: cannot be read: No such file or directory\n"}));
+    fs::create_directory(At("\u5F71"));
+    Write("\u5F71/\u00DC.json", "{");
+    EXPECT_EQ(Run({"check", "--quiet", "\u5F71"}),
+              (ToolResult{4, "", "\u5F71/\u00DC.json:1:2: unexpected end of input; expected string literal\n"}));
+}
+
+TEST_F(ToolInPlace, HandsThroughTextsAndLineEndsUnchanged)
+{
+    const std::string effect = "{\r\n\"name\":\"EFFECT_ACID\",\"implName\":\"\u00DC\u5F71\"}\r\n";
+    EXPECT_EQ(Run({"get", "-", "implName"}, {.input = effect}), (ToolResult{0, "\"\u00DC\u5F71\"\n", ""}));
+    EXPECT_EQ(Run({"set", "-", "implName", "\u5F71"}, {.input = effect}),
+              (ToolResult{0, "{\n  \"implName\": \"\u5F71\",\n  \"name\": \"EFFECT_ACID\"\n}\n", ""}));
+    EXPECT_EQ(Run({"normalise", "--lines", "-"}, {.input = "\r\n\x1a\n"}).out, "\r\n\x1a\n");
 }
 
 } // namespace

@@ -23,7 +23,7 @@ TEST_F(ToolReference, WritesThePagesAndPrintsNothing)
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(At("pages/new")))
     {
-        names.push_back(entry.path().filename());
+        names.push_back(entry.path().filename().string());
     }
     EXPECT_THAT(names, testing::UnorderedElementsAre("README.md", "artistic.md", "blur-and-detail.md", "colour.md", "faces.md",
                                                      "framework.md", "geometry.md", "masks.md", "neural.md"));

@@ -1,6 +1,8 @@
 #ifndef OMBREL_TESTS_TOOL_TOOL_RUNNER_H
 #define OMBREL_TESTS_TOOL_TOOL_RUNNER_H
 
+#include "TemporaryFolder.h"
+
 #include <filesystem>
 #include <optional>
 #include <ostream>
@@ -25,6 +27,7 @@ struct ToolResult
 
 void PrintTo(const ToolResult& result, std::ostream* out);
 
+/// All but the input is for POSIX systems alone.
 struct ToolSurroundings
 {
     std::string input = {};                      // the content of standard input
@@ -41,24 +44,21 @@ ToolResult RunTool(const std::filesystem::path& folder, const std::vector<std::s
 class ToolTest : public testing::Test
 {
 protected:
-    ToolTest();
-    ~ToolTest() override;
-
     ToolResult Run(const std::vector<std::string>& arguments, const ToolSurroundings& surroundings = {}) const
     {
-        return RunTool(m_folder, arguments, surroundings);
+        return RunTool(m_folder.Path(), arguments, surroundings);
     }
 
     /// The command on a file "f.json" with this content.
     ToolResult RunOn(std::string_view content, std::vector<std::string> arguments) const;
 
-    void Write(const std::string& name, std::string_view content) const;
-    std::string Content(const std::string& name) const;
+    void Write(const std::string& name, std::string_view content) const { m_folder.Write(name, content); }
+    std::string Content(const std::string& name) const { return m_folder.Content(name); }
     std::vector<std::string> Files() const;
-    std::filesystem::path At(const std::string& name) const { return m_folder / name; }
+    std::filesystem::path At(const std::string& name) const { return m_folder.At(name); }
 
 private:
-    std::filesystem::path m_folder;
+    TemporaryFolder m_folder;
 };
 
 } // namespace Ombrel

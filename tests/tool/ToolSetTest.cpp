@@ -177,10 +177,6 @@ INSTANTIATE_TEST_SUITE_P(
                {2, "",
                 "f.json: colorFirst: \"red\" is no colour; expected a colour of eight hexadecimal digits, such as \"ff0000ff\" "
                 "[bad-colour]\n"}},
-        Change{"EFFECT_EMPTY",
-               "value",
-               "\xFF",
-               {4, "", "f.json: value: the value cannot be written as JSON: the string is not valid UTF-8\n"}},
         Change{"EFFECT_ACID", "name", "EFFECT_EMPTY", {2, "", "f.json: name: the class of an effect cannot be changed\n"}},
         Change{"EFFECT_ACID",
                "radios",

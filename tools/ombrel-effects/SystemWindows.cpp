@@ -71,11 +71,24 @@ std::wstring SystemName(const std::string& name)
     return full.starts_with(L"\\\\") ? L"\\\\?\\UNC" + full.substr(1) : L"\\\\?\\" + full;
 }
 
+constexpr DWORD FOLDER_REFUSED = 336; // ERROR_DIRECTORY_NOT_SUPPORTED, which older headers do not have
+
+bool IsFolder(const std::wstring& name)
+{
+    const DWORD attributes = ::GetFileAttributesW(name.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 // Other programs may read, replace and remove the file meanwhile.
 File Open(const std::wstring& name, DWORD access, DWORD creation, DWORD flags = FILE_ATTRIBUTE_NORMAL)
 {
     constexpr DWORD shared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    return FileOf(::CreateFileW(name.c_str(), access, shared, nullptr, creation, flags, nullptr));
+    File file = FileOf(::CreateFileW(name.c_str(), access, shared, nullptr, creation, flags, nullptr));
+    if (!file.IsOpen() && ::GetLastError() == ERROR_ACCESS_DENIED && IsFolder(name))
+    {
+        ::SetLastError(FOLDER_REFUSED);
+    }
+    return file;
 }
 
 // The console as it was found. Another thread puts it back when the user ends the program.
@@ -281,8 +294,10 @@ std::string NameOf(const std::filesystem::path& path)
 // In the words that other systems have, where the error is one that they know.
 std::string LastError()
 {
-    const std::error_code error(static_cast<int>(::GetLastError()), std::system_category());
-    const std::error_condition condition = error.default_error_condition();
+    const DWORD last = ::GetLastError();
+    const std::error_code error(static_cast<int>(last), std::system_category());
+    const std::error_condition condition =
+        last == FOLDER_REFUSED ? std::make_error_condition(std::errc::is_a_directory) : error.default_error_condition();
     return condition.category() == std::generic_category() ? condition.message() : error.message();
 }
 
@@ -458,20 +473,16 @@ bool Replacement::TakePlaceOf(File& original)
     m_file.Close();
     const std::wstring from = SystemName(m_name);
     const std::wstring to = SystemName(m_target);
-    for (int attempts = 100; attempts != 0; --attempts)
+    for (int attempts = 100;; --attempts)
     {
-        if (::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0)
+        m_isDone = ::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+        const DWORD error = ::GetLastError();
+        if (m_isDone || attempts == 1 || (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION))
         {
-            m_isDone = true;
-            return true;
-        }
-        if (const DWORD error = ::GetLastError(); error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION)
-        {
-            return false;
+            return m_isDone;
         }
         std::this_thread::sleep_for(pause);
     }
-    return false;
 }
 
 } // namespace Ombrel::EffectsTool::System
