@@ -211,6 +211,14 @@ TEST_F(FileInPlaceOnPosix, IsReplacedByManyShortWrites)
     EXPECT_EQ(Content(), NEW);
 }
 
+// On Windows a file that is removed stays until all have closed it.
+TEST_F(FileInPlaceOnPosix, IsNotMadeAnewIfItWasRemoved)
+{
+    EXPECT_EQ(FileInPlaceTest::Replace([this] { std::filesystem::remove(File()); }),
+              File() + ": cannot be replaced: it has changed since it was read");
+    EXPECT_EQ(Files(), 0u);
+}
+
 // On Windows no file takes the place of this one while it is read.
 TEST_F(FileInPlaceOnPosix, IsLeftAloneIfItsModeHasChangedOrAnotherFileIsInItsPlace)
 {

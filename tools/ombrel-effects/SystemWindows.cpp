@@ -57,13 +57,17 @@ template <typename Write> std::wstring Written(const Write& write)
     return text;
 }
 
+std::wstring FullName(const std::wstring& name)
+{
+    return Written([&name](wchar_t* buffer, DWORD size) { return ::GetFullPathNameW(name.c_str(), size, buffer, nullptr); });
+}
+
 // The name as the system wants it: long ones are absolute and have a prefix.
 std::wstring SystemName(const std::string& name)
 {
     constexpr std::size_t shortest = MAX_PATH - 12; // at which a name is long; a folder has room for a name in it
-    const std::wstring wide = Wide(name);
-    const std::wstring full =
-        Written([&wide](wchar_t* buffer, DWORD size) { return ::GetFullPathNameW(wide.c_str(), size, buffer, nullptr); });
+    std::wstring wide = Wide(name);
+    const std::wstring full = FullName(wide);
     if (full.size() < shortest || full.starts_with(L"\\\\?\\"))
     {
         return wide;
@@ -400,8 +404,13 @@ std::string TargetOf(const std::string& name)
     {
         return "";
     }
-    return Narrow(Written([&file](wchar_t* buffer, DWORD size)
-                          { return ::GetFinalPathNameByHandleW(HandleOf(file), buffer, size, FILE_NAME_NORMALIZED); }));
+    std::wstring target = Written([&file](wchar_t* buffer, DWORD size)
+                                  { return ::GetFinalPathNameByHandleW(HandleOf(file), buffer, size, FILE_NAME_NORMALIZED); });
+    if (target.empty() && (::GetFileAttributesW(SystemName(name).c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
+    {
+        target = FullName(Wide(name)); // some systems do not say long names, and this one is no link
+    }
+    return Narrow(target);
 }
 
 // The lock is not on the file itself, since no other file can take the place of one that is open.
