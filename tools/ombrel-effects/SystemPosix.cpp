@@ -240,7 +240,10 @@ bool FileLock::Try(const File& file, const FileState&)
     return ::flock(DescriptorOf(file), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
-void FileLock::Release() noexcept {} // closing the file does it
+void FileLock::Release() noexcept
+{
+    m_handle = 0; // closing the file releases the lock
+}
 
 Replacement::Replacement(const std::string& target, const FileState&)
     : m_target(target), m_name(FolderOf(target) + ".ombrel-effects-XXXXXX"), m_file(::mkostemp(m_name.data(), O_CLOEXEC))
