@@ -29,6 +29,12 @@ if(boostIncludes)
   list(JOIN boostIncludes "" OMBREL_PC_BOOST_CFLAGS)
 endif()
 
+# On Windows the headers must know that names come from no DLL.
+set(OMBREL_PC_DEFINITIONS)
+if(WIN32 AND NOT BUILD_SHARED_LIBS)
+  set(OMBREL_PC_DEFINITIONS " -DOMBREL_STATIC")
+endif()
+
 # What the link of a static library needs where no C++ compiler drives it.
 set(standardLibraries ${CMAKE_CXX_IMPLICIT_LINK_LIBRARIES})
 list(FILTER standardLibraries INCLUDE REGEX "^(stdc\\+\\+|c\\+\\+|m)$")
@@ -70,7 +76,8 @@ function(ombrel_install_library name)
   install(FILES ${PROJECT_BINARY_DIR}/${OMBREL_PC_NAME}.pc DESTINATION ${OMBREL_PKGCONFIG_DIR} COMPONENT development)
 endfunction()
 
-install(FILES ${PROJECT_SOURCE_DIR}/src/OmbrelExport.h ${PROJECT_SOURCE_DIR}/src/OmbrelLasting.h
+install(FILES ${PROJECT_SOURCE_DIR}/src/OmbrelCompiler.h ${PROJECT_SOURCE_DIR}/src/OmbrelExport.h
+              ${PROJECT_SOURCE_DIR}/src/OmbrelLasting.h
               ${PROJECT_SOURCE_DIR}/src/OmbrelVersion.h
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Ombrel COMPONENT development)
 ombrel_install_library(EffectSettings

@@ -2,12 +2,28 @@
 
 include(CheckLinkerFlag)
 
-set(OMBREL_WARNINGS -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Woverloaded-virtual
-    -Wnon-virtual-dtor)
-if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize") # what a sanitizer puts between confuses it
-  list(APPEND OMBREL_WARNINGS -Wnull-dereference)
-endif()
 option(OMBREL_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
+if(MSVC) # its options have names of their own; clang-cl takes them too
+  set(OMBREL_WARNINGS /W4 $<$<BOOL:${OMBREL_WARNINGS_AS_ERRORS}>:/WX>)
+  set(OMBREL_COMPILE_OPTIONS /permissive- /utf-8 /EHsc /bigobj)
+  set(OMBREL_RELEASE_OPTIONS /Gy)
+  set(OMBREL_SMALL_OPTIONS /O1)
+else()
+  set(OMBREL_WARNINGS -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Woverloaded-virtual
+      -Wnon-virtual-dtor $<$<BOOL:${OMBREL_WARNINGS_AS_ERRORS}>:-Werror>)
+  if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize") # what a sanitizer puts between confuses it
+    list(APPEND OMBREL_WARNINGS -Wnull-dereference)
+  endif()
+  # Without it a library that instantiates a template's static can never be unloaded.
+  set(OMBREL_COMPILE_OPTIONS $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
+  # Each function has a section of its own, so that a linker can leave out what nobody calls. What is handed out names no folder
+  # of the machine that built it, in its debug information either. Where one folder stands in the other the later option holds.
+  set(OMBREL_RELEASE_OPTIONS -ffunction-sections -fdata-sections
+      -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=.)
+  set(OMBREL_SMALL_OPTIONS -Os)
+endif()
+# For code that runs seldom.
+set(OMBREL_SMALL_OPTIONS "$<$<NOT:$<CONFIG:Debug>>:${OMBREL_SMALL_OPTIONS}>")
 
 # Callers depend on the number in the libraries' names. While the major version is 0, a new minor version may break them. The
 # first release with such a number gives the names that are exported their version.
@@ -22,13 +38,17 @@ else()
 endif()
 
 # The library is bound to itself and packs its relocations, which makes it load several times faster. What it must share with
-# the program stands in a list; a linker that knows no such list binds the functions only.
+# the program stands in a list; a linker that knows no such list binds the functions only. On Windows a library is always bound to
+# itself, and the headers say what it exports.
 set(OMBREL_SHARED_OBJECTS ${CMAKE_CURRENT_LIST_DIR}/shared-objects.list)
-check_linker_flag(CXX "-Wl,--dynamic-list=${OMBREL_SHARED_OBJECTS}" OMBREL_LINKER_TAKES_LISTS)
-if(OMBREL_LINKER_TAKES_LISTS)
-  set(OMBREL_SHARED_LINK_OPTIONS -Wl,--dynamic-list=${OMBREL_SHARED_OBJECTS})
-else()
-  set(OMBREL_SHARED_LINK_OPTIONS -Wl,-Bsymbolic-functions)
+set(OMBREL_SHARED_LINK_OPTIONS)
+if(NOT WIN32)
+  check_linker_flag(CXX "-Wl,--dynamic-list=${OMBREL_SHARED_OBJECTS}" OMBREL_LINKER_TAKES_LISTS)
+  if(OMBREL_LINKER_TAKES_LISTS)
+    set(OMBREL_SHARED_LINK_OPTIONS -Wl,--dynamic-list=${OMBREL_SHARED_OBJECTS})
+  else()
+    set(OMBREL_SHARED_LINK_OPTIONS -Wl,-Bsymbolic-functions)
+  endif()
 endif()
 check_linker_flag(CXX "-Wl,-z,pack-relative-relocs,--fatal-warnings" OMBREL_LINKER_PACKS_RELOCATIONS)
 if(OMBREL_LINKER_PACKS_RELOCATIONS)
@@ -36,7 +56,9 @@ if(OMBREL_LINKER_PACKS_RELOCATIONS)
 endif()
 set(OMBREL_EXPORTS ${PROJECT_BINARY_DIR}/exports.map)
 configure_file(${CMAKE_CURRENT_LIST_DIR}/exports.map.in ${OMBREL_EXPORTS} @ONLY)
-check_linker_flag(CXX "-Wl,--version-script=${OMBREL_EXPORTS}" OMBREL_LINKER_HAS_VERSION_SCRIPTS)
+if(NOT WIN32)
+  check_linker_flag(CXX "-Wl,--version-script=${OMBREL_EXPORTS}" OMBREL_LINKER_HAS_VERSION_SCRIPTS)
+endif()
 if(OMBREL_LINKER_HAS_VERSION_SCRIPTS)
   list(APPEND OMBREL_SHARED_LINK_OPTIONS -Wl,--version-script=${OMBREL_EXPORTS})
 endif()
@@ -65,17 +87,9 @@ function(ombrel_defaults target)
     VISIBILITY_INLINES_HIDDEN ON
     POSITION_INDEPENDENT_CODE ON
     BUILD_RPATH_USE_ORIGIN ON) # no folder of the machine that built it, not even by its length
-  target_compile_options(${target} PRIVATE ${OMBREL_WARNINGS} $<$<BOOL:${OMBREL_WARNINGS_AS_ERRORS}>:-Werror>)
-  # Without it a library that instantiates a template's static can never be unloaded.
-  target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
+  target_compile_options(${target} PRIVATE ${OMBREL_WARNINGS} ${OMBREL_COMPILE_OPTIONS}
+    "$<$<NOT:$<CONFIG:Debug>>:${OMBREL_RELEASE_OPTIONS}>")
   ombrel_harden(${target})
-  # Each function has a section of its own, so that a linker can leave out what nobody calls.
-  target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-ffunction-sections$<SEMICOLON>-fdata-sections>)
-  # What is handed out names no folder of the machine that built it, in its debug information either. Where one folder stands
-  # in the other the later option holds.
-  foreach(folder IN ITEMS ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})
-    target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${folder}=.>)
-  endforeach()
   get_target_property(type ${target} TYPE)
   if(type STREQUAL "SHARED_LIBRARY")
     target_link_options(${target} PRIVATE ${OMBREL_SHARED_LINK_OPTIONS})
@@ -87,8 +101,18 @@ endfunction()
 # for copies beyond all memory.
 function(ombrel_test_defaults target)
   ombrel_defaults(${target})
-  target_compile_options(${target} PRIVATE -Wno-null-dereference
+  target_compile_options(${target} PRIVATE $<$<NOT:$<BOOL:${MSVC}>>:-Wno-null-dereference>
     "$<$<CXX_COMPILER_ID:GNU>:-Wno-array-bounds;-Wno-stringop-overflow;-Wno-restrict>")
+endfunction()
+
+# ombrel_exports(target symbol) lets the headers say on Windows what the library exports and what its callers import: the target is
+# built with the symbol.
+function(ombrel_exports target symbol)
+  if(NOT BUILD_SHARED_LIBS)
+    target_compile_definitions(${target} PUBLIC $<$<PLATFORM_ID:Windows>:OMBREL_STATIC>)
+  else()
+    target_compile_definitions(${target} PRIVATE $<$<PLATFORM_ID:Windows>:${symbol}>)
+  endif()
 endfunction()
 
 # ombrel_component(Name SOURCES file... [USES Name...]) makes one of the library's parts, an object library
@@ -100,6 +124,8 @@ function(ombrel_component name)
   add_library(${target} OBJECT ${ARG_SOURCES})
   add_library(Ombrel::${name} ALIAS ${target})
   ombrel_defaults(${target})
+  ombrel_exports(${target} OMBREL_BUILDS_EFFECT_SETTINGS)
+  target_compile_definitions(${target} INTERFACE $<$<PLATFORM_ID:Windows>:OMBREL_STATIC>)
   target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>)
   # The objects of what is used are named once more by whoever links, since an object library does not pass them on.
   set(closure ${target})

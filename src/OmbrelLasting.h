@@ -1,6 +1,7 @@
 #ifndef OMBREL_LASTING_H
 #define OMBREL_LASTING_H
 
+#include "OmbrelCompiler.h"
 #include "OmbrelExport.h"
 
 #include <atomic>
@@ -12,7 +13,7 @@ namespace Ombrel
 {
 
 // Hidden: every library and program that makes such constants keeps a list of its own, which goes when it goes.
-namespace [[gnu::visibility("hidden")]] LastingDetail
+namespace OMBREL_LOCAL_NAMESPACE LastingDetail
 {
 
 struct Constant
@@ -27,7 +28,7 @@ inline constinit std::atomic<Constant*> g_made = nullptr;
 inline constinit bool g_isUnloading = false;
 inline constinit bool g_isUnloaded = false;
 
-[[gnu::cold]] inline void DestroyMade() noexcept
+OMBREL_COLD inline void DestroyMade() noexcept
 {
     for (Constant* constant = g_made.exchange(nullptr); constant; constant = constant->next)
     {
@@ -35,7 +36,7 @@ inline constinit bool g_isUnloaded = false;
     }
 }
 
-#ifdef __GNUC__
+#if defined(__GNUC__) || defined(__clang__)
 // The system runs exit handlers before such functions when the process exits, and after them when the library is unloaded.
 [[gnu::destructor]] inline void NoteUnloading() noexcept
 {
@@ -49,7 +50,7 @@ inline void NoteUnloaded() noexcept
 }
 
 // With this priority it runs behind the exit handlers, which destroy the variables of the same library: a tree may be one.
-[[gnu::destructor(101), gnu::cold]] inline void DestroyIfUnloaded() noexcept
+[[gnu::destructor(101)]] OMBREL_COLD inline void DestroyIfUnloaded() noexcept
 {
     if (g_isUnloaded)
     {
@@ -57,11 +58,12 @@ inline void NoteUnloaded() noexcept
     }
 }
 #else
+// Elsewhere nothing is told apart from the end of the process, so that what a library made is never freed.
 inline void NoteUnloaded() noexcept {}
 #endif
 
 // Two threads that come here at once both make the value; the first to store it wins.
-[[gnu::noinline, gnu::cold]] inline const void* Make(Constant& constant)
+OMBREL_NOINLINE OMBREL_COLD inline const void* Make(Constant& constant)
 {
     const void* made = constant.make();
     const void* stored = nullptr;
@@ -81,12 +83,12 @@ inline void NoteUnloaded() noexcept {}
     return made;
 }
 
-template <auto MakeValue> [[gnu::cold]] const void* New()
+template <auto MakeValue> OMBREL_COLD const void* New()
 {
     return new decltype(MakeValue())(MakeValue());
 }
 
-template <class Value> [[gnu::cold]] void Delete(const void* value) noexcept
+template <class Value> OMBREL_COLD void Delete(const void* value) noexcept
 {
     delete static_cast<const Value*>(value);
 }
@@ -94,7 +96,7 @@ template <class Value> [[gnu::cold]] void Delete(const void* value) noexcept
 template <const void* (*NewValue)(), void (*DeleteValue)(const void*) noexcept>
 inline constinit Constant g_constant{NewValue, DeleteValue};
 
-} // namespace gnu::visibility("hidden")]]LastingDetail
+} // namespace LastingDetail
 
 /// What `NewValue` allocates on the first call, and `DeleteValue` frees. The reference is good before the initialisers of a
 /// program and after its destructors, until the library or program that this is compiled into is unloaded. Any number of

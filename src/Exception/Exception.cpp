@@ -1,8 +1,12 @@
 #include "Exception/Exception.h"
 
+#if defined(__GNUC__) || defined(__clang__)
 #pragma GCC visibility push(default)
+#endif
 #include <boost/throw_exception.hpp>
+#if defined(__GNUC__) || defined(__clang__)
 #pragma GCC visibility pop
+#endif
 
 namespace Ombrel
 {

@@ -4,12 +4,16 @@
 #include "OmbrelExport.h"
 
 // Boost's types must be visible. Otherwise what is attached to an exception is lost when another library catches it.
+#if defined(__GNUC__) || defined(__clang__)
 #pragma GCC visibility push(default)
+#endif
 #include <boost/assert/source_location.hpp>
 #include <boost/exception/exception.hpp>
 #include <boost/exception/get_error_info.hpp>
 #include <boost/exception/info.hpp>
+#if defined(__GNUC__) || defined(__clang__)
 #pragma GCC visibility pop
+#endif
 
 #include <exception>
 #include <string>
@@ -28,8 +32,8 @@ public:
     ~Exception() noexcept override;
 };
 
-struct OMBREL_API TagDescription;
-struct OMBREL_API TagCallStack;
+struct OMBREL_SHARED_TYPE TagDescription;
+struct OMBREL_SHARED_TYPE TagCallStack;
 
 /// The text and the call stack as they are attached, for `boost::get_error_info`.
 using ErrorDescription = boost::error_info<TagDescription, std::string>;

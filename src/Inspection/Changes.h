@@ -62,7 +62,7 @@ struct Change
 using ChangeList = std::vector<Change>;
 
 /// The change in one line, for people: "2/smartBlur/lumaRadius: 100 -> 50".
-OMBREL_API std::string TextOf(const Change& change);
+OMBREL_INSPECTION_API std::string TextOf(const Change& change);
 
 /// What must be changed in one stored effect, or a list of them, so that it means the same as another: what is read of both is
 /// compared, so it is empty if and only if `Freeze` makes the same of both. Numbers are compared by value, and a NaN is a NaN.
@@ -71,17 +71,17 @@ OMBREL_API std::string TextOf(const Change& change);
 /// Effects in lists are found again by their class id and content; elements of other lists are those with the same index. A set
 /// or a map of colours has no order.
 /// @throws std::bad_alloc and nothing else, whatever the trees hold
-OMBREL_API ChangeList Diff(const PropertyTree& before, const PropertyTree& after);
+OMBREL_INSPECTION_API ChangeList Diff(const PropertyTree& before, const PropertyTree& after);
 
 /// The changes that take these back.
-OMBREL_API ChangeList Inverse(ChangeList changes);
+OMBREL_INSPECTION_API ChangeList Inverse(ChangeList changes);
 
 /// The changes one after the other. What becomes one change is one: the first value and the last of 40 that were typed into a
 /// slider.
-OMBREL_API ChangeList Joined(ChangeList first, const ChangeList& second);
+OMBREL_INSPECTION_API ChangeList Joined(ChangeList first, const ChangeList& second);
 
 /// The value that a change was made from is not there.
-class OMBREL_API ConflictError : public std::runtime_error
+class OMBREL_INSPECTION_API ConflictError : public std::runtime_error
 {
 public:
     ConflictError(const Path& place, const std::optional<PropertyTree>& expected, const std::optional<PropertyTree>& found);
@@ -104,12 +104,13 @@ private:
 /// Changes a stored effect or a list of them, all or nothing. All that the changes do not name stays as it stands. After `Diff`
 /// the tree means the same as the other one, and the changes that take these back give the tree as it stood.
 /// @throws ConflictError if a value is not what it was before the change, std::bad_alloc; the tree is then as it was
-OMBREL_API void Apply(std::span<const Change> changes, PropertyTree& effectOrList);
+OMBREL_INSPECTION_API void Apply(std::span<const Change> changes, PropertyTree& effectOrList);
 
 /// The same for effects, whose paths begin with their index. An effect that is changed is replaced by a new object, so that
 /// what a read leaves alone, such as the helper settings, comes from its tree too.
 /// @throws ConflictError, and what writing and reading an effect throws; the effects are then as they were
-OMBREL_API void Apply(std::span<const Change> changes, std::vector<std::shared_ptr<PhotoCore::IEffectSettings>>& effects);
+OMBREL_INSPECTION_API void Apply(std::span<const Change> changes,
+                                 std::vector<std::shared_ptr<PhotoCore::IEffectSettings>>& effects);
 
 } // namespace Ombrel::Inspection
 

@@ -32,7 +32,7 @@ struct CheckOptions
 ///
 /// Threads: any number may check trees at once, also one and the same.
 /// @throws std::bad_alloc and nothing else, whatever the tree holds
-OMBREL_API std::vector<Finding> Check(const PropertyTree& effectOrList, const CheckOptions& options = {});
+OMBREL_INSPECTION_API std::vector<Finding> Check(const PropertyTree& effectOrList, const CheckOptions& options = {});
 
 } // namespace Ombrel::Inspection
 

@@ -55,7 +55,7 @@ struct ValueDescription
 };
 
 /// "uint32", "list of Face": the form with its width and sign, and what it is made of.
-OMBREL_API std::string TextOf(const ValueDescription& value);
+OMBREL_INSPECTION_API std::string TextOf(const ValueDescription& value);
 
 /// One key of a map.
 struct FieldDescription
@@ -126,7 +126,7 @@ struct EffectDescription
     std::vector<RecordDescription> records;
 
     /// Null for an unknown name. Belongs to this description.
-    OMBREL_API const RecordDescription* FindRecord(std::string_view name) const noexcept;
+    OMBREL_INSPECTION_API const RecordDescription* FindRecord(std::string_view name) const noexcept;
 };
 
 /// What can stand in a tree of the class, and what its effects do with it; nothing for an unknown id. It makes effects of the
@@ -134,7 +134,7 @@ struct EffectDescription
 ///
 /// Threads: any number may describe classes at once.
 /// @throws std::bad_alloc and nothing else, whatever the code of a caller's class throws
-OMBREL_API std::optional<EffectDescription> Describe(std::string_view classId);
+OMBREL_INSPECTION_API std::optional<EffectDescription> Describe(std::string_view classId);
 
 } // namespace Ombrel::Inspection
 

@@ -58,13 +58,13 @@ enum class FindingCode : std::uint8_t
 };
 
 /// The text of a code, such as "unknown-name". It never changes.
-OMBREL_API std::string_view TextOf(FindingCode code) noexcept;
+OMBREL_INSPECTION_API std::string_view TextOf(FindingCode code) noexcept;
 
 /// How bad findings with the code are.
-OMBREL_API Severity SeverityOf(FindingCode code) noexcept;
+OMBREL_INSPECTION_API Severity SeverityOf(FindingCode code) noexcept;
 
 /// "error", "warning" or "note".
-OMBREL_API std::string_view TextOf(Severity severity) noexcept;
+OMBREL_INSPECTION_API std::string_view TextOf(Severity severity) noexcept;
 
 /// How a finding can be mended.
 enum class Mend : std::uint8_t
@@ -91,7 +91,7 @@ struct Finding
 /// The tree with all that can be mended. Findings whose place is not there are passed over.
 /// @param tree a stored effect or a list of them
 /// @param findings what `Check` said of the tree
-OMBREL_API PropertyTree Mended(PropertyTree tree, std::span<const Finding> findings);
+OMBREL_INSPECTION_API PropertyTree Mended(PropertyTree tree, std::span<const Finding> findings);
 
 } // namespace Ombrel::Inspection
 

@@ -35,12 +35,12 @@ namespace Ombrel::Inspection
 /// nested map where it says what the map around it has by default. What is written by default too, "backgroundSettings", is
 /// there, thin. In a tree without findings but `DefaultWritten`, this is what is written.
 /// @throws std::bad_alloc and nothing else, whatever the tree holds
-OMBREL_API PropertyTree Thin(PropertyTree effectOrList);
+OMBREL_INSPECTION_API PropertyTree Thin(PropertyTree effectOrList);
 
 /// Puts in every key at every depth, "implName" and "helperSettings" too, so that defaults of a later version change nothing.
 /// The elements of lists, sets and colour maps stay as many as they are.
 /// @throws std::bad_alloc and nothing else, whatever the tree holds
-OMBREL_API PropertyTree Freeze(PropertyTree effectOrList);
+OMBREL_INSPECTION_API PropertyTree Freeze(PropertyTree effectOrList);
 
 /// What `EffectSettings::SerializePtr` writes of what `EffectSettings::DeserializePtr` reads, for the tree or each element of
 /// the list. One that cannot be read or written stays as it stands as a whole: without an effect that stands in it, it would be
@@ -49,7 +49,7 @@ OMBREL_API PropertyTree Freeze(PropertyTree effectOrList);
 /// What is read again is equal where `Check` has neither `ChangesOnWrite` nor `LostByCopy`, and no number that is cut,
 /// truncated or narrowed has a value that is computed from it.
 /// @throws std::bad_alloc and nothing else, whatever the tree holds
-OMBREL_API PropertyTree Normalise(PropertyTree effectOrList);
+OMBREL_INSPECTION_API PropertyTree Normalise(PropertyTree effectOrList);
 
 } // namespace Ombrel::Inspection
 

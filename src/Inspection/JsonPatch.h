@@ -17,7 +17,7 @@ namespace Ombrel::Inspection
 /// The changes as a JSON Patch (RFC 6902) of the stored effects that `Diff` was given first, for programs that know nothing of
 /// effects. Before each value that is replaced, removed or moved a "test" says what must be there. A key in a record that is
 /// not stored comes with the whole record.
-OMBREL_API PropertyTree ToJsonPatch(std::span<const Change> changes);
+OMBREL_INSPECTION_API PropertyTree ToJsonPatch(std::span<const Change> changes);
 
 /// Limits for patches from strangers.
 struct JsonPatchOptions
@@ -27,7 +27,7 @@ struct JsonPatchOptions
 };
 
 /// A patch is none, or does not fit the tree.
-class OMBREL_API JsonPatchError : public std::runtime_error
+class OMBREL_INSPECTION_API JsonPatchError : public std::runtime_error
 {
 public:
     JsonPatchError(std::size_t operation, const std::string& reason);
@@ -45,7 +45,7 @@ private:
 /// Does the operations of any JSON Patch, by the rules of RFC 6902: all or nothing. It need not be of this library, and the
 /// tree need not hold effects.
 /// @throws JsonPatchError, std::bad_alloc; the tree is then as it was
-OMBREL_API void ApplyJsonPatch(const PropertyTree& patch, PropertyTree& tree, const JsonPatchOptions& options = {});
+OMBREL_INSPECTION_API void ApplyJsonPatch(const PropertyTree& patch, PropertyTree& tree, const JsonPatchOptions& options = {});
 
 } // namespace Ombrel::Inspection
 

@@ -30,11 +30,11 @@ struct JsonSchemaOptions
 ///
 /// Threads: any number may make schemas at once.
 /// @throws std::bad_alloc and nothing else
-OMBREL_API PropertyTree JsonSchema(const JsonSchemaOptions& options = {});
+OMBREL_INSPECTION_API PropertyTree JsonSchema(const JsonSchemaOptions& options = {});
 
 /// The same of the effects of one class, or a list of them; effects that stand in them may be of any class. Nothing for an id
 /// that is not registered.
-OMBREL_API std::optional<PropertyTree> JsonSchema(std::string_view classId, const JsonSchemaOptions& options = {});
+OMBREL_INSPECTION_API std::optional<PropertyTree> JsonSchema(std::string_view classId, const JsonSchemaOptions& options = {});
 
 } // namespace Ombrel::Inspection
 

@@ -34,7 +34,7 @@ struct MergeResult
 /// first, unless it is the same. Sets, maps of colours and lists of other elements whose length one side has changed are taken
 /// as a whole.
 /// @throws std::bad_alloc and nothing else, whatever the trees hold
-OMBREL_API MergeResult Merge(const PropertyTree& base, const PropertyTree& ours, const PropertyTree& theirs);
+OMBREL_INSPECTION_API MergeResult Merge(const PropertyTree& base, const PropertyTree& ours, const PropertyTree& theirs);
 
 } // namespace Ombrel::Inspection
 

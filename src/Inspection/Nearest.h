@@ -13,7 +13,7 @@ namespace Ombrel::Inspection
 
 /// Finds the name that is most like a text: the one with the fewest characters to add, drop, change or swap, if those are few.
 /// Upper and lower case count as half a change.
-class OMBREL_API NearestName
+class OMBREL_INSPECTION_API NearestName
 {
 public:
     /// `text` must outlive the object.

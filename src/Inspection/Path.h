@@ -27,7 +27,7 @@ public:
     Path(Path&&) noexcept = default;
     Path& operator=(const Path&) = default;
     Path& operator=(Path&&) noexcept = default;
-    OMBREL_API ~Path();
+    OMBREL_INSPECTION_API ~Path();
 
     explicit Path(std::vector<PathStep> steps) noexcept : m_ownSteps(std::move(steps)) {}
 
@@ -38,17 +38,17 @@ public:
     }
 
     /// All steps, those of the shared beginning first.
-    OMBREL_API std::vector<PathStep> Steps() const;
+    OMBREL_INSPECTION_API std::vector<PathStep> Steps() const;
 
     /// The shared beginning, or null, and the steps after it.
     const std::shared_ptr<const Path>& Start() const noexcept { return m_start; }
     const std::vector<PathStep>& OwnSteps() const noexcept { return m_ownSteps; }
 
     /// Keys and indices joined with "/", with "~0" and "~1" for "~" and "/" within a key: "2/smartBlur/lumaRadius".
-    OMBREL_API std::string ToText() const;
+    OMBREL_INSPECTION_API std::string ToText() const;
 
     /// Whether both lead through the same steps.
-    OMBREL_API bool operator==(const Path& other) const;
+    OMBREL_INSPECTION_API bool operator==(const Path& other) const;
 
 private:
     mutable std::shared_ptr<const Path> m_start; // which the last that has it takes apart

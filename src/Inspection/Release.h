@@ -20,7 +20,7 @@ namespace Ombrel::Inspection
 /// What one release reads and writes. Never changes.
 ///
 /// Threads: any number may use one release at once.
-class OMBREL_API Release
+class OMBREL_INSPECTION_API Release
 {
 public:
     /// @param manifest as `Manifest` makes it: the content of a `manifest.json`, also of a release newer than this library
@@ -43,18 +43,18 @@ private:
 };
 
 /// The releases whose manifests this library contains, the oldest first. A patch release is the same as its minor release.
-OMBREL_API std::vector<std::string_view> ReleaseNames();
+OMBREL_INSPECTION_API std::vector<std::string_view> ReleaseNames();
 
 /// One of these releases. It is made anew by each call, in some milliseconds.
 /// @throws std::invalid_argument for another name, std::bad_alloc
-OMBREL_API std::shared_ptr<const Release> ReadRelease(std::string_view name);
+OMBREL_INSPECTION_API std::shared_ptr<const Release> ReadRelease(std::string_view name);
 
 /// Makes `Check` say what a release would do with a tree that this library reads: what it would refuse, lose, or silently read
 /// as something else. A value that it lacks and that is the default here is no loss, so nothing is said of it.
 ///
 /// Classes that callers have registered are no part of a release. What is found in them is what `Check` finds without one.
 /// @throws as `ReadRelease`
-OMBREL_API CheckOptions ForRelease(std::string_view name);
+OMBREL_INSPECTION_API CheckOptions ForRelease(std::string_view name);
 
 /// What a tree becomes for another release.
 struct Conversion
@@ -69,13 +69,13 @@ struct Conversion
 /// that it does not know and that have their default are left out, and a name that it does not know becomes its own for the
 /// same number. All else stays as it stands. This library reads the same of both trees.
 /// @throws std::bad_alloc and nothing else, whatever the tree holds
-OMBREL_API Conversion ConvertedFor(const Release& release, PropertyTree effectOrList);
+OMBREL_INSPECTION_API Conversion ConvertedFor(const Release& release, PropertyTree effectOrList);
 
 /// The manifest of this build, with all classes of the library, in the order of `PhotoCore::EffectClasses`. It takes some
 /// hundred milliseconds.
 /// @param release the name that the manifest says
 /// @throws std::bad_alloc
-OMBREL_API PropertyTree Manifest(std::string_view release);
+OMBREL_INSPECTION_API PropertyTree Manifest(std::string_view release);
 
 } // namespace Ombrel::Inspection
 

@@ -51,7 +51,7 @@ namespace Ombrel::Inspection
 /// Loading and saving take time linear in the size of the tree.
 ///
 /// Threads: as a standard container, many readers or one writer. `Save` reads the effects.
-class OMBREL_API StoredEffects
+class OMBREL_INSPECTION_API StoredEffects
 {
 public:
     /// An effect, shared with whoever holds it.

@@ -1,5 +1,6 @@
 #include "PropertyTree/KnownTexts.h"
 
+#include "OmbrelCompiler.h"
 #include "OmbrelLasting.h"
 #include "PropertyTree/KeyHead.h"
 
@@ -47,7 +48,7 @@ const KnownTexts* KnownTexts::GetIfMade() noexcept
     return LastingIfMade<&Make>();
 }
 
-[[gnu::cold]] KnownTexts::KnownTexts(const std::vector<std::string_view>& texts)
+OMBREL_COLD KnownTexts::KnownTexts(const std::vector<std::string_view>& texts)
 {
     const std::set<std::string_view> sorted(texts.begin(), texts.end());
     m_numbers.resize(std::bit_ceil(4 * sorted.size() + 1));

@@ -1,5 +1,6 @@
 #include "PropertyTree/PropertyTree.h"
 
+#include "OmbrelCompiler.h"
 #include "PropertyTree/KindNames.h"
 #include "PropertyTree/PropertyTreeMapFiller.h"
 
@@ -104,7 +105,7 @@ public:
 
 private:
     // The compiler would otherwise put it into itself several times.
-    [[gnu::noinline]] bool AreEqual(const PropertyTree& a, const PropertyTree& b, int depth)
+    OMBREL_NOINLINE bool AreEqual(const PropertyTree& a, const PropertyTree& b, int depth)
     {
         if (a.isScalar())
         {

@@ -132,8 +132,8 @@ private:
         bool hasPlace = false;
 
     private:
-        void SearchNext() noexcept;
-        void SearchPrevious() noexcept;
+        OMBREL_API void SearchNext() noexcept;
+        OMBREL_API void SearchPrevious() noexcept;
     };
 
     template <bool IsConst> class Iterator

@@ -27,7 +27,7 @@ struct JsonPlace
 
 /// Where each value of a text stands. It takes more memory than the tree of the text, so it is made when there is something to
 /// say about the text. Any number of threads may search at once.
-class OMBREL_API JsonPlaces
+class OMBREL_JSON_API JsonPlaces
 {
 public:
     /// Reads `text` as `ReadJson` does. No reference to it is kept.

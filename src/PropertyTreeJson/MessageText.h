@@ -1,6 +1,7 @@
 #ifndef OMBREL_PROPERTY_TREE_JSON_MESSAGE_TEXT_H
 #define OMBREL_PROPERTY_TREE_JSON_MESSAGE_TEXT_H
 
+#include "OmbrelCompiler.h"
 #include "PropertyTree/Characters.h"
 
 #include <array>
@@ -75,7 +76,7 @@ inline std::optional<std::size_t> IndexOf(std::string_view step)
 
 /// The escape of the code point `character`, which is below 256: a quote, a backslash or a control character. The text is in
 /// `space`. An escape is rare, and would only make the loops larger that ask for it.
-[[gnu::noinline]] inline std::string_view EscapeOf(char character, std::array<char, 6>& space)
+OMBREL_NOINLINE inline std::string_view EscapeOf(char character, std::array<char, 6>& space)
 {
     constexpr std::string_view named = "\"\\\b\f\n\r\t";
     constexpr std::string_view names = "\"\\bfnrt";

@@ -63,7 +63,7 @@ struct JsonWriteOptions
 /// A text that cannot be read. `what()` is `line:column: at path: reason`, without `at path: ` if the path is empty, such as
 /// `3:14: at 2/smartBlur: duplicate key "lumaRadius"`. It may be printed on a terminal or into a log, whatever the input: in it
 /// control characters (U+0000 to U+001F, U+007F to U+009F) and bytes that are not UTF-8 are escaped. `path()` is not escaped.
-class OMBREL_API JsonError : public std::runtime_error
+class OMBREL_JSON_API JsonError : public std::runtime_error
 {
 public:
     JsonError(std::size_t line, std::size_t column, const std::string& path, const std::string& reason);
@@ -87,7 +87,7 @@ private:
 };
 
 /// A tree that has no JSON form. `what()` is `at path: reason`, escaped in the same way.
-class OMBREL_API JsonWriteError : public std::runtime_error
+class OMBREL_JSON_API JsonWriteError : public std::runtime_error
 {
 public:
     JsonWriteError(const std::string& path, const std::string& reason);
@@ -103,16 +103,16 @@ private:
 /// The tree that `text` describes. No reference to `text` is kept.
 /// @throws JsonError on bad syntax, invalid UTF-8, a key that occurs twice in a map, a number that does not fit, more depth,
 ///         values or bytes than `options` allow, an empty or truncated text, or anything but white space behind the value
-OMBREL_API PropertyTree ReadJson(std::string_view text, const JsonReadOptions& options = {});
+OMBREL_JSON_API PropertyTree ReadJson(std::string_view text, const JsonReadOptions& options = {});
 
 /// The text of `tree`.
 /// @throws JsonWriteError on a string or key that is not valid UTF-8, and on a NaN or an infinity unless
 ///         `options.nonFiniteAsText` is set
-OMBREL_API std::string WriteJson(const PropertyTree& tree, const JsonWriteOptions& options = {});
+OMBREL_JSON_API std::string WriteJson(const PropertyTree& tree, const JsonWriteOptions& options = {});
 
 /// Adds the text of `tree` at the end of `text`, which stays as it was if anything is thrown.
 /// @throws JsonWriteError as `WriteJson`
-OMBREL_API void AppendJson(std::string& text, const PropertyTree& tree, const JsonWriteOptions& options = {});
+OMBREL_JSON_API void AppendJson(std::string& text, const PropertyTree& tree, const JsonWriteOptions& options = {});
 
 } // namespace Ombrel
 

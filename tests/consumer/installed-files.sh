@@ -71,7 +71,7 @@ PropertyTreeJson/JsonTreeBuilder.h
 PropertyTreeJson/MessageText.h
 "
 expected=$(cd "$SOURCE_DIR/src" &&
-    find OmbrelExport.h OmbrelLasting.h OmbrelVersion.h Conf Exception Inspection PhotoUtil Proc PropertyTree PropertyTreeJson -name '*.h' |
+    find OmbrelCompiler.h OmbrelExport.h OmbrelLasting.h OmbrelVersion.h Conf Exception Inspection PhotoUtil Proc PropertyTree PropertyTreeJson -name '*.h' |
     grep -vxF "$(xargs -n1 <<<"$private_headers")" | sort)
 expect "headers" "$expected" "$(cd "$include" && find . -name '*.h' -printf '%P\n' | sort)"
 sed 's/.*/#include "&"/' <<<"$expected" | "$CXX" -std=c++20 -fsyntax-only -I "$include" -x c++ - ||

@@ -127,6 +127,7 @@ CommandLine::CommandLine() : m_app(DESCRIPTION, "ombrel-effects")
     m_app.footer(Footer());
     m_app.set_version_flag("--version", PROGRAM_VERSION);
     m_app.require_subcommand(1);
+    m_app.allow_windows_style_options(false); // a name that begins with '/' is that of a file on every system
     AddClassCommands();
     AddValueCommands();
     AddCheck();

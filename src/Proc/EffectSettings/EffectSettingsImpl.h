@@ -1,6 +1,7 @@
 #ifndef OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_IMPL_H
 #define OMBREL_PROC_EFFECT_SETTINGS_EFFECT_SETTINGS_IMPL_H
 
+#include "OmbrelCompiler.h"
 #include "Proc/EffectSettings/EffectSettings.h"
 #include "Proc/Reflection/DefaultRecord.h"
 #include "Proc/Settings/SettingsRecord.h"
@@ -23,7 +24,7 @@ concept StoresItself = requires
 
 /// The settings class `Derived` around a record held by value. Everything here is compiled by whoever calls it, and not
 /// exported.
-template <class Record, class Derived> class OMBREL_API EffectSettingsImpl : public EffectSettings
+template <class Record, class Derived> class OMBREL_SHARED_TYPE EffectSettingsImpl : public EffectSettings
 {
 public:
     /// The record of the class.
@@ -84,12 +85,12 @@ public:
         DeserializeWith(tree, &GetSchema, const_cast<void*>(GetStored()));
     }
 
-    [[gnu::cold]] OMBREL_LOCAL std::unique_ptr<const IPropertyAccess> GetPropertyAccess() const override
+    OMBREL_COLD OMBREL_LOCAL std::unique_ptr<const IPropertyAccess> GetPropertyAccess() const override
     {
         return MakePropertyAccess(StoresItself<Derived> ? nullptr : &GetSchema, &settings);
     }
 
-    [[gnu::cold]] OMBREL_LOCAL std::unique_ptr<IPropertyAccess> GetPropertyAccess() override
+    OMBREL_COLD OMBREL_LOCAL std::unique_ptr<IPropertyAccess> GetPropertyAccess() override
     {
         return MakePropertyAccess(StoresItself<Derived> ? nullptr : &GetSchema, &settings);
     }
@@ -102,12 +103,12 @@ public:
     OMBREL_LOCAL const Proc::Settings& GetEffectSettings() const override { return settings; }
     OMBREL_LOCAL Proc::Settings& GetEffectSettingsRef() override { return settings; }
 
-    [[gnu::cold]] OMBREL_LOCAL void SetEffectSettings(const Proc::Settings& other) override
+    OMBREL_COLD OMBREL_LOCAL void SetEffectSettings(const Proc::Settings& other) override
     {
         settings = dynamic_cast<const Record&>(other);
     }
 
-    [[gnu::cold]] OMBREL_LOCAL void Add(const IEffectSettings& other) override { Add(dynamic_cast<const Derived&>(other)); }
+    OMBREL_COLD OMBREL_LOCAL void Add(const IEffectSettings& other) override { Add(dynamic_cast<const Derived&>(other)); }
 
     OMBREL_LOCAL bool operator==(const IEffectSettings& other) const override
     {
@@ -152,7 +153,7 @@ private:
 
 /// Adds how many input images the effect takes.
 template <class Record, class Derived, IEffectSettings::InputType Input>
-class OMBREL_API EffectSettingsInput : public EffectSettingsImpl<Record, Derived>
+class OMBREL_SHARED_TYPE EffectSettingsInput : public EffectSettingsImpl<Record, Derived>
 {
 public:
     using EffectSettingsImpl<Record, Derived>::EffectSettingsImpl;
@@ -163,7 +164,7 @@ public:
 /// Marks a class whose stored form comes from a field list: the record's, or the class's own where it has one. The former also
 /// has a property access, the latter has none.
 template <class Record, class Derived, IEffectSettings::InputType Input>
-class OMBREL_API EffectSettingsReflection : public EffectSettingsInput<Record, Derived, Input>
+class OMBREL_SHARED_TYPE EffectSettingsReflection : public EffectSettingsInput<Record, Derived, Input>
 {
 public:
     using EffectSettingsInput<Record, Derived, Input>::EffectSettingsInput;

@@ -1,6 +1,7 @@
 #ifndef OMBREL_PROC_REFLECTION_FOLDS_H
 #define OMBREL_PROC_REFLECTION_FOLDS_H
 
+#include "OmbrelCompiler.h"
 #include "OmbrelLasting.h"
 #include "Proc/Reflection/DefaultRecord.h"
 #include "Proc/Reflection/FieldList.h"
@@ -111,7 +112,7 @@ struct Folds<Record, FieldList<Descriptors...>, std::index_sequence<Index...>>
         std::array<PropertyTree*, List::SIZE> children;
         WriteTargets targets(SCHEMA, target, others, isNew.data(), children.data());
         // Without the expectation each field would be encoded out of line, with a jump there and back.
-        ((__builtin_expect(written[PLACES[Index] / FIELDS_OF_A_WORD] >> PLACES[Index] % FIELDS_OF_A_WORD & 1, 1) != 0
+        ((IsLikely((written[PLACES[Index] / FIELDS_OF_A_WORD] >> PLACES[Index] % FIELDS_OF_A_WORD & 1) != 0)
               ? (targets.Come(Index), Descriptors::Write(*children[PLACES[Index]], record, flags))
               : void()),
          ...);

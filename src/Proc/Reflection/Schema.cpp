@@ -1,5 +1,6 @@
 #include "Proc/Reflection/Schema.h"
 
+#include "OmbrelCompiler.h"
 #include "PropertyTree/KnownTexts.h"
 #include "PropertyTree/PropertyTreeMapFiller.h"
 
@@ -53,7 +54,7 @@ template <class Action> void ForEach(std::span<const FieldBits> words, Action ac
 }
 
 // Two threads that come here at once store the same.
-[[gnu::noinline]] void FindKnownKeys(const RecordSchema& schema)
+OMBREL_NOINLINE void FindKnownKeys(const RecordSchema& schema)
 {
     const KnownTexts* texts = KnownTexts::Get();
     for (std::size_t place = 0; texts && place != schema.fields.size(); ++place)

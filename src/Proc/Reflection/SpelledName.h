@@ -4,12 +4,21 @@
 #include "OmbrelExport.h"
 
 #include <cstddef>
+#include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace Ombrel::Proc
 {
 namespace SpelledNameDetail
 {
+
+constexpr bool IsNameCharacter(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+}
+
+#if defined(__GNUC__) || defined(__clang__)
 
 // The compiler gives the template argument in the function's name: "... [with auto Member = &Record::m_radius]". The functions
 // must not return a class, whose name would follow the argument.
@@ -23,14 +32,77 @@ template <class Type> constexpr const char* Spelling()
     return __PRETTY_FUNCTION__;
 }
 
-constexpr bool IsNameCharacter(char c)
+constexpr const char* EndOfNames(const char* spelling)
 {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+    return spelling + __builtin_strlen(spelling);
 }
+
+#else
+
+// Microsoft's compiler spells a member pointer as a number, but the address of a member by name: "const char *__cdecl
+// Ombrel::...::SpelledAddress<&Ombrel::...::AN_OBJECT<struct Record>->m_radius>(void)". A function is spelled with its
+// parameters. The object is only named: it exists nowhere.
+template <class Record> extern const Record AN_OBJECT;
+
+template <class Type> constexpr const char* Spelling()
+{
+    return __FUNCSIG__;
+}
+
+template <const auto* Address> constexpr const char* SpelledAddress()
+{
+    return __FUNCSIG__;
+}
+
+template <auto Function> constexpr const char* SpelledFunction()
+{
+    return __FUNCSIG__;
+}
+
+template <class Record, class Value> Record RecordOf(Value Record::*);
+
+template <auto Member> constexpr const char* Spelling()
+{
+    if constexpr (std::is_member_function_pointer_v<decltype(Member)>)
+    {
+        return SpelledFunction<Member>();
+    }
+    else
+    {
+        return SpelledAddress<&(AN_OBJECT<decltype(RecordOf(Member))>.*Member)>();
+    }
+}
+
+// Behind the argument stands ">(void)", and in front of that the parameters of a function.
+constexpr const char* EndOfNames(const char* spelling)
+{
+    const char* end = spelling + std::char_traits<char>::length(spelling);
+    while (*--end != '>')
+    {
+    }
+    const char* last = end;
+    while (last[-1] == ' ' || IsNameCharacter(last[-1])) // "const", "noexcept"
+    {
+        --last;
+    }
+    if (last[-1] != ')')
+    {
+        return end;
+    }
+    int open = 0;
+    do
+    {
+        --last;
+        open += *last == ')' ? 1 : *last == '(' ? -1 : 0;
+    } while (open != 0);
+    return last;
+}
+
+#endif
 
 constexpr std::string_view LastName(const char* spelling)
 {
-    const char* end = spelling + __builtin_strlen(spelling);
+    const char* end = EndOfNames(spelling);
     while (!IsNameCharacter(end[-1]))
     {
         --end;

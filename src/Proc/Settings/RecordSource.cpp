@@ -3,12 +3,12 @@
 namespace Ombrel::Proc
 {
 
-std::string ClassIdText(const char* name)
+std::string ClassIdText(ClassName name)
 {
     return name;
 }
 
-const void* NewClassId(const char* name)
+const void* NewClassId(ClassName name)
 {
     return new std::string(name);
 }

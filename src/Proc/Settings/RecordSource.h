@@ -11,9 +11,17 @@
 namespace Ombrel::Proc
 {
 
+// A `CLASS_NAME`. On Windows a class that is exported exports those of its constants that have an address, and callers may
+// refer to this one.
+#ifdef _WIN32
+using ClassName = const char* const&;
+#else
+using ClassName = const char*;
+#endif
+
 // These are compiled once. A `std::string` that is made in place would be a tenth of what the compiler does for a small record.
-OMBREL_API std::string ClassIdText(const char* name);
-OMBREL_API const void* NewClassId(const char* name); // a std::string
+OMBREL_API std::string ClassIdText(ClassName name);
+OMBREL_API const void* NewClassId(ClassName name); // a std::string
 OMBREL_API void DeleteClassId(const void* id) noexcept;
 
 template <class Class> const void* NewClassIdOf()

@@ -34,14 +34,14 @@ struct StoredColor
 
 /// As a list of maps with "key" and "value", in ascending order of the keys. On reading, entries that the list does not name
 /// stay, and a key that stands twice takes the later colour.
-template <> struct OMBREL_API Codec<std::map<std::uint8_t, RgbaColor>>
+template <> struct Codec<std::map<std::uint8_t, RgbaColor>>
 {
     using Value = std::map<std::uint8_t, RgbaColor>;
 
     static constexpr ValueSchema SCHEMA{.kind = ValueKind::ColorMap, .element = &SCHEMA_OF<StoredColor>};
 
-    static void Write(PropertyTree& child, const Value& value, const WriteFlags* flags);
-    static void Read(const PropertyTree& child, Value& value, const ReadFlags* flags);
+    OMBREL_API static void Write(PropertyTree& child, const Value& value, const WriteFlags* flags);
+    OMBREL_API static void Read(const PropertyTree& child, Value& value, const ReadFlags* flags);
 };
 
 } // namespace Ombrel::Proc

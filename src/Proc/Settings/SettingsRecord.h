@@ -1,6 +1,7 @@
 #ifndef OMBREL_PROC_SETTINGS_SETTINGS_RECORD_H
 #define OMBREL_PROC_SETTINGS_SETTINGS_RECORD_H
 
+#include "OmbrelCompiler.h"
 #include "Proc/Settings/Settings.h"
 
 #include <string>
@@ -18,11 +19,11 @@ public:
     const std::string& GetClassId() const override { return Record::CLASS_ID; }
 
     /// A new copy, which the caller owns.
-    [[gnu::cold]] Settings* Clone() const override { return new Record(static_cast<const Record&>(*this)); }
+    OMBREL_COLD Settings* Clone() const override { return new Record(static_cast<const Record&>(*this)); }
 
     /// Evaluates `other == *this`.
     /// @throws std::bad_cast if `other` is a record of another type
-    [[gnu::cold]] bool IsEqualTo(const Settings& other) const override
+    OMBREL_COLD bool IsEqualTo(const Settings& other) const override
     {
         return dynamic_cast<const Record&>(other) == static_cast<const Record&>(*this);
     }
