@@ -1,6 +1,8 @@
 #ifndef OMBREL_COMPILER_H
 #define OMBREL_COMPILER_H
 
+#include "OmbrelExport.h"
+
 // What compilers call by names of their own.
 
 #if defined(__GNUC__) || defined(__clang__)
