@@ -7,14 +7,63 @@
 #include <limits>
 #include <new>
 
+#ifdef _WIN32
+#include <malloc.h>
+#endif
+
 namespace
 {
 
 constexpr std::size_t UNLIMITED = std::numeric_limits<std::size_t>::max();
 constexpr std::size_t FILLED = 1 << 20; // of larger memory, so much; a test may ask for more than it touches
 
+#ifdef _WIN32
+
+// What this allocates the DLL of the standard library may release, and the other way round. The system remembers the sizes.
+void* NewBlock(std::size_t size)
+{
+    return std::malloc(size);
+}
+
+std::size_t SizeOf(void* memory)
+{
+    return ::_msize(memory);
+}
+
+void FreeBlock(void* memory)
+{
+    std::free(memory);
+}
+
+#else
+
 // The size of each block stands before it: what malloc gives beyond it depends on what was freed before.
 constexpr std::size_t HEADER = alignof(std::max_align_t);
+
+void* NewBlock(std::size_t size)
+{
+    void* block = std::malloc(HEADER + size);
+    if (!block)
+    {
+        return nullptr;
+    }
+    std::memcpy(block, &size, sizeof(size));
+    return static_cast<char*>(block) + HEADER;
+}
+
+std::size_t SizeOf(void* memory)
+{
+    std::size_t size = 0;
+    std::memcpy(&size, static_cast<char*>(memory) - HEADER, sizeof(size));
+    return size;
+}
+
+void FreeBlock(void* memory)
+{
+    std::free(static_cast<char*>(memory) - HEADER);
+}
+
+#endif
 
 thread_local std::size_t t_successesLeft = UNLIMITED;
 thread_local bool t_onlyOnce = false;
@@ -39,12 +88,10 @@ void* Allocate(std::size_t size)
     {
         --t_successesLeft;
     }
-    if (void* block = std::malloc(HEADER + size))
+    if (void* memory = NewBlock(size))
     {
-        std::memcpy(block, &size, sizeof(size));
         t_held += size;
         t_peak = std::max(t_peak, t_held);
-        void* memory = static_cast<char*>(block) + HEADER;
         std::memset(memory, 0xA5, std::min(size, FILLED)); // fresh pages are zero, which hides that nothing was written there
         return memory;
     }
@@ -55,11 +102,8 @@ void Release(void* memory)
 {
     if (memory)
     {
-        void* block = static_cast<char*>(memory) - HEADER;
-        std::size_t size = 0;
-        std::memcpy(&size, block, sizeof(size));
-        t_held -= size;
-        std::free(block);
+        t_held -= SizeOf(memory);
+        FreeBlock(memory);
     }
 }
 
