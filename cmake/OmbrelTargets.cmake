@@ -102,7 +102,7 @@ endfunction()
 function(ombrel_test_defaults target)
   ombrel_defaults(${target})
   target_compile_options(${target} PRIVATE $<$<NOT:$<BOOL:${MSVC}>>:-Wno-null-dereference>
-    "$<$<CXX_COMPILER_ID:GNU>:-Wno-array-bounds;-Wno-stringop-overflow;-Wno-restrict>")
+    "$<$<CXX_COMPILER_ID:GNU>:-Wno-array-bounds;-Wno-stringop-overflow;-Wno-stringop-overread;-Wno-restrict>")
 endfunction()
 
 # ombrel_exports(target symbol) lets the headers say on Windows what the library exports and what its callers import: the target is
