@@ -14,7 +14,9 @@
 // comes from another file: a library is built with OMBREL_BUILDS_ and its name, and whoever links the static libraries defines
 // OMBREL_STATIC, as the CMake package and pkg-config do.
 #ifndef _WIN32
+/// What the marks of a library mean while it is built.
 #define OMBREL_EXPORTED __attribute__((visibility("default")))
+/// What they mean to its callers.
 #define OMBREL_IMPORTED OMBREL_EXPORTED
 /// Marks a type that exists in headers alone and is one type in all libraries: what is thrown, and bases of exported classes.
 #define OMBREL_SHARED_TYPE OMBREL_EXPORTED

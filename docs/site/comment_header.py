@@ -145,7 +145,7 @@ def main():
         owner = classes[-1][1] if classes else ""
         added = []
 
-        definition = re.match(r"(?:template <.*> )?(?:class|struct) (?:OMBREL_API )?(?:[\w:]+::)?(\w+)(?: final)?(?: : .*)?$", code)
+        definition = re.match(r"(?:template <.*> )?(?:class|struct) (?:OMBREL_[A-Z_]+ )?(?:[\w:]+::)?(\w+)(?: final)?(?: : .*)?$", code)
         enumeration = re.match(r"enum class (\w+)", code)
         name = re.search(r"(~?\w+|operator\W+)\(", code) or re.search(r"(\w+)(?:;| = |\{)", code)
         name = name[1] if name else ""
@@ -163,7 +163,7 @@ def main():
                 added += [f"@see {shown_in}"] if shown_in else []
         elif not has_comment:
             for pattern, comment in KNOWN:
-                if re.match(r"(OMBREL_API |OMBREL_LOCAL )*" + pattern.replace("{}", re.escape(owner or "-")), code):
+                if re.match(r"(OMBREL_[A-Z_]+ )*" + pattern.replace("{}", re.escape(owner or "-")), code):
                     added.append(comment)
                     break
             else:
@@ -177,7 +177,7 @@ def main():
                     added.append(comment)
                 elif beside := re.search(r"[;,}] +// (.+)$", code):
                     added.append(beside[1])
-        elif indentation == 0 and shown_in and code.startswith("OMBREL_API"):
+        elif indentation == 0 and shown_in and re.match(r"OMBREL_[A-Z_]*API ", code):
             added.append(f"@see {shown_in}")
         if has_comment or added:
             documented.add(name)

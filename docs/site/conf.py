@@ -15,7 +15,7 @@ version = release = os.environ["OMBREL_VERSION"]
 extensions = ["myst_parser"]
 root_doc = "docs/site/index"
 include_patterns = ["README.md", "CHANGELOG.md", "CONTRIBUTING.md", "SECURITY.md", "docs/**.md", "packaging/*.md"]
-exclude_patterns = ["docs/reference/notes", "docs/site/api.md"]
+exclude_patterns = ["build*", ".git", "docs/reference/notes", "docs/site/api.md"]  # a build may have links to anywhere
 myst_heading_anchors = 6
 highlight_language = "text"
 suppress_warnings = ["misc.highlighting_failure"]  # examples with "..." are no JSON
