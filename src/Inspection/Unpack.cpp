@@ -52,7 +52,7 @@ private:
         }
         case 5:
         {
-            std::string text(Number(), '\0');
+            std::string text(Size(), '\0');
             for (char& character : text)
             {
                 character = static_cast<char>(m_packed[m_next++]);
@@ -62,7 +62,7 @@ private:
         case 6:
         case 7:
         {
-            const std::size_t count = Number();
+            const std::size_t count = Size();
             PropertyTree::List& list = part.makeList(count);
             for (std::size_t index = 0; index != count; ++index)
             {
@@ -85,7 +85,9 @@ private:
         }
     }
 
-    const PropertyTree& Reference() { return m_parts[m_parts.size() - Number()]; }
+    const PropertyTree& Reference() { return m_parts[m_parts.size() - Size()]; }
+
+    std::size_t Size() { return static_cast<std::size_t>(Number()); }
 
     std::uint64_t Number()
     {
