@@ -4,10 +4,11 @@
 
 #include <array>
 #include <atomic>
-#include <barrier>
+#include <condition_variable>
 #include <cstddef>
 #include <functional>
-#include <latch>
+#include <memory>
+#include <mutex>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -23,17 +24,46 @@ namespace
 
 constexpr std::size_t THREADS = 8;
 
+// Where `count` threads wait for each other. Not std::barrier: with libstdc++ 12 for Windows a thread was seen to wait for
+// ever, though all had come.
+class MeetingPoint
+{
+public:
+    explicit MeetingPoint(std::size_t count) : m_missing(count) {}
+
+    void Arrive()
+    {
+        const std::lock_guard lock(m_mutex);
+        if (--m_missing == 0)
+        {
+            m_complete.notify_all();
+        }
+    }
+
+    void ArriveAndWait()
+    {
+        Arrive();
+        std::unique_lock lock(m_mutex);
+        m_complete.wait(lock, [this] { return m_missing == 0; });
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_complete;
+    std::size_t m_missing;
+};
+
 // Runs `work` with the thread's number on all threads, which begin at the same moment.
 void OnAllThreads(const std::function<void(std::size_t)>& work)
 {
-    std::barrier start(THREADS);
+    MeetingPoint start(THREADS);
     std::vector<std::thread> threads;
     for (std::size_t number = 0; number < THREADS; ++number)
     {
         threads.emplace_back(
             [&, number]
             {
-                start.arrive_and_wait();
+                start.ArriveAndWait();
                 work(number);
             });
     }
@@ -197,11 +227,11 @@ TEST(Threads, ReadOneLargeTree)
 // All threads wait for each other at their deepest point, where they have come deeper together than one of them may.
 TEST(Threads, NestEachByItself)
 {
-    std::latch deepest(THREADS);
+    MeetingPoint deepest(THREADS);
     IEffectSettings::RegisterFactory("waitsForTheOthers",
                                      [&deepest]
                                      {
-                                         deepest.arrive_and_wait();
+                                         deepest.ArriveAndWait();
                                          return IEffectSettings::CreateEffectSettings("EFFECT_ACID");
                                      });
     PropertyTree tree = Map({{"name", "waitsForTheOthers"}});
@@ -219,7 +249,7 @@ TEST(Threads, NestEachByItself)
             }
             catch (const std::length_error& failure)
             {
-                deepest.count_down();
+                deepest.Arrive();
                 ADD_FAILURE() << "thread " << number << ": " << failure.what();
             }
         });
@@ -276,6 +306,7 @@ TEST(Threads, FindWhatAnotherRegisters)
             }
         });
 }
+
 TEST(Threads, FindTheClassesThatAnotherRegisters)
 {
     constexpr int count = 100;
