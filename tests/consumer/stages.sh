@@ -70,8 +70,8 @@ expect "what there is some time for" "== left out for lack of time: asan" "$(tai
 output=$(run --all)
 expect "builds of the stage warnings" "g++,RelWithDebInfo g++,MinSizeRel clang++,RelWithDebInfo clang++,Release clang++,MinSizeRel" \
     "$(sed -n 's,^cmake --build build/,,p' "$work/project/calls" | xargs)"
+expect "the stages and minutes in README.md" "$(sed -n 's/^== \([a-z0-9]*\): about \([0-9]*\) minutes*$/\1 \2/p' <<<"$output")" \
+    "$(sed -n '/^| Stage /,/^$/s/^| `\([a-z0-9]*\)` .* \([0-9]*\) |$/\1 \2/p' "$SOURCE_DIR/README.md")"
 
 output=$(run nonsense)
 expect "usage" "ended with 2" "$(tail -1 <<<"$output")"
-expect "the stages that README.md explains" "$(sed -n 's/.*the stages: //p' <<<"$output")" \
-    "$(sed -n '/^| Stage /,/^$/s/^| `\([a-z0-9]*\)` .*/\1/p' "$SOURCE_DIR/README.md" | xargs)"
