@@ -21,6 +21,7 @@ KNOWN = [
     (r"static constexpr const char\* CLASS_NAME\b", "The class id, as a constant that is there before any initialiser runs."),
     (r"static const std::string CLASS_ID;", "The class id."),
     (r"static const (Proc::)?RecordSchema& Schema\(\)", "What reading, writing and comparing know of the fields."),
+    (r"{}\(\)", "Every member has its default."),
     (r"(explicit )?{}\((const {}|{} const)& ?\w*\)", "Copies."),
     (r"{}\({}&& ?\w*\)", "Moves."),
     (r"{}& operator=\(const {}& ?\w*\)", "Copies."),
@@ -111,10 +112,11 @@ def main():
     records = record_links(sections)
     fields = field_comments()
     shown_in = guides()
-    classes = []  # the classes around the line, with their indentation
-    documented = set()  # the functions of the class that have a comment
+    classes = []  # the classes and the enumeration around the line, with their indentation
+    documented = set()  # the functions of the class that have a comment in the header
     has_comment = False
     block = []  # the last comment; it is for all declarations up to the next empty line
+    plain = []  # the lines of a comment that is not for the reference, but says why functions are deleted
     private_below = None  # how far the private part of a class is indented, as long as the line is in one
     lines = HEADER.read_text().split("\n")
     if not comment_file(lines):
@@ -134,18 +136,23 @@ def main():
             has_comment = True
             print(line)
             continue
-        if not code or code.startswith(("//", "#", "{", "}")) or re.match(r"(public|private|protected):|template\b.*[^;{}]$|requires", code):
+        definition = re.match(r"(?:template <.*> )?(?:class|struct) (?:OMBREL_[A-Z_]+ )?(?:[\w:]+::)?(\w+)(?: final)?(?: : .*)?$", code)
+        goes_on = re.match(r"template\b.*[^;{}]$|requires", code) and not definition
+        if not code or goes_on or code.startswith(("//", "#", "{", "}")) or re.match(r"(public|private|protected):", code):
             has_comment = has_comment and bool(code) and not code.startswith(("#", "}"))
             if not code or code.startswith(("//", "#")):
                 block = []
+                plain = plain + [code.removeprefix("//").strip()] if code.startswith("//") else []
             print(line)
             continue
         while classes and indentation <= classes[-1][0]:
             classes.pop()
+        if indentation > (classes[-1][0] + 4 if classes else 0):
+            print(line)  # what goes on from the line before, or stands in a function
+            continue
         owner = classes[-1][1] if classes else ""
         added = []
 
-        definition = re.match(r"(?:template <.*> )?(?:class|struct) (?:OMBREL_[A-Z_]+ )?(?:[\w:]+::)?(\w+)(?: final)?(?: : .*)?$", code)
         enumeration = re.match(r"enum class (\w+)", code)
         name = re.search(r"(~?\w+|operator\W+)\(", code) or re.search(r"(\w+)(?:;| = |\{)", code)
         name = name[1] if name else ""
@@ -161,6 +168,8 @@ def main():
                 added.append(f"The parameters of [{records[name][0]}]({records[name][1]}), which has their keys, kinds and defaults.")
             if has_comment or added:
                 added += [f"@see {shown_in}"] if shown_in else []
+        elif not has_comment and plain and code.endswith("= delete;"):
+            added.append(" ".join(plain))
         elif not has_comment:
             for pattern, comment in KNOWN:
                 if re.match(r"(OMBREL_[A-Z_]+ )*" + pattern.replace("{}", re.escape(owner or "-")), code):
@@ -171,16 +180,19 @@ def main():
                     added.append(fields[owner, name])
                 elif block and name:
                     added.append(" ".join(block))
-                elif name and name in documented:
-                    added.append("The same, for other arguments.")
-                elif enumeration and (comment := enumeration_comment(enumeration[1], owner, sections, records)):
-                    added.append(comment)
                 elif beside := re.search(r"[;,}] +// (.+)$", code):
                     added.append(beside[1])
+                elif name and name in documented:
+                    added.append("The same, " + ("of a constant object." if re.search(r"\) const\b", code) else "for other arguments."))
+                elif enumeration and (comment := enumeration_comment(enumeration[1], owner, sections, records)):
+                    added.append(comment)
         elif indentation == 0 and shown_in and re.match(r"OMBREL_[A-Z_]*API ", code):
             added.append(f"@see {shown_in}")
-        if has_comment or added:
+        if has_comment and not definition:
             documented.add(name)
+        if enumeration and not code.endswith(";"):
+            block = []
+            classes.append((indentation, enumeration[1]))
         has_comment = False
         # Doxygen joins it with a comment before it.
         comment = f"/** {' '.join(added)} */ " if added else ""

@@ -84,6 +84,7 @@ OMBREL_INSPECTION_API ChangeList Joined(ChangeList first, const ChangeList& seco
 class OMBREL_INSPECTION_API ConflictError : public std::runtime_error
 {
 public:
+    /// Found `found` at `place` where `expected` should be; nothing stands for a value that is not there.
     ConflictError(const Path& place, const std::optional<PropertyTree>& expected, const std::optional<PropertyTree>& found);
     ConflictError(const ConflictError&) noexcept;
     ConflictError& operator=(const ConflictError&) noexcept;

@@ -30,6 +30,7 @@ struct JsonPatchOptions
 class OMBREL_INSPECTION_API JsonPatchError : public std::runtime_error
 {
 public:
+    /// The operation counts from 0.
     JsonPatchError(std::size_t operation, const std::string& reason);
     JsonPatchError(const JsonPatchError&) noexcept;
     JsonPatchError& operator=(const JsonPatchError&) noexcept;

@@ -29,6 +29,7 @@ public:
     Path& operator=(Path&&) noexcept = default;
     OMBREL_INSPECTION_API ~Path();
 
+    /// The steps in their order.
     explicit Path(std::vector<PathStep> steps) noexcept : m_ownSteps(std::move(steps)) {}
 
     /// The steps of `start`, if it is not null, and then `ownSteps`.

@@ -43,11 +43,14 @@ public:
     using Map = PropertyTreeMap;
     using List = std::vector<PropertyTree>;
 
+    /// A null tree.
     PropertyTree() noexcept : m_null{} {}
+
     PropertyTree(const PropertyTree& other);
 
     PropertyTree(PropertyTree&& other) noexcept : PropertyTree() { Take(other); }
 
+    /// A scalar tree.
     PropertyTree(PropertyTreeScalar scalar) noexcept : m_scalar(std::move(scalar)) {}
 
     /// Anything that makes a scalar makes a scalar tree: `tree["radius"] = 3`.
@@ -80,6 +83,7 @@ public:
         return *this;
     }
 
+    /// A scalar tree of `value`, which may stand in this tree.
     template <class T>
     requires(std::constructible_from<PropertyTreeScalar, T> &&
              !std::same_as<std::remove_cvref_t<T>, PropertyTree>) PropertyTree&

@@ -200,6 +200,7 @@ public:
     using reverse_iterator = std::reverse_iterator<iterator>;
     using const_reverse_iterator = std::reverse_iterator<const_iterator>;
 
+    /// An empty map.
     PropertyTreeMap() noexcept = default;
     PropertyTreeMap(const PropertyTreeMap& other);
     PropertyTreeMap(PropertyTreeMap&& other) noexcept : m_root(std::exchange(other.m_root, nullptr)) { OwnRoot(); }
@@ -289,6 +290,7 @@ public:
     /// Inserts the entry that `arguments` construct unless its key is there already. Of a key and a value no pair is made.
     template <class... Arguments> std::pair<iterator, bool> emplace(Arguments&&... arguments);
 
+    /// Inserts `value` under `key` unless there is one already.
     template <std::convertible_to<std::string_view> Key, class Value>
     requires(!PropertyTreeNoKey<std::remove_cvref_t<Key>>) std::pair<iterator, bool> emplace(Key&& key, Value&& value)
     {

@@ -46,8 +46,10 @@ public:
         String = 4,
     };
 
+    /// A bool.
     PropertyTreeScalar(std::same_as<bool> auto value) noexcept : m_kind(Number(Kind::Bool)), m_bits(value) {}
 
+    /// The bool that `value` stands for.
     template <PropertyTreeBoolLike T>
     requires(!std::same_as<T, bool>) PropertyTreeScalar(const T& value)
     noexcept : PropertyTreeScalar(static_cast<bool>(value)) {}
@@ -58,11 +60,13 @@ public:
     requires(!std::same_as<T, bool> && !PropertyTreeCharacter<T>) PropertyTreeScalar(T value)
     noexcept : m_kind(Number(Kind::Integer)), m_bits(static_cast<std::uint64_t>(value)) {}
 
+    /// A float, widened to 64 bits.
     PropertyTreeScalar(std::floating_point auto value) noexcept
         : m_kind(Number(Kind::Float)), m_bits(std::bit_cast<std::uint64_t>(static_cast<double>(value)))
     {
     }
 
+    /// A string.
     /// @throws std::bad_alloc, as for every text
     PropertyTreeScalar(std::string value) : m_kind(Number(Kind::String)), m_text(Own(std::move(value), m_kind)) {}
 
@@ -71,6 +75,7 @@ public:
     /// Copies up to the terminating zero; `text` must not be null.
     PropertyTreeScalar(const char* text) : PropertyTreeScalar(std::string(text)) {}
 
+    // A null pointer is no text, and a single character no number.
     PropertyTreeScalar(std::nullptr_t) = delete;
     template <PropertyTreeCharacter T> PropertyTreeScalar(T) = delete;
 

@@ -66,6 +66,7 @@ struct JsonWriteOptions
 class OMBREL_JSON_API JsonError : public std::runtime_error
 {
 public:
+    /// The arguments are what the members below give.
     JsonError(std::size_t line, std::size_t column, const std::string& path, const std::string& reason);
     ~JsonError() override;
 
@@ -90,6 +91,7 @@ private:
 class OMBREL_JSON_API JsonWriteError : public std::runtime_error
 {
 public:
+    /// The arguments are what the members below give.
     JsonWriteError(const std::string& path, const std::string& reason);
     ~JsonWriteError() override;
 

@@ -132,9 +132,10 @@ public:
     OMBREL_LOCAL virtual void Add(const Derived&) {}
 
 protected:
-    // Whether the stored form comes from a field list; the reflection layer says that it does.
+    /// Whether the stored form comes from a field list; the reflection layer says that it does.
     static consteval bool UsesFieldList() { return false; }
 
+    /// The record.
     Record settings;
 
 private:

@@ -41,6 +41,7 @@ public:
     /// An empty grid.
     TileSettings();
 
+    /// A grid of empty cells.
     /// @throws what `SetSize` throws
     TileSettings(std::uint64_t width, std::uint64_t height);
 

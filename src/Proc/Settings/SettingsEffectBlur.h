@@ -36,6 +36,7 @@ public:
         RelativeMin = 3,
     };
 
+    /// A blur by `algorithm`, with the defaults of all other values.
     explicit SettingsEffectBlur(Algorithm algorithm) : m_algorithm(algorithm) {}
 
     /// A Gaussian blur.

@@ -32,6 +32,8 @@ public:
     };
 
     SettingsEffectGrayscale() = default;
+
+    /// By `method`.
     explicit SettingsEffectGrayscale(GrayscaleMethod method) : m_method(method) {}
 
     /// True if `m_method` is `Empty`.

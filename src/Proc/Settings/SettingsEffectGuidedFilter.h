@@ -18,6 +18,8 @@ public:
     const std::string& GetClassId() const override;
 
     SettingsEffectGuidedFilter() = default;
+
+    /// All three values, without a check.
     SettingsEffectGuidedFilter(std::int32_t radius, std::int32_t depth, double eps);
 
     /// True if one of the three values is 0.

@@ -28,6 +28,7 @@ public:
         Poisson = 5,
     };
 
+    /// Noise of `strength` by `method`.
     SettingsEffectNoiseVideo(std::int32_t strength, Method method) : m_method(method), m_strength(strength) {}
 
     /// Gaussian noise of strength 0.

@@ -19,6 +19,7 @@ public:
 
     SettingsEffectReduceLocalLuma() = default;
 
+    /// All five values, without a check.
     SettingsEffectReduceLocalLuma(std::int32_t x, std::int32_t y, std::int32_t width, std::int32_t height, double strength)
         : m_x(x), m_y(y), m_width(width), m_height(height), m_strength(strength)
     {
