@@ -99,6 +99,7 @@ public:
     /// Whether the masks are equal.
     bool IsAlphaEqual(const SettingsEffectMaskBlender& other) const;
 
+    /// Whether the effects of the foreground, or of the background, are equal.
     /// @throws what the comparison of two effects throws
     bool IsFgEffectsEqual(const SettingsEffectMaskBlender& other) const;
     bool IsBgEffectsEqual(const SettingsEffectMaskBlender& other) const;

@@ -29,6 +29,7 @@ public:
     /// A new copy, which the caller owns.
     virtual Settings* Clone() const = 0;
 
+    /// Whether this record equals `other`.
     /// @throws std::bad_cast if `other` is a record of another type
     virtual bool IsEqualTo(const Settings& other) const = 0;
 
