@@ -66,7 +66,7 @@ struct JsonWriteOptions
 class OMBREL_JSON_API JsonError : public std::runtime_error
 {
 public:
-    /// The arguments are what the members below give.
+    /// `reason` is the end of `what()`; members give the rest.
     JsonError(std::size_t line, std::size_t column, const std::string& path, const std::string& reason);
     ~JsonError() override;
 
@@ -91,7 +91,7 @@ private:
 class OMBREL_JSON_API JsonWriteError : public std::runtime_error
 {
 public:
-    /// The arguments are what the members below give.
+    /// `reason` is the end of `what()`; members give the rest.
     JsonWriteError(const std::string& path, const std::string& reason);
     ~JsonWriteError() override;
 
